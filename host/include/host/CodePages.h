@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// The name of the process code page: UTF-8 unless the host program says
+/// otherwise.
+const char* KORVAMBDefaultCodePage();
+
+/// UTF-16 as bytes of the process code page.
+std::string KORVAMBTranscodeGeneric(std::u16string_view text);
+
+/// The longest prefix of at most `maxLength` bytes of a text in the process code
+/// page that cuts no character, combined characters included.
+std::string KORVAMBStringTruncate_A(std::string_view text, int maxLength);
+
+namespace host {
+
+/// Sets the process code page by name. False, and no change, for a name that is
+/// not known. A registry that already runs keeps the page it started with.
+bool setProcessCodePage(std::string_view name);
+
+} // namespace host

@@ -1,0 +1,149 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// One 8-byte cell of an observation as procedures pass it: a number, or eight
+/// bytes of a string value, which takes as many cells as it needs.
+union OBS {
+  double number;
+  char bytes[8];
+};
+
+/// A display format: type code, width and decimals, packed into one long as
+/// type << 16 | width << 8 | decimals, each part 0 to 255.
+class KORVA_Format {
+public:
+  KORVA_Format(int type, int width, int decimals)
+      : type_(type), width_(width), decimals_(decimals) {}
+  explicit KORVA_Format(long packed);
+
+  operator long() const;
+
+  int TypeEx() const { return type_; }
+  int Width() const { return width_; }
+  int Decimals() const { return decimals_; }
+
+private:
+  int type_;
+  int width_;
+  int decimals_;
+};
+
+/// The value labels of a variable, in the order of its description.
+class KORVA_ValueLabelMap {
+public:
+  /// `width` is 0 for numeric values, else the bytes of a string value.
+  explicit KORVA_ValueLabelMap(int width = 0) : width_(width) {}
+
+  void add(double value, std::string label);
+  void add(const std::string& value, std::string label);
+
+  int Size() const { return static_cast<int>(numeric_.size() + texts_.size()); }
+
+  /// The label of a value, or null. A string value is compared over the
+  /// variable's width, trailing blanks aside; `value` points at its first cell.
+  const char* GetLabel(const OBS& value) const;
+
+  /// Walks the pairs: start with position 0; false when there are no more. The
+  /// value's cells stay valid while the map lives.
+  bool GetNextPair(int& position, const OBS*& value, const char*& label) const;
+
+private:
+  struct NumericLabel {
+    OBS value;
+    std::string label;
+  };
+  struct TextLabel {
+    std::vector<OBS> value;
+    std::string label;
+  };
+  int width_;
+  std::vector<NumericLabel> numeric_;
+  std::vector<TextLabel> texts_;
+};
+
+/// One column's description.
+class KORVA_Variable {
+public:
+  virtual ~KORVA_Variable() = default;
+
+  /// UTF-8 in the process code page's stead: texts of the data side are bytes of
+  /// the process code page.
+  virtual const char* GetName() const = 0;
+  /// Null or empty when there is no label.
+  virtual const char* GetLabel() const = 0;
+  /// 0 for a numeric variable, else the width in bytes of its string values.
+  virtual int GetType() const = 0;
+  virtual KORVA_Format GetFormat() const = 0;
+  virtual const KORVA_ValueLabelMap& GetValueLabels() const = 0;
+
+  void GetFormatEx(int& type, int& width, int& decimals) const;
+};
+
+/// The columns that a procedure works on.
+class KORVA_DataSource {
+public:
+  virtual ~KORVA_DataSource() = default;
+
+  virtual int ColumnCount() const = 0;
+  /// `index` must be a valid column: 0 <= index < ColumnCount().
+  virtual const KORVA_Variable& GetVariable(int index) const = 0;
+
+  virtual int SplitVariableCount() const { return 0; }
+  /// The column of the i-th split variable; negative when it has no values in
+  /// the row.
+  virtual int SplitVariableIndex(int /*i*/) const { return -1; }
+
+  /// Called by whoever will delete the source from now on.
+  virtual void HandOver() {}
+};
+
+/// The dictionary of a procedure's run: its data set's columns and the list that
+/// maps the run's variable numbers, from 1, to column indexes, from 0.
+class KORVA_FortranDictionary : public KORVA_DataSource {
+public:
+  KORVA_FortranDictionary();
+  ~KORVA_FortranDictionary() override;
+  KORVA_FortranDictionary(const KORVA_FortranDictionary&) = delete;
+  KORVA_FortranDictionary& operator=(const KORVA_FortranDictionary&) = delete;
+
+  /// How many variables the run has.
+  virtual int VariableCount() const = 0;
+  /// The column of variable number v, or -1 when the list is shorter than v.
+  virtual int GetIndex(int v) const = 0;
+
+  /// Whether a pointer that came from outside still names a dictionary.
+  static bool isAlive(const KORVA_FortranDictionary* dictionary);
+
+  /// A dictionary that is in use by a data source outlives its closing.
+  virtual void Use() {}
+  virtual void Release() {}
+};
+
+/// The data as one procedure's run sees it. It does not own the dictionary, but
+/// keeps it in use while it lives.
+class ProcedureDataSource : public KORVA_DataSource {
+public:
+  ProcedureDataSource(void* procedureHandle, KORVA_FortranDictionary* dictionary);
+  ~ProcedureDataSource() override;
+  ProcedureDataSource(const ProcedureDataSource&) = delete;
+  ProcedureDataSource& operator=(const ProcedureDataSource&) = delete;
+
+  int ColumnCount() const override { return dictionary_->ColumnCount(); }
+  const KORVA_Variable& GetVariable(int index) const override {
+    return dictionary_->GetVariable(index);
+  }
+  int SplitVariableCount() const override { return dictionary_->SplitVariableCount(); }
+  int SplitVariableIndex(int i) const override { return dictionary_->SplitVariableIndex(i); }
+
+  const KORVA_FortranDictionary* Parent() const { return dictionary_; }
+  const KORVA_FortranDictionary* DicPtr() const { return dictionary_; }
+  void* ProcedureHandle() const { return procedureHandle_; }
+
+private:
+  void* procedureHandle_;
+  KORVA_FortranDictionary* dictionary_;
+};

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <host/Data.h>
+
+/// Data sets read from files: a data package (datapackage.json in the Table
+/// Schema standard, with its CSV), or a bare CSV.
+namespace host {
+
+/// A data set that cannot be read: what, and where in which file.
+class DataError : public std::runtime_error {
+public:
+  using std::runtime_error::runtime_error;
+};
+
+/// An open data set: the columns' descriptions, all rows, and the variables of
+/// the run. Rows are read once, at opening.
+class DataSet final : public KORVA_FortranDictionary {
+public:
+  /// Opens a data package (its folder, or its datapackage.json) or a CSV file.
+  /// Throws DataError with file, line and column of what is wrong.
+  static std::unique_ptr<DataSet> open(const std::filesystem::path& path);
+
+  ~DataSet() override;
+
+  int ColumnCount() const override;
+  const KORVA_Variable& GetVariable(int index) const override;
+  int SplitVariableCount() const override;
+  int SplitVariableIndex(int i) const override;
+  int VariableCount() const override;
+  int GetIndex(int v) const override;
+  void HandOver() override;
+  void Use() override;
+  void Release() override;
+
+  std::size_t rowCount() const;
+  /// The column of that name, or -1.
+  int findColumn(std::string_view name) const;
+
+  /// Names the run's variables: variable number v is columns[v - 1]. Throws
+  /// DataError for an index outside the data set.
+  void useVariables(std::span<const int> columns);
+  void splitBy(std::span<const int> columns);
+
+  /// How many cells the run's variables take: one for a number, one for every
+  /// eight bytes of a string.
+  std::size_t cellsPerRow() const;
+  /// Writes one row of the run's variables; `cells` has cellsPerRow() room.
+  void readRow(std::size_t row, std::span<OBS> cells) const;
+
+  /// Closes the data set: deletes it at once, or, while a data source uses it or
+  /// somebody else will delete it, drops its rows now and lets them do so.
+  static void close(DataSet* dataSet);
+
+private:
+  struct Contents;
+  explicit DataSet(std::unique_ptr<Contents> contents);
+  std::unique_ptr<Contents> contents_;
+  int users_ = 0;
+  bool handedOver_ = false;
+  bool closed_ = false;
+};
+
+} // namespace host

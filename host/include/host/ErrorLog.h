@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <source_location>
+#include <string>
+
+/// The one place where errors of the builder and of the host arrive.
+namespace host {
+
+struct ErrorReport {
+  std::string message;
+  std::string source; ///< where it was refused: a source path, or empty
+  unsigned line = 0;
+};
+
+using ErrorCallback = std::function<void(const ErrorReport&)>;
+
+/// Takes one report: writes the line
+///   chartxml: <message> [<source>:<line>]
+/// on standard error, or hands it to the callback when one is set, and keeps it
+/// for takeError. Control characters in a message are shown as "\n", "\x01".
+void reportError(ErrorReport report);
+
+/// A report of the host itself, from the caller's place in the code.
+void reportError(std::string message,
+                 std::source_location where = std::source_location::current());
+
+/// Sets who takes the reports instead of standard error; an empty function
+/// restores standard error. The callback may throw KorvaGoToCaller.
+void setErrorCallback(ErrorCallback callback);
+
+/// The oldest report not yet taken, if any. The log keeps the latest 1000.
+std::optional<ErrorReport> takeError();
+
+} // namespace host

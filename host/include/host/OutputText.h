@@ -1,0 +1,81 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// A text of the output: UTF-8 for display, with its English text beside it.
+class OmCellText {
+public:
+  virtual ~OmCellText() = default;
+  virtual std::string Text() const = 0;
+  virtual std::string EnglishText() const = 0;
+};
+
+/// A plain text; its original value is the English text.
+class OmStringCell : public OmCellText {
+public:
+  OmStringCell(std::string text, int, int) : text_(std::move(text)) {}
+
+  void OriginalValue(std::string english) { english_ = std::move(english); }
+
+  std::string Text() const override { return text_; }
+  std::string EnglishText() const override { return english_; }
+
+private:
+  std::string text_;
+  std::string english_;
+};
+
+/// A text assembled from a pattern and parameters. In a pattern "^n" is the n-th
+/// parameter and a backslash takes the next character literally. The English
+/// text is assembled in parallel from the English pattern and parameters.
+class OmComposite : public OmCellText {
+public:
+  /// Takes pattern and original value from `pattern`; the region is unused.
+  OmComposite(const OmStringCell& pattern, void* region, bool);
+  ~OmComposite() override;
+
+  /// The calls below throw ChartException when they come out of order: a
+  /// parameter after End, a repeat list in a repeat list or left open.
+  void Add(const OmCellText& parameter);
+  void BeginRepeatList();
+  void EndRepeatList();
+  void End();
+  /// Assembles the texts; the parse tree and the flag are unused.
+  void Substitute(const void* parseTree, bool);
+
+  /// The assembled text; of a composite that is still open, what it has.
+  std::string Text() const override;
+  std::string EnglishText() const override;
+
+private:
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+/// A cell of the output system, by handle.
+class SkString {
+public:
+  SkString(std::string bytes, int) : bytes_(std::move(bytes)) {}
+  const std::string& bytes() const { return bytes_; }
+
+private:
+  std::string bytes_;
+};
+
+class SkCellText {
+public:
+  /// Keeps a copy of the text in the output system and returns its cell handle,
+  /// from 0 upward.
+  static int Replicate(const SkString& text);
+  /// The bytes behind a cell handle; empty when there are none.
+  static std::string_view text(int handle);
+};
+
+enum class SkErrorShow : int {};
+enum class SkErrorLevel : int {};
+
+/// Puts an entry into the output's error list, which the gallery shows.
+void SkError(const SkString& text, SkErrorShow show, SkErrorLevel level);

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+/// The language of the output: "en", "de", "ja", ...
+class OLang {
+public:
+  static std::string GetLanguageCode();
+};
+
+/// Where things are installed.
+class PathFactory {
+public:
+  /// Kind 3 is the string tables; there is no other kind yet.
+  static const PathFactory& getPathInstance(int kind);
+
+  /// The folder of the compiled string tables: what CHARTXML_STRINGS names, else
+  /// share/chartxml/strings beside the library.
+  std::string stringTablePath() const;
+};
+
+/// The string table: texts by key in the output language, with the English text
+/// beside them.
+class FacSTDictionary {
+public:
+  explicit FacSTDictionary(const std::string& path);
+  ~FacSTDictionary();
+  FacSTDictionary(const FacSTDictionary&) = delete;
+  FacSTDictionary& operator=(const FacSTDictionary&) = delete;
+
+  /// The text of `key` in the output language, in that language's code page, and
+  /// its English text in `english`; the procedure's own table goes before the
+  /// global one, English before nothing. A key that is not known comes back
+  /// unchanged in both. `number` receives the text's length in bytes.
+  std::string LookUp(const std::string& key, int& number, std::string& english) const;
+
+  /// Names the procedure whose own table is asked first. 0, or 1 when the
+  /// procedure has no table of its own: the global one serves alone.
+  int SetProcedure(const std::string& name);
+
+  /// The folder to read tables from. A folder without tables is reported once.
+  void SetGlobalStringTable(const std::string& path);
+
+private:
+  struct Tables;
+  std::unique_ptr<Tables> tables_;
+};
+
+namespace host {
+
+/// Sets the output language; false, and no change, for a code without tables.
+/// A registry that already runs keeps the language it started with.
+bool setOutputLanguage(const std::string& code);
+
+/// The code page of the texts that FacSTDictionary gives for a language.
+std::string codePageOfLanguage(const std::string& code);
+
+/// share/chartxml beside the library, of the build tree or the installed one.
+std::string shareFolder();
+
+} // namespace host

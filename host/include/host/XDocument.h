@@ -1,0 +1,121 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <host/ChartString.h>
+#include <host/VarDataProcessor.h>
+
+/// The statistics that a procedure recorded for a variable, as the output keeps
+/// them.
+class ZephExtension {
+public:
+  virtual ~ZephExtension() = default;
+  void setAttribute(const std::string& name, const std::string& value);
+  const std::vector<std::pair<std::string, std::string>>& attributes() const {
+    return attributes_;
+  }
+
+private:
+  std::vector<std::pair<std::string, std::string>> attributes_;
+};
+
+class ZephExtensionSV : public ZephExtension {
+public:
+  void setValue(double value) { value_ = value; }
+  void setMin(double value) { min_ = value; }
+  void setMax(double value) { max_ = value; }
+
+  std::optional<double> value() const { return value_; }
+  std::optional<double> min() const { return min_; }
+  std::optional<double> max() const { return max_; }
+
+private:
+  std::optional<double> value_, min_, max_;
+};
+
+/// One variable of the parsed chart: its attributes and the description of its
+/// meta.
+class CTVariableType {
+public:
+  std::string id, sourceName, source, label, shortLabel, categorical;
+
+  const std::string& getDescription() const { return description_; }
+  void setDescription(std::string text) { description_ = std::move(text); }
+  void removeDescription() { description_.clear(); }
+
+  ZephExtensionSV* getExtension() const { return extension_.get(); }
+  ZephExtensionSV& addExtension();
+
+private:
+  std::string description_;
+  std::unique_ptr<ZephExtensionSV> extension_;
+};
+
+/// The chart as the output system reads it back from the document.
+class ZephVisualization {
+public:
+  std::vector<CTVariableType>& getSourceVariables() { return variables_; }
+  const std::vector<CTVariableType>& getSourceVariables() const { return variables_; }
+
+  std::optional<bool> icicleHorizontal; ///< set by customizeIciclePlots
+  std::size_t icicleRows = 0;
+
+private:
+  std::vector<CTVariableType> variables_;
+};
+
+class XGraph {
+public:
+  ZephVisualization& getImplementation() { return visualization_; }
+  const ZephVisualization& getImplementation() const { return visualization_; }
+
+private:
+  ZephVisualization visualization_;
+};
+
+/// Adjusts a parsed chart to what its kind needs.
+class customizeCharts {
+public:
+  explicit customizeCharts(ZephVisualization& chart) : chart_(chart) {}
+  /// An icicle plot's orientation and the rows to make room for.
+  void customizeIciclePlots(bool horizontal, std::size_t rows);
+
+private:
+  ZephVisualization& chart_;
+};
+
+/// A finished chart on its way to the output: the document's text, parsed once
+/// for what the output needs of it, and what is sent along. It borrows the text
+/// and the data; both must outlive it.
+class XDocument {
+public:
+  /// Throws ChartException when the text is not well-formed XML. The flags are
+  /// the engine's and mean nothing here.
+  XDocument(const std::string& xml, bool, bool);
+  ~XDocument();
+
+  XGraph* getExternalGraph() { return &graph_; }
+  /// Adjustments for statistical-process charts; they need none yet.
+  void customizeSPCharts();
+
+  void SetDescription(const ChartString& description);
+  void SetSplitHeader(const ChartString& header);
+  void SetChartTemplate(const std::string& name);
+  void SetChartData(const VarDataProcessor* data) { data_ = data; }
+
+  /// Sends the chart to the sink (host/ChartSink.h). False when the sink could
+  /// not take it; the sink has reported why.
+  bool SendChart(bool, bool, bool);
+
+private:
+  const std::string& xml_;
+  XGraph graph_;
+  std::string name_;
+  std::string description_;
+  std::string splitHeader_;
+  std::string template_;
+  const VarDataProcessor* data_ = nullptr;
+};
