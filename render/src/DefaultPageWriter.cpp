@@ -1,0 +1,3 @@
+#include <host/ChartSink.h>
+
+host::PageWriter host::defaultPageWriter() { return {}; }
