@@ -140,10 +140,11 @@ public:
   static xercesc::DOMElement* getChildByTagName(const xercesc::DOMElement& parent,
                                                 const XMLCh* name);
 
+  /// Removes every child; the ids below the element become free.
   static void removeAllChildren(xercesc::DOMElement& element);
 
-  /// A number as text for machines: decimal point '.', never grouped, the
-  /// shortest text that reads back to the same number ("2", "0.1", "1e+300").
+  /// A number as text for machines: decimal point '.', never grouped, the fewest
+  /// digits that read back to the same number ("2", "0.1", "100000", "1e+300").
   static std::string asString(double value);
   static std::string asString(int value);
 

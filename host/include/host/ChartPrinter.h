@@ -8,10 +8,11 @@
 /// feeds and tabs in attributes included.
 class ChartPrinter {
 public:
-  /// Indents elements that hold no text.
+  /// Indents; the texts of elements that hold nothing but text stay as they are.
   void setPrintWhiteSpace(bool on) { printWhiteSpace_ = on; }
 
-  /// Throws ChartException when the document cannot be written.
+  /// Throws ChartException when the document holds a character that XML forbids
+  /// or the stream fails; part of the document may have been written by then.
   void Print(const xercesc::DOMDocument& document, std::ostream& out) const;
 
 private:

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include <host/VarDataProcessor.h>
 #include <host/XDocument.h>
@@ -13,7 +14,7 @@ namespace host {
 
 /// One finished chart; everything is borrowed for the time of the call.
 struct SentChart {
-  const std::string& name; ///< the procedure's name; may be empty
+  const std::string& name; ///< the chart's name, usually its procedure's; may be empty
   const std::string& xml;  ///< the chart document as the builder printed it
   const std::string& description;
   const std::string& splitHeader;
@@ -29,29 +30,46 @@ public:
   /// Takes one chart. Throws ChartException when it cannot; nothing of the chart
   /// is left behind then.
   virtual void send(const SentChart& chart) = 0;
-  /// An entry of the output's error list.
+  /// Takes an entry of the output's error list. Throws ChartException when it
+  /// cannot.
   virtual void noteError(const std::string& text) = 0;
 };
 
 /// The sink in use: the folder sink unless the program set its own.
 ChartSink& chartSink();
-/// Sets the sink; null restores the folder sink.
+/// Sets the sink; null restores the folder sink. Not to be called by a sink while
+/// it takes a chart.
 void setChartSink(std::unique_ptr<ChartSink> sink);
 
 /// What is done beside the bare files: pages for a chart folder that is still
-/// being written aside, and the gallery page of the whole output folder.
+/// being written aside, and the gallery page of the whole output folder. Either
+/// may be empty. They tell of a failure by a std::exception or ChartException.
 struct PageWriter {
   std::function<void(const std::filesystem::path& chartFolder)> writeChart;
   std::function<void(const std::filesystem::path& outputFolder)> writeGallery;
 };
 
-/// Writes one folder a chart below the output folder: chart.xml, a CSV per data
-/// source and manifest.json, then whatever the page writer adds. A folder
-/// appears whole or not at all, numbered in the order sent; processes that share
-/// an output folder take turns by a lock file.
+/// Writes one folder a chart below the output folder, made when it is missing:
+///
+///   0001-<name>/          the number in the order sent, the name in lower-case
+///                         ASCII letters, digits and '-'
+///     chart.xml           the document as sent
+///     <source>.csv        the columns of one data source, named by sourceName; a
+///                         cell that is unset or system-missing is empty; a source
+///                         without columns has no file
+///     manifest.json       what the document does not say: description, language,
+///                         sources with their columns, ...
+///   errors.json           the output's error list: an array of texts
+///
+/// and whatever the page writer adds. A folder appears whole or not at all, the
+/// same chart gives the same bytes, and processes that share an output folder take
+/// turns by the lock file .lock and lose nothing. What a process that died was
+/// writing, .tmp-<process>-<n>/, is removed by the next one.
 class FolderSink final : public ChartSink {
 public:
   explicit FolderSink(PageWriter pages) : pages_(std::move(pages)) {}
+  /// Pages that fail are reported and, in the manifest's "errors", told; the bare
+  /// chart is delivered all the same.
   void send(const SentChart& chart) override;
   void noteError(const std::string& text) override;
 
@@ -65,6 +83,7 @@ PageWriter defaultPageWriter();
 /// The folder that charts go to: what setOutputFolder set, else what
 /// CHARTXML_OUTPUT names, else charts/ below the working directory.
 std::filesystem::path outputFolder();
+/// An empty path takes back what was set.
 void setOutputFolder(std::filesystem::path folder);
 
 } // namespace host

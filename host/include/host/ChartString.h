@@ -35,7 +35,8 @@ public:
   std::string toUTF8ForEng() const;
 
   /// True when the whole text, blanks at either end aside, is a decimal number:
-  /// sign, digits, '.', exponent; not hexadecimal, inf, nan or empty.
+  /// sign, digits, '.', exponent; not hexadecimal, inf, nan or empty, and not
+  /// beyond what a double holds.
   bool isNumber() const;
   /// The number, or the system-missing value when the text is none.
   double convertToDouble() const;

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-/// The name of the process code page: UTF-8 unless the host program says
-/// otherwise.
+/// The name of the process code page: "UTF-8", spelled so, unless the host program
+/// says otherwise.
 const char* KORVAMBDefaultCodePage();
 
 /// UTF-16 as bytes of the process code page.

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
 #include <string>
-#include <utility>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 /// One 8-byte cell of an observation as procedures pass it: a number, or eight
@@ -12,12 +12,20 @@ union OBS {
   char bytes[8];
 };
 
+namespace host {
+/// The cells of a string value of that width in bytes.
+constexpr int cellsOfWidth(int width) { return width <= 8 ? 1 : (width + 7) / 8; }
+/// Writes a text into the first `width` bytes of cells, padded with blanks to
+/// the end of the last cell; a longer text is cut.
+void writeText(std::string_view text, int width, OBS* cells);
+} // namespace host
+
 /// A display format: type code, width and decimals, packed into one long as
 /// type << 16 | width << 8 | decimals, each part 0 to 255.
 class KORVA_Format {
 public:
-  KORVA_Format(int type, int width, int decimals)
-      : type_(type), width_(width), decimals_(decimals) {}
+  /// A part outside 0 to 255 becomes the nearer end.
+  KORVA_Format(int type, int width, int decimals);
   explicit KORVA_Format(long packed);
 
   operator long() const;
@@ -38,13 +46,16 @@ public:
   /// `width` is 0 for numeric values, else the bytes of a string value.
   explicit KORVA_ValueLabelMap(int width = 0) : width_(width) {}
 
-  void add(double value, std::string label);
-  void add(const std::string& value, std::string label);
+  /// Adds a label. False, and no change, for a value that has one. Pointers that
+  /// GetLabel and GetNextPair gave are stale afterwards.
+  bool add(double value, std::string label);
+  bool add(std::string_view value, std::string label);
 
-  int Size() const { return static_cast<int>(numeric_.size() + texts_.size()); }
+  int Size() const { return static_cast<int>(pairs_.size()); }
 
   /// The label of a value, or null. A string value is compared over the
-  /// variable's width, trailing blanks aside; `value` points at its first cell.
+  /// variable's width, trailing blanks aside; `value` is its first cell, and the
+  /// others follow it in memory.
   const char* GetLabel(const OBS& value) const;
 
   /// Walks the pairs: start with position 0; false when there are no more. The
@@ -52,26 +63,28 @@ public:
   bool GetNextPair(int& position, const OBS*& value, const char*& label) const;
 
 private:
-  struct NumericLabel {
-    OBS value;
-    std::string label;
-  };
-  struct TextLabel {
+  struct Pair {
     std::vector<OBS> value;
     std::string label;
   };
+  struct BytesHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view bytes) const {
+      return std::hash<std::string_view>{}(bytes);
+    }
+  };
+  bool add(std::string_view key, std::vector<OBS> value, std::string label);
+
   int width_;
-  std::vector<NumericLabel> numeric_;
-  std::vector<TextLabel> texts_;
+  std::vector<Pair> pairs_;
+  std::unordered_map<std::string, std::size_t, BytesHash, std::equal_to<>> positions_;
 };
 
-/// One column's description.
+/// One column's description. Its texts are bytes of the process code page.
 class KORVA_Variable {
 public:
   virtual ~KORVA_Variable() = default;
 
-  /// UTF-8 in the process code page's stead: texts of the data side are bytes of
-  /// the process code page.
   virtual const char* GetName() const = 0;
   /// Null or empty when there is no label.
   virtual const char* GetLabel() const = 0;
@@ -102,7 +115,9 @@ public:
 };
 
 /// The dictionary of a procedure's run: its data set's columns and the list that
-/// maps the run's variable numbers, from 1, to column indexes, from 0.
+/// maps the run's variable numbers, from 1, to column indexes, from 0. All live
+/// dictionaries stand in one table, so that an address from outside can be
+/// checked before it is used.
 class KORVA_FortranDictionary : public KORVA_DataSource {
 public:
   KORVA_FortranDictionary();
@@ -127,6 +142,7 @@ public:
 /// keeps it in use while it lives.
 class ProcedureDataSource : public KORVA_DataSource {
 public:
+  /// `dictionary` must be alive.
   ProcedureDataSource(void* procedureHandle, KORVA_FortranDictionary* dictionary);
   ~ProcedureDataSource() override;
   ProcedureDataSource(const ProcedureDataSource&) = delete;

@@ -1,11 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <span>
 #include <stdexcept>
-#include <string>
-#include <vector>
+#include <string_view>
 
 #include <host/Data.h>
 
@@ -21,10 +21,16 @@ public:
 
 /// An open data set: the columns' descriptions, all rows, and the variables of
 /// the run. Rows are read once, at opening.
+///
+/// Files are UTF-8; names, labels and values are given out as bytes of the
+/// process code page. A missing number is the system-missing value, a missing
+/// text is empty. Limits: 65 536 columns, 2^31 rows, 32 767 bytes a text.
 class DataSet final : public KORVA_FortranDictionary {
 public:
-  /// Opens a data package (its folder, or its datapackage.json) or a CSV file.
-  /// Throws DataError with file, line and column of what is wrong.
+  /// Opens a data package (its folder, or its datapackage.json), of which the
+  /// first resource is read, or a CSV file. Of a CSV file without description a
+  /// column is a number when all its cells are numbers, empty or NA.
+  /// Throws DataError with file, line and field of what is wrong.
   static std::unique_ptr<DataSet> open(const std::filesystem::path& path);
 
   ~DataSet() override;
@@ -43,24 +49,31 @@ public:
   /// The column of that name, or -1.
   int findColumn(std::string_view name) const;
 
-  /// Names the run's variables: variable number v is columns[v - 1]. Throws
-  /// DataError for an index outside the data set.
+  /// Names the run's variables: variable number v is columns[v - 1]; an empty
+  /// list makes every column a variable, in order, as after opening. Throws
+  /// DataError for an index outside the data set; nothing changes then.
   void useVariables(std::span<const int> columns);
+  /// Names the split variables, likewise; an empty list ends splitting.
   void splitBy(std::span<const int> columns);
 
   /// How many cells the run's variables take: one for a number, one for every
   /// eight bytes of a string.
   std::size_t cellsPerRow() const;
-  /// Writes one row of the run's variables; `cells` has cellsPerRow() room.
+  /// Writes one row of the run's variables; `row` must be below rowCount(), and
+  /// `cells` have cellsPerRow() room. Strings are padded with blanks.
   void readRow(std::size_t row, std::span<OBS> cells) const;
 
   /// Closes the data set: deletes it at once, or, while a data source uses it or
-  /// somebody else will delete it, drops its rows now and lets them do so.
+  /// somebody else will delete it, drops its rows now and lets them do so. A
+  /// pointer that names no live data set, null included, is ignored.
   static void close(DataSet* dataSet);
+  bool isClosed() const { return closed_; }
 
 private:
   struct Contents;
   explicit DataSet(std::unique_ptr<Contents> contents);
+  void checkColumns(std::span<const int> columns) const;
+
   std::unique_ptr<Contents> contents_;
   int users_ = 0;
   bool handedOver_ = false;

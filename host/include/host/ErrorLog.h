@@ -19,7 +19,8 @@ using ErrorCallback = std::function<void(const ErrorReport&)>;
 /// Takes one report: writes the line
 ///   chartxml: <message> [<source>:<line>]
 /// on standard error, or hands it to the callback when one is set, and keeps it
-/// for takeError. Control characters in a message are shown as "\n", "\x01".
+/// for takeError. Control characters are shown as "\n", "\x01" on that line. A
+/// report made while the callback runs goes to standard error.
 void reportError(ErrorReport report);
 
 /// A report of the host itself, from the caller's place in the code.

@@ -5,10 +5,11 @@
  *
  * Every argument is passed by address, integers in 64 bits; a text is its first
  * character and its length in bytes. Results: 0 or more on success, -1 on
- * failure, and the reason is in the error log (korva_geterror_). A data set is
- * named by its dictionary, the address that korva_open_ fills in; passing one
- * that is closed or was never open is reported and refused. Column and variable
- * numbers count from 1, rows from 1. */
+ * failure, and the reason is in the error log (korva_geterror_); a null address
+ * is such a failure, a negative length is an empty text. A data set is named by
+ * its dictionary, the address of a KORVA_FortranDictionary that korva_open_ fills
+ * in; passing one that is closed or was never open is reported and refused.
+ * Column and variable numbers count from 1, rows from 1. */
 
 #include <stdint.h>
 
@@ -37,19 +38,20 @@ KORVA_API int64_t korva_columncount_(void** dictionary);
 /** The column of that name, from 1, or -1. */
 KORVA_API int64_t korva_findcolumn_(void** dictionary, const char* name, const int64_t* length);
 
-/** Names the variables of the run: variable number v is columns[v]. Without this
- *  call every column is a variable, in order. */
+/** Names the variables of the run: variable number v is the v-th of `columns`.
+ *  Without this call, and with count 0, every column is a variable, in order. */
 KORVA_API int64_t korva_usevariables_(void** dictionary, const int64_t* columns,
                                       const int64_t* count);
-/** Names the split variables by column number; count 0 ends splitting. */
-KORVA_API int64_t korva_splitby_(void** dictionary, const int64_t* columns,
-                                 const int64_t* count);
+/** Names the split variables by column number; count 0 ends splitting. Both lists
+ *  have at most 65536 columns and stay as they were when one is refused. */
+KORVA_API int64_t korva_splitby_(void** dictionary, const int64_t* columns, const int64_t* count);
 
 /** Cells of one row of the run's variables: one for a number, one for every
  *  eight bytes of a string value. */
 KORVA_API int64_t korva_cellcount_(void** dictionary);
 /** Reads one row of the run's variables into `cells`, which has room for
- *  `capacity` cells; returns the cells written. */
+ *  `capacity` cells; returns the cells written. A missing number is the
+ *  system-missing value; a string is padded with blanks, a missing one is blank. */
 KORVA_API int64_t korva_readrow_(void** dictionary, const int64_t* row, double* cells,
                                  const int64_t* capacity);
 
@@ -63,8 +65,8 @@ KORVA_API int64_t korva_setlanguage_(const char* code, const int64_t* length);
 /** Any value but 0: a bootstrap run is in progress, charts are not sent. */
 KORVA_API int64_t korva_setbootstrapping_(const int64_t* on);
 
-/** Takes the oldest error not yet taken: writes at most `capacity` bytes of it,
- *  cut at a character, sets `length` to the bytes written and returns 1; 0 when
+/** Takes the oldest error not yet taken: writes at most `capacity` bytes of its
+ *  message, cut at a character, sets `length` to the bytes written and returns 1; 0 when
  *  there is none. */
 KORVA_API int64_t korva_geterror_(char* text, const int64_t* capacity, int64_t* length);
 

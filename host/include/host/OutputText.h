@@ -28,25 +28,37 @@ private:
   std::string english_;
 };
 
-/// A text assembled from a pattern and parameters. In a pattern "^n" is the n-th
-/// parameter and a backslash takes the next character literally. The English
-/// text is assembled in parallel from the English pattern and parameters.
+/// A text assembled from a pattern and parameters. In a pattern
+///
+///   ^n       is the n-th parameter, counted from 1 without those in repeat lists;
+///   [A:B:]n  is the n-th repeat list: A with "%k" shows its first group, B with
+///            "^k" each later one, k being the k-th parameter of the group; groups
+///            are as long as the highest k in A and B;
+///   \        takes the next character literally.
+///
+/// A parameter or list that was not given shows nothing; a "[" that begins no
+/// repeat list is shown as it is. The English text is assembled in parallel from
+/// the English pattern and parameters, each of which is the display text when
+/// there is no English one.
 class OmComposite : public OmCellText {
 public:
   /// Takes pattern and original value from `pattern`; the region is unused.
   OmComposite(const OmStringCell& pattern, void* region, bool);
   ~OmComposite() override;
 
-  /// The calls below throw ChartException when they come out of order: a
-  /// parameter after End, a repeat list in a repeat list or left open.
+  /// The calls below throw ChartException, and change nothing, when they come out
+  /// of order: a parameter after End, a repeat list in a repeat list or left open.
+
+  /// Adds a copy of the parameter's texts, to the repeat list when one is open.
   void Add(const OmCellText& parameter);
   void BeginRepeatList();
   void EndRepeatList();
   void End();
-  /// Assembles the texts; the parse tree and the flag are unused.
+  /// Assembles the texts for good; needs End. The parse tree and the flag are
+  /// unused.
   void Substitute(const void* parseTree, bool);
 
-  /// The assembled text; of a composite that is still open, what it has.
+  /// The assembled text; before Substitute, what the composite has so far.
   std::string Text() const override;
   std::string EnglishText() const override;
 
@@ -70,12 +82,15 @@ public:
   /// Keeps a copy of the text in the output system and returns its cell handle,
   /// from 0 upward.
   static int Replicate(const SkString& text);
-  /// The bytes behind a cell handle; empty when there are none.
+  /// The bytes behind a cell handle, valid until the process ends; empty when
+  /// there are none.
   static std::string_view text(int handle);
 };
 
 enum class SkErrorShow : int {};
 enum class SkErrorLevel : int {};
 
-/// Puts an entry into the output's error list, which the gallery shows.
+/// Puts an entry into the output's error list, which the gallery shows. The two
+/// values are the engine's and mean nothing here. An entry that the output cannot
+/// take is reported, with the reason, as an error.
 void SkError(const SkString& text, SkErrorShow show, SkErrorLevel level);

@@ -46,7 +46,8 @@ private:
 
 class currencyFormat {
 public:
-  /// The record of currency `number`, 0 to 4.
+  /// The record of currency `number`, 0 to 4; another number is reported, and the
+  /// record of no currency given or nothing set.
   static const customCurrency& GetCCX(int number);
   static void SetCCX(int number, customCurrency currency);
 };

@@ -6,13 +6,16 @@
 /// The language of the output: "en", "de", "ja", ...
 class OLang {
 public:
+  /// What setOutputLanguage set, else what CHARTXML_LANG names, else "en". A
+  /// CHARTXML_LANG without tables is reported once and "en" used.
   static std::string GetLanguageCode();
 };
 
 /// Where things are installed.
 class PathFactory {
 public:
-  /// Kind 3 is the string tables; there is no other kind yet.
+  /// Kind 3 is the string tables. There is no other kind yet; another number is
+  /// reported.
   static const PathFactory& getPathInstance(int kind);
 
   /// The folder of the compiled string tables: what CHARTXML_STRINGS names, else
@@ -20,8 +23,9 @@ public:
   std::string stringTablePath() const;
 };
 
-/// The string table: texts by key in the output language, with the English text
-/// beside them.
+/// The string table: texts by key in the output language of the time when it was
+/// made, with the English text beside them. The tables are read once, a look-up
+/// goes to no file.
 class FacSTDictionary {
 public:
   explicit FacSTDictionary(const std::string& path);
@@ -35,11 +39,14 @@ public:
   /// unchanged in both. `number` receives the text's length in bytes.
   std::string LookUp(const std::string& key, int& number, std::string& english) const;
 
-  /// Names the procedure whose own table is asked first. 0, or 1 when the
-  /// procedure has no table of its own: the global one serves alone.
+  /// Names the procedure whose own table is asked first: the folder of that name
+  /// in lower case beside the global one. 0, or 1 when the procedure has no table
+  /// of its own, as one whose name is more than letters, digits, '-' and '_' has
+  /// none: the global one serves alone.
   int SetProcedure(const std::string& name);
 
-  /// The folder to read tables from. A folder without tables is reported once.
+  /// The folder to read tables from. A folder without tables is reported once and
+  /// changes nothing; so is a table that cannot be read, and English used.
   void SetGlobalStringTable(const std::string& path);
 
 private:
@@ -49,7 +56,8 @@ private:
 
 namespace host {
 
-/// Sets the output language; false, and no change, for a code without tables.
+/// Sets the output language; an empty code goes back to CHARTXML_LANG and its
+/// default. False, and no change, for a code without tables.
 /// A registry that already runs keeps the language it started with.
 bool setOutputLanguage(const std::string& code);
 

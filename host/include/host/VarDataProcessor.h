@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include <host/ValueColumn.h>
@@ -12,7 +13,8 @@
 /// The column store of one chart: the values of its variables, by data source.
 class VarDataProcessor {
 public:
-  /// Names one variable's column; filled by AddVariable.
+  /// Names one variable's column; filled by AddVariable. Valid while the store
+  /// lives.
   struct _varinfo {
     host::ValueColumn* column = nullptr;
   };
@@ -23,11 +25,16 @@ public:
   };
   struct Source {
     std::string name;
-    std::size_t capacity;
-    std::vector<Variable> variables;
+    std::vector<Variable> variables; ///< in the order added
+    std::unordered_map<std::string, host::ValueColumn*> columnOfName;
+
+    /// One more than the highest row set in any column.
+    std::size_t rowCount() const;
   };
 
-  /// `capacity` is the rows to make room for; the store grows past it on demand.
+  /// Adds a source; one of that name that is already there stays as it is.
+  /// `capacity` is the rows to expect: columns grow on demand, to that and past
+  /// it, so nothing is set aside for it.
   void AddDataSource(const std::string& name, std::size_t capacity);
 
   /// Adds a column of that name to the source; the column of a name that is
@@ -36,17 +43,20 @@ public:
   /// and its values are dropped.
   bool AddVariable(const std::string& sourceId, const std::string& sourceName, _varinfo& info);
 
-  /// Rows count from 0. The row before the first (0 - 1, as unsigned wraps) is
-  /// refused and false returned.
+  /// Set one cell. Rows count from 0. False, and nothing stored, for a row not
+  /// below ValueColumn::maxRows; the row before the first, 0 - 1 as unsigned
+  /// wraps, is such a one.
   bool SetVariableValue(const _varinfo& info, std::size_t row, double value);
   bool SetStringVariableValue(const _varinfo& info, std::size_t row, std::string_view utf8);
 
-  /// The rows of a source: one more than the highest row set; 0 when unknown.
+  /// The rows of a source, or 0 when the store has none of that name.
   std::size_t GetRowCount(const std::string& sourceName) const;
 
   /// The sources in the order added.
   const std::deque<Source>& sources() const { return sources_; }
 
 private:
+  const Source* find(const std::string& name) const;
+
   std::deque<Source> sources_;
 };

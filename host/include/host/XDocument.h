@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <host/ChartString.h>
@@ -13,10 +15,9 @@
 class ZephExtension {
 public:
   virtual ~ZephExtension() = default;
+  /// Sets an attribute, whatever it was before.
   void setAttribute(const std::string& name, const std::string& value);
-  const std::vector<std::pair<std::string, std::string>>& attributes() const {
-    return attributes_;
-  }
+  const std::vector<std::pair<std::string, std::string>>& attributes() const { return attributes_; }
 
 private:
   std::vector<std::pair<std::string, std::string>> attributes_;
@@ -36,8 +37,8 @@ private:
   std::optional<double> value_, min_, max_;
 };
 
-/// One variable of the parsed chart: its attributes and the description of its
-/// meta.
+/// One variable of the parsed chart: its attributes, empty when absent, and the
+/// description of its meta.
 class CTVariableType {
 public:
   std::string id, sourceName, source, label, shortLabel, categorical;
@@ -47,6 +48,7 @@ public:
   void removeDescription() { description_.clear(); }
 
   ZephExtensionSV* getExtension() const { return extension_.get(); }
+  /// The extension, made when there is none.
   ZephExtensionSV& addExtension();
 
 private:
@@ -80,7 +82,7 @@ private:
 class customizeCharts {
 public:
   explicit customizeCharts(ZephVisualization& chart) : chart_(chart) {}
-  /// An icicle plot's orientation and the rows to make room for.
+  /// Notes an icicle plot's orientation and the rows to make room for.
   void customizeIciclePlots(bool horizontal, std::size_t rows);
 
 private:
@@ -92,13 +94,15 @@ private:
 /// and the data; both must outlive it.
 class XDocument {
 public:
-  /// Throws ChartException when the text is not well-formed XML. The flags are
-  /// the engine's and mean nothing here.
+  /// Throws ChartException, with line and column, when the text is not well-formed
+  /// XML or has a document type declaration: a chart needs none, and what one pulls
+  /// in is nobody's to read. The flags are the engine's and mean nothing here.
   XDocument(const std::string& xml, bool, bool);
   ~XDocument();
 
   XGraph* getExternalGraph() { return &graph_; }
-  /// Adjustments for statistical-process charts; they need none yet.
+  /// Nothing in the parsed chart depends on its being a statistical-process chart,
+  /// so this changes nothing.
   void customizeSPCharts();
 
   void SetDescription(const ChartString& description);
@@ -106,8 +110,9 @@ public:
   void SetChartTemplate(const std::string& name);
   void SetChartData(const VarDataProcessor* data) { data_ = data; }
 
-  /// Sends the chart to the sink (host/ChartSink.h). False when the sink could
-  /// not take it; the sink has reported why.
+  /// Sends the chart to the sink (host/ChartSink.h). False when the sink refused it
+  /// with a ChartException, which is reported; other exceptions pass. The flags are
+  /// the engine's and mean nothing here.
   bool SendChart(bool, bool, bool);
 
 private:

@@ -1,0 +1,318 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <source_location>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include <chartxml/ChartHashtable.h>
+#include <chartxml/ChartStringHandler.h>
+#include <host/ChartBase.h>
+#include <host/ChartError.h>
+#include <host/ChartString.h>
+#include <host/Data.h>
+#include <host/VarDataProcessor.h>
+#include <host/XDocument.h>
+
+class ChildOrder;
+
+/// Element names, for accepted parents and for placement among siblings.
+using ConstChartStringSet = std::span<const XMLCh* const>;
+
+/// One chart under construction: its document, its node handles and its data.
+///
+/// Operations take node handles (0 is the document element) and string handles
+/// of the chart's string handler; -1 as an optional string means none. They check
+/// first, change nothing when a check fails, report the refusal with the place of
+/// the call, and return a handle or another non-negative number, or -1.
+class Chart : public ChartBase {
+public:
+  static constexpr XMLCh _elementgroup[] = u"elementGroup";
+  static constexpr XMLCh _styleby[] = u"styleBy";
+  static constexpr XMLCh _stylecycle[] = u"styleCycle";
+  static constexpr XMLCh _meta[] = u"meta";
+  static constexpr XMLCh _fill_pattern[] = u"fill-pattern";
+  static constexpr XMLCh _transparent[] = u"transparent";
+  static constexpr XMLCh _numberformat[] = u"numberFormat";
+  static constexpr XMLCh _stringformat[] = u"stringFormat";
+  static constexpr XMLCh _datetimeformat[] = u"dateTimeFormat";
+  static constexpr XMLCh _histogram[] = u"histogram";
+  static constexpr XMLCh _lowermapping[] = u"lowerMapping";
+  static constexpr XMLCh _uppermapping[] = u"upperMapping";
+  static constexpr XMLCh _facetssharescale[] = u"facetsShareScale";
+  static constexpr XMLCh _gridlines[] = u"gridLines";
+  static constexpr XMLCh _tablefacet[] = u"tableFacet";
+  static constexpr XMLCh _coordinatefacet[] = u"coordinateFacet";
+  static constexpr XMLCh _facetlabeling[] = u"facetLabeling";
+  static constexpr XMLCh _facetlabel[] = u"facetLabel";
+  static constexpr XMLCh _cellstyle[] = u"cellStyle";
+  static constexpr XMLCh _coordinatetransform[] = u"coordinateTransform";
+
+  /// What the output side does to a chart after it is built.
+  using PostProcessingChartType = int;
+
+  // Life
+
+  Chart(int chartHandle, ChartStringHandler* stringHandler);
+  ~Chart();
+  Chart(const Chart&) = delete;
+  Chart& operator=(const Chart&) = delete;
+
+  /// Builds the document's skeleton; false when no document can be made.
+  bool CreateChart();
+  xercesc::DOMDocument* getChart() const { return document_; }
+
+  // Settings
+
+  void SetDataSource(const KORVA_DataSource* source) { dataSource_ = source; }
+  /// 1 or 2: returns 1; anything else: -1, silently.
+  int SetChartType(PostProcessingChartType type);
+  /// From now on every data value is stored as a number.
+  void SetAllDataDoubles() { allDataDoubles_ = true; }
+  /// 0, or -1 for an empty name, which keeps the former one.
+  int SetChartTemplate(const std::string& name);
+  /// Kept for its callers; does nothing and returns -1.
+  int SetNumberFormatMinFractionDigits(int numberFormat, int digits);
+  /// Names the document element; null changes nothing.
+  void AddGraphName(const XMLCh* name);
+  /// The chart's description, sent beside the document. 0, or -1 when empty.
+  int CreateChartDescription(int string);
+  /// The split groups that the chart stands for, sent beside the document.
+  void SetSplitHeader(const ChartString& header) { splitHeader_ = header; }
+
+  // Handles, ids and styles
+
+  int mapElement(xercesc::DOMElement* element);
+  /// The element under a handle, or null.
+  xercesc::DOMElement* getElement(int handle) const;
+  /// The handle of an element, or -1. Walks the whole table: for rare use.
+  int getHandle(const xercesc::DOMElement* element) const;
+  int AddEmptyElement(xercesc::DOMElement& parent, const XMLCh* name, xercesc::DOMElement*& out);
+  int AddDescription(int parent, int name);
+  /// Copies the attributes of one node to another. 0, or -1.
+  int CopyAttributes(int from, int to);
+
+  /// The first node of the list whose "id" is `id`, or null.
+  static xercesc::DOMNode* findNodeById(const xercesc::DOMNodeList& nodes, const XMLCh* id);
+  /// The "style" child of that id, or null.
+  static xercesc::DOMElement* findStyle(const xercesc::DOMElement& parent, const XMLCh* id);
+  /// Inserts before the first child named in the set, else appends. Always true.
+  bool insertBeforeSiblings(xercesc::DOMElement& parent, xercesc::DOMElement& child,
+                            ConstChartStringSet names);
+  /// Whether XML 1.0 allows every character of the text.
+  static bool isValidXMLString(const ChartString& text);
+
+  /// Gives an element its id and the style that goes with it; the number that
+  /// the id counter had, or -1 for an id that is in use.
+  int AddIDAttribute(xercesc::DOMElement& element, const XMLCh* id, bool sharedStyle,
+                     std::source_location where = std::source_location::current());
+  /// The same with the id "<element name>_<text>"; a negative handle, or a text
+  /// whose id is in use, which is reported, gets the next number instead.
+  int AddIDAttribute(xercesc::DOMElement& element, int stringHandle,
+                     std::source_location where = std::source_location::current());
+  /// Writes the id of the node under `handle` into an attribute.
+  void AddIDREFAttribute(xercesc::DOMElement& element, int handle, const XMLCh* attribute);
+  void AddIDAttributeStyle(xercesc::DOMElement& element, const XMLCh* id, bool sharedStyle,
+                           std::source_location where);
+  /// An entry of that id in a style container: 0, or -1, silently, when the id is
+  /// in use.
+  int AddStyle(xercesc::DOMElement& parent, const XMLCh* id);
+  /// A detached "styleCycle", or null when its id is in use, which is reported.
+  xercesc::DOMElement* AddStyleCycle(const XMLCh* id, const XMLCh* styleId,
+                                     std::source_location where = std::source_location::current());
+  void AddStyleAttribute(const xercesc::DOMElement& owner, xercesc::DOMElement& target,
+                         const XMLCh* attribute,
+                         std::source_location where = std::source_location::current());
+
+  // Checks; each reports what it refuses
+
+  bool validHandle(int handle, const char* what,
+                   std::source_location where = std::source_location::current()) const;
+  bool validID(const XMLCh* id, std::source_location where = std::source_location::current()) const;
+  bool validRole(int role, std::source_location where = std::source_location::current()) const;
+  bool validDataSource(std::source_location where = std::source_location::current()) const;
+  bool validVariable(int index) const;
+  bool validVariableList(int list) const;
+
+  // Frames, sources and facets
+
+  int AddSource();
+  int AddFrame(int parent, int suffix);
+  int SetFrameClipping(int frame, bool clip);
+  int AddFacetLabeling(int frame);
+  int AddFacetLabel(int facetLabeling, int suffix, int level, bool reverse);
+  int SetFacetLabelCellStyle(int facetLabel, int suffix);
+
+  // Variables and data
+
+  int AddVariable(int source, int column, bool categorical);
+  int AddAggregate(int source, int name, bool categorical, int label, int shortLabel, int domain);
+  int AddRelabel(int variable, int from, int to);
+  int AddRelabels(int variable, int column);
+  int GetVariableFormat(int column) const;
+  /// The column of a variable node, or -1.
+  int getKORVAVarIndex(int variable) const;
+  /// Marks a variable for a log scale. Returns -1 in every case.
+  int CreateLogVar(int variable);
+  int AddRow(int source);
+  int AddDataValue(int source, int variable, int string);
+  int AddDoubleDataValue(int source, int variable, double value);
+
+  // Display formats
+
+  int AddMeta(xercesc::DOMElement& parent, xercesc::DOMElement*& meta);
+  int AddMeta(int variable);
+  int AddMetaFormat(xercesc::DOMElement& variable, int column);
+  int AddMetaFormatFromCode(xercesc::DOMElement& variable, long format);
+  int AddNumberMeta(xercesc::DOMElement& variable, int type, int width, int decimals);
+  int AddNumberFormat(int parent);
+  int AddNumberFormat(int meta, int type, int width, int decimals);
+  int SetNumberFormatMaxFractionDigits(int numberFormat, int string);
+  int SetNumberFormatPrefix(int numberFormat, int string);
+  int SetNumberFormatSuffix(int numberFormat, int string);
+  int SetNumberScientific(int numberFormat, bool on);
+
+  // Elements and aesthetics
+
+  int AddElement(int parent, int type, int suffix);
+  int AddElementGroup(int frame, int suffix);
+  int SetElementName(int element, int name);
+  int AddPosition(int element);
+  int AddX(int parent, int variable);
+  int AddY(int parent, int variable);
+  int AddZ(int parent, int variable);
+  int AddR(int parent, int variable);
+  int AddTheta(int parent, int variable);
+  int AddPhi(int parent, int variable);
+  int AddColor(int element, int variable);
+  int AddStyleBy(int element, int variable);
+  int AddStyleByColor(int element, int variable);
+  int AddStyleByPattern(int element, int variable);
+  int AddStyleByColorAndPattern(int element, int variable);
+  int AddStatistic(int parent, int method);
+  int AddParam(int statistic, int name, int value);
+  int AddLabel(int parent, int suffix, int content);
+
+  // Dimensions, axes and guides
+
+  int AddDimension(int frame, int role, int domain);
+  int GetDimension(int frame, int role);
+  int SetDimensionLowerMargin(int dimension, int margin);
+  int SetDimensionUpperMargin(int dimension, int margin);
+  int SetDimensionLowerMapping(int dimension, int mapping);
+  int SetDimensionUpperMapping(int dimension, int mapping);
+  int AddAxis(int parent, int suffix, bool opposite);
+  int AddMajorTicks(int parent, int position, bool gridLines, int length, int labelAngle,
+                    bool stagger, int delta);
+  int AddGuide(int frame, int type, int suffix);
+  int AddYFunctionOfX(int frame, int function, int styleIndex);
+  int AddLegend(int frame, int suffix);
+  int AddLegendTarget(int legend, int elementOrGuide, int suffix, int aesthetic);
+  int AddTransform(int parent, int method);
+
+  // Finishing
+
+  /// Completes the chart and sends it. 0, or -1; a second call is not meant.
+  int EndChart();
+  int AddStyles();
+  void updateVariableStatistics(ZephVisualization& chart) const;
+  /// Assigns the printed document to `buffer`.
+  void GetXmlBuffer(std::string& buffer, bool printWhiteSpace) const;
+  /// Turns the y scale's "safe" parameter off. Returns -1 in every case.
+  int SetLogUnsafe();
+
+private:
+  using Where = std::source_location;
+  using Element = xercesc::DOMElement;
+
+  struct RoleRule;
+  struct AestheticRule;
+
+  // Checks of arguments that several operations share
+  bool validString(int string, const char* what, Where where) const;
+  bool validOptionalString(int string, const char* what, Where where) const;
+  Element* acceptedParent(int handle, ConstChartStringSet kinds, std::string_view refusal,
+                          Where where) const;
+  Element* elementOfKind(int handle, const XMLCh* kind) const;
+  void report(const std::string& message, Where where) const;
+
+  // Making nodes
+  Element& makeElement(const XMLCh* name);
+  Element& appendElement(Element& parent, const XMLCh* name);
+  int append(Element& parent, Element& child);
+  int place(Element& parent, Element& child, ConstChartStringSet before);
+  void takeOut(Element& child);
+
+  // Writing texts
+  const XMLCh* legalText(const XMLCh* text, std::size_t length);
+  const XMLCh* legalText(int string);
+  void setText(Element& element, const XMLCh* attribute, int string);
+  void setOptionalText(Element& element, const XMLCh* attribute, int string);
+  static void setFlag(Element& element, const XMLCh* attribute, bool on);
+  std::u16string styleName(const XMLCh* stem, int suffix);
+
+  // Shared courses of operations
+  int giveId(Element& element, const XMLCh* id, bool sharedStyle, Where where);
+  int addRole(int parent, int variable, const RoleRule& rule, Where where);
+  int addAesthetic(int element, int variable, const AestheticRule& rule, Where where);
+  int addStyleBy(int element, int variable, const char* refusal, const XMLCh* cycle, Where where);
+  int addStyleByCycle(int element, int variable, const XMLCh* cycle, Where where);
+  Element* addNamedCycle(const XMLCh* id);
+  void appendToStyle(const Element& element, std::u16string_view text);
+  void labelSkeletonFrame(int frame, int suffix);
+  int setDimensionText(int dimension, int string, const XMLCh* attribute, const char* what,
+                       Where where);
+  int setNumberFormatText(int numberFormat, int string, const XMLCh* attribute, const char* what,
+                          Where where);
+  void AddVariableLabels(Element& variable, int column);
+  void addVariableLabel(Element& variable, const XMLCh* attribute, const char* text);
+  bool mapSourceName(int variable, const XMLCh* sourceId, std::u16string_view sourceName);
+  std::u16string nextVariableName() const;
+  const VarDataProcessor::_varinfo* storeOf(int variable);
+  void noteRow(bool stored);
+  std::size_t currentRow() const;
+  Element& metaOf(Element& variable);
+  static void setCreator(Element& meta, const XMLCh* origin, const XMLCh* kind);
+  static const XMLCh* sourceIdOf(const Element& sourceOrVariable);
+  int addRelabel(Element& variable, const XMLCh* from, const XMLCh* to);
+  void addGridLines(Element& ticks, const Element& axis);
+  int addNumberFormat(Element& meta, int type, int decimals);
+  static void addCurrency(Element& format, int number);
+  int send();
+
+  xercesc::DOMDocument* document_ = nullptr;
+  Element* styleContainer_ = nullptr;
+  int nextHandle_ = 1;
+  int variableListCount_ = 0;
+  Element* defaultStyleCycle_ = nullptr;
+  Element* repositoryStyleCycle_ = nullptr;
+  Element* defaultStyleElement_ = nullptr;
+  ChartString splitHeader_;
+  ChartString description_;
+  std::string chartTemplate_;
+  PostProcessingChartType chartType_ = 0;
+  ChartHashtable<Element> elements_;
+  std::multimap<int, int> variableColumns_;
+  std::map<int, std::unique_ptr<VarDataProcessor::_varinfo>> variableStores_;
+  int nextIdNumber_ = 1;
+  const KORVA_DataSource* dataSource_ = nullptr;
+  std::unique_ptr<ChartErrorHandler> errorHandler_;
+  ChartStringHandler* stringHandler_;
+  int chartHandle_;
+  int rowCount_ = 0;
+  int sourceCount_ = 0;
+  bool allDataDoubles_ = false;
+  bool dataRefused_ = false;
+  std::unique_ptr<VarDataProcessor> dataProcessor_;
+
+  std::unique_ptr<ChildOrder> childOrder_;
+  std::u16string scratch_;       ///< a text on its way into the document
+  std::u16string idText_;        ///< an id on its way into the document
+  bool illegalTextTold_ = false; ///< one report a chart
+  bool lostRowTold_ = false;     ///< one report a chart
+  // The store of the variable that got the latest value: values come in runs.
+  int latestVariable_ = -1;
+  const VarDataProcessor::_varinfo* latestStore_ = nullptr;
+};

@@ -1,0 +1,231 @@
+#pragma once
+
+#include <memory>
+#include <source_location>
+#include <string>
+
+#include <xercesc/dom/DOMDocument.hpp>
+#include <xercesc/dom/DOMElement.hpp>
+
+#include <chartxml/Chart.h>
+#include <chartxml/ChartHashtable.h>
+#include <chartxml/ChartStringHandler.h>
+#include <chartxml/Export.h>
+#include <host/ChartError.h>
+#include <host/ChartString.h>
+#include <host/ChartTranscoder.h>
+#include <host/Data.h>
+#include <host/StringTables.h>
+
+XERCES_CPP_NAMESPACE_BEGIN
+class SchemaValidator;
+XERCES_CPP_NAMESPACE_END
+
+/// The registry of open charts and of what they share, one a process.
+///
+/// In initialized mode (Initialize was called) texts and data source live until
+/// Terminate; else they go with the last chart. Every operation returns a handle
+/// or another non-negative number, or -1; a bad chart handle is reported and
+/// answered with -1, except where an operation says otherwise. Nothing is thrown
+/// but KorvaGoToCaller, when the program's error callback throws it. One thread.
+class CHARTXML_API ChartXml {
+public:
+  // Life
+
+  /// The registry, made on first use.
+  static ChartXml* GetInstance();
+  static ChartXml* Initialize();
+  /// Destroys the registry with every chart in it; returns null.
+  static ChartXml* Terminate();
+
+  ChartXml(const ChartXml&) = delete;
+  ChartXml& operator=(const ChartXml&) = delete;
+
+  // Charts
+
+  /// A new chart's handle, from 0 upward; never reused while the registry lives.
+  int CreateChart();
+  /// The chart of a handle, or null, which is reported when `report` is set.
+  Chart* getValidChart(int handle, const char* sourceFile, unsigned line, bool report) const;
+  xercesc::DOMDocument* getChart(int chart) const;
+  /// The node handle of an element of the chart, or -1.
+  int getHandle(int chart, const xercesc::DOMElement* element) const;
+  /// Finishes, sends and removes the chart; it is gone also when sending failed.
+  int EndChart(int chart);
+  /// Removes the chart without sending it. 0 in every case.
+  int KillChart(int chart);
+  /// Removes every chart; handles start at 0 again. 0 in every case.
+  int KillCharts();
+  /// The chart's document as XML; empty when there is no such chart.
+  std::string GetXmlBuffer(int chart) const;
+
+  // Procedure and data
+
+  /// Sets the data source when none is set yet, which becomes the registry's to
+  /// delete, and hands the one that is set to the chart, unless `chart` is -1.
+  int SetDataSource(int chart, KORVA_DataSource* source);
+  /// The same with a procedure's dictionary; null means that there is no data
+  /// source. With a procedure handle of all ones the dictionary itself serves.
+  int SetDataSource(int chart, void* procedureHandle, KORVA_FortranDictionary* const& dictionary);
+  /// Names the procedure, whose own string table goes first, and the chart, unless
+  /// `chart` is -1. The dictionary's result.
+  int SetProcedure(int chart, const std::string& procedureName);
+  void SetGlobalStringTable(const std::string& path);
+  int ResetStrings();
+
+  // Texts; results are string handles unless said otherwise
+
+  /// The text of a string-table key in the output language; any other text comes
+  /// back as it is. Backslash and "n" become a line feed.
+  ChartString translate(const std::string& key) const;
+  /// Bytes of the process code page as a text.
+  ChartString transcode(const std::string& text) const;
+  int NString(const std::string& key);
+  int NStringNoTranslate(const std::string& text);
+  int String(const std::string& text) { return NStringNoTranslate(text); }
+  int CompositeString(const std::string& key);
+  int AddParameter(int composite, int parameter);
+  int BeginRepeat(int composite);
+  int EndRepeat(int composite);
+  int EndCompositeString(int composite);
+  int StyleString(int string, int index);
+  int Integer(const int& number);
+  int Double(const double& number);
+  int LRValue(const double& number, int format);
+  std::string getUTF8String(int string) const;
+  /// The text as a cell of the output system: its cell handle, or -1.
+  int ToSK(int string);
+
+  /// Maps a variable number of the procedure, from 1, to a column of the data
+  /// source, from 0; -1 and reported when it is out of range. Without a
+  /// procedure's data source the number is the column already.
+  int getVariableIndex(int variable) const;
+  int VariableName(int variable);
+  int VariableLabel(int variable);
+  int Value(int variable, const OBS& value);
+  /// The label of a variable of another data source, which stays the caller's.
+  int VariableLabelFromDataSource(KORVA_DataSource* source, int variable);
+  int VariableLabelFromDataSource(void* procedureHandle, KORVA_FortranDictionary* const& dictionary,
+                                  int variable);
+
+  // Chart operations that do more than forward
+
+  /// Shows an axis in percent. Its node; also, silently, for a bad chart.
+  int SetAxisPercent(int chart, int node, int formatParent);
+  int SetChartDescription(int chart, const std::string& text);
+  /// A value of -1 is refused silently; a value that the chart refuses removes
+  /// the whole chart.
+  int AddDataValue(int chart, int source, int variable, int value);
+  int AddDoubleDataValue(int chart, int source, int variable, double value);
+  /// Both return their chart argument in every case.
+  int CreateLogVar(int chart, int variable);
+  int AllDataDoubles(int chart);
+
+  // Fit lines: the formula with its coefficients as a function guide, named by
+  // the model. The guide, or -1; -1 when a coefficient is infinite.
+
+  int AddYOfXLinear(int chart, int parent, int functionArgument, const double& b1, const double& b2,
+                    bool dateScale);
+  int AddYOfXWithAB(int chart, int parent, int formula, int functionArgument, const double& b1,
+                    const double& b2);
+
+  // Chart operations: arguments and results are those of Chart's operation of the
+  // same name; `variable` counts the procedure's variables from 1 where Chart
+  // takes a column.
+
+  int AddSource(int chart);
+  int AddFrame(int chart, int parent, int suffix);
+  int SetFrameClipping(int chart, int frame, bool clip);
+  int AddFacetLabeling(int chart, int frame);
+  int AddFacetLabel(int chart, int facetLabeling, int suffix, int level, bool reverse);
+  int SetFacetLabelCellStyle(int chart, int facetLabel, int suffix);
+  int SetChartType(int chart, int type);
+  int SetChartTemplate(int chart, const std::string& name);
+  int CreateChartDescription(int chart, int string);
+
+  int AddVariable(int chart, int source, int variable, bool categorical);
+  int AddAggregate(int chart, int source, int name, bool categorical, int label, int shortLabel,
+                   int domain);
+  int AddRelabel(int chart, int variable, int from, int to);
+  int AddRelabels(int chart, int node, int variable);
+  int GetVariableFormat(int chart, int variable);
+  /// A bad chart is answered silently.
+  int AddRow(int chart, int source);
+
+  int AddNumberFormat(int chart, int parent);
+  int SetNumberFormatMinFractionDigits(int chart, int numberFormat, int digits);
+  int SetNumberFormatMaxFractionDigits(int chart, int numberFormat, int string);
+  int SetNumberFormatPrefix(int chart, int numberFormat, int string);
+  int SetNumberFormatSuffix(int chart, int numberFormat, int string);
+  int SetNumberScientific(int chart, int numberFormat, bool on);
+
+  int AddElement(int chart, int parent, int type, int suffix);
+  int AddElementGroup(int chart, int frame, int suffix);
+  int SetElementName(int chart, int element, int name);
+  int AddPosition(int chart, int element);
+  int AddX(int chart, int parent, int variable);
+  int AddY(int chart, int parent, int variable);
+  int AddZ(int chart, int parent, int variable);
+  int AddR(int chart, int parent, int variable);
+  int AddTheta(int chart, int parent, int variable);
+  int AddPhi(int chart, int parent, int variable);
+  int AddColor(int chart, int element, int variable);
+  int AddStyleBy(int chart, int element, int variable);
+  int AddStyleByColor(int chart, int element, int variable);
+  int AddStyleByPattern(int chart, int element, int variable);
+  int AddStyleByColorAndPattern(int chart, int element, int variable);
+  int AddStatistic(int chart, int parent, int method);
+  int AddParam(int chart, int statistic, int name, int value);
+  int AddLabel(int chart, int parent, int suffix, int content);
+
+  int AddDimension(int chart, int frame, int role, int domain);
+  int GetDimension(int chart, int frame, int role);
+  int SetDimensionLowerMargin(int chart, int dimension, int margin);
+  int SetDimensionUpperMargin(int chart, int dimension, int margin);
+  int SetDimensionLowerMapping(int chart, int dimension, int mapping);
+  int SetDimensionUpperMapping(int chart, int dimension, int mapping);
+  int AddAxis(int chart, int parent, int suffix, bool opposite);
+  int AddMajorTicks(int chart, int parent, int position, bool gridLines, int length, int labelAngle,
+                    bool stagger, int delta);
+  int AddGuide(int chart, int frame, int type, int suffix);
+  int AddYFunctionOfX(int chart, int frame, int function, int styleIndex);
+  int AddLegend(int chart, int frame, int suffix);
+  int AddLegendTarget(int chart, int legend, int elementOrGuide, int suffix, int aesthetic);
+  int AddTransform(int chart, int parent, int method);
+  int SetLogUnsafe(int chart);
+
+private:
+  using Where = std::source_location;
+  struct At;
+
+  ChartXml();
+  ~ChartXml();
+
+  template <class Result, class... Parameters, class... Arguments>
+  int onChart(At chart, Result (Chart::*operation)(Parameters...), Arguments&&... arguments);
+  template <class... Parameters, class... Arguments>
+  int onChart(At chart, int (Chart::*operation)(Parameters...) const, Arguments&&... arguments);
+
+  Chart* findChart(At chart) const;
+  Chart* findSilently(int chart) const;
+  int keepOrKill(int chart, int result);
+  void removeChart(int chart);
+  void forgetStringsAndData();
+  int handDataSourceTo(At chart);
+  static bool isDictionaryItself(const void* procedureHandle);
+  bool isUsable(const KORVA_FortranDictionary* dictionary) const;
+  void report(const std::string& message, Where where) const;
+
+  static ChartXml* _instance;
+  static bool _initialized;
+
+  int nextHandle_ = 0;
+  std::unique_ptr<xercesc::SchemaValidator> validator_;
+  std::unique_ptr<ChartStringHandler> stringHandler_;
+  ChartHashtable<Chart> charts_;
+  std::unique_ptr<FacSTDictionary> dictionary_;
+  std::unique_ptr<KORVA_DataSource> dataSource_;
+  std::unique_ptr<ChartErrorHandler> errorHandler_;
+  std::unique_ptr<ChartTranscoder> outputTranscoder_;
+  std::unique_ptr<ChartTranscoder> localTranscoder_;
+};

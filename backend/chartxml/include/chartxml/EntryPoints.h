@@ -1,0 +1,471 @@
+#ifndef CHARTXML_ENTRYPOINTS_H
+#define CHARTXML_ENTRYPOINTS_H
+
+/* Made from backend/chartxml/entrypoints.json by scripts/generate-entry-points.mjs: change the
+ * list, not this file.
+ *
+ * The entry points for procedures, in C and C++.
+ *
+ * Calling convention. Every argument is passed by its address, all but the procedure handle, which
+ * is an address itself. Integers have 64 bits: the library reads the low 32 as a signed number,
+ * but entry points of several steps compare all 64, so store every integer sign-extended; results
+ * and outputs come back sign-extended. A logical is an integer: 0 is false, any other value true.
+ * Reals have 64 bits.
+ *
+ * A text is the address of its first byte, then the address of its length: exactly that many bytes
+ * in the process code page (UTF-8 unless the host says otherwise), without terminator, trailing
+ * blanks kept. Bytes that are not valid become U+FFFD; a negative length is an empty text.
+ * Arguments named "ignored" are never read.
+ *
+ * Handles. Charts count from 0; nodes count from 0 within their chart, and node 0 is its document
+ * element; texts have string handles, 1 to 156 of which are predefined. Handles are numbers and
+ * need no release. Variables go by the number that the procedure has for them, from 1.
+ *
+ * Ownership. The library copies texts and cells during the call and keeps no address of them. The
+ * dictionary stays the procedure's; keep its data set open until the charts are ended.
+ *
+ * The value -1 means "absent" where an integer is optional, and failure where it is returned. A
+ * call that fails changes nothing; an entry point of several steps ends at the first that fails,
+ * keeps the nodes of the others, and leaves the outputs of later steps alone.
+ *
+ * Errors. Nothing is thrown or raised. What is refused is reported in one line, with the reason,
+ * to the host's error log: a bad chart, node or string handle by every entry point, the rest as
+ * told with each. "Silently" means without a report. Call from one thread.
+ */
+
+#include <stdint.h>
+
+#include <chartxml/Export.h>
+
+/* clang-format off */
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Charts */
+
+/** Starts the library for several charts: texts and data then live until cx_terminate_, where
+ *  they otherwise go with the last chart. Returns 0. */
+CHARTXML_API int64_t cx_init_(void* procedureHandle, void* const* dictionary,
+                              const char* procedureName, const int64_t* procedureNameLength);
+
+/** Makes an empty chart and gives it the procedure's data. Returns the chart handle, from 0
+ *  upward. */
+CHARTXML_API int64_t cx_createchart_(void* procedureHandle, void* const* dictionary,
+                                     const char* procedureName, const int64_t* procedureNameLength);
+
+/** Makes a chart with one data source, an outer frame "graph_1" that clips and in it a frame
+ *  "data_1" that does not. Returns the chart handle. */
+CHARTXML_API int64_t cx_createchartex_(void* procedureHandle, void* const* dictionary,
+                                       const char* procedureName,
+                                       const int64_t* procedureNameLength, int64_t* chart,
+                                       int64_t* source, int64_t* graph, int64_t* data);
+
+/** Makes a chart with one data source, an outer frame "graph_1" and in it a frame "pie_1" that
+ *  clips. Returns the chart handle. */
+CHARTXML_API int64_t cx_createpiechart_(void* procedureHandle, void* const* dictionary,
+                                        const char* procedureName,
+                                        const int64_t* procedureNameLength, int64_t* chart,
+                                        int64_t* source, int64_t* graph, int64_t* pie);
+
+/** Says what the output side does to the chart after it is built. Returns 1, or -1 for another
+ *  type, silently. */
+CHARTXML_API int64_t cx_setcharttype_(const int64_t* chart, const int64_t* chartType);
+
+/** Names the template that the chart is drawn with. Returns 0, or -1 for an empty name,
+ *  silently. */
+CHARTXML_API int64_t cx_setcharttemplate_(const int64_t* chart, const char* templateName,
+                                          const int64_t* templateNameLength);
+
+/** Describes the chart for readers who do not see it. Returns 0, or -1 for an empty text,
+ *  silently. */
+CHARTXML_API int64_t cx_setchartdescription_(const int64_t* chart, const char* text,
+                                             const int64_t* textLength);
+
+/** Describes the chart for readers who do not see it, by a string handle. Returns 0, or -1 for
+ *  an empty text, silently. */
+CHARTXML_API int64_t cx_createchartdescription_(const int64_t* chart, const int64_t* description);
+
+/** Completes the chart, sends it and forgets it; it is gone also when sending failed. Returns 0. */
+CHARTXML_API int64_t cx_endchart_(const int64_t* chart);
+
+/** Discards a chart without sending it; a bad chart handle is ignored silently. Returns 0 in
+ *  every case. */
+CHARTXML_API int64_t cx_killchart_(const int64_t* chart);
+
+/** Discards every chart without sending it; chart handles start at 0 again. Returns 0 in every
+ *  case. */
+CHARTXML_API int64_t cx_killcharts_(void);
+
+/** Ends the library with every chart, text and data source in it; a second time it does nothing.
+ *  Returns 0. */
+CHARTXML_API int64_t cx_terminate_(void);
+
+/** Does nothing; kept for its callers. Returns -1 in every case. */
+CHARTXML_API int64_t cx_dumpxml_(const int64_t* ignored1, const int64_t* ignored2,
+                                 const int64_t* ignored3);
+
+/** Does nothing; kept for its callers. Returns -1 in every case. */
+CHARTXML_API int64_t cx_statisticssummary_(const int64_t* ignored1, const int64_t* ignored2,
+                                           const int64_t* ignored3, const int64_t* ignored4);
+
+/* Texts */
+
+/** Registers the text of a string-table key in the output language; an unknown key stands for
+ *  itself. Returns the new string handle. */
+CHARTXML_API int64_t cx_nstring_(const int64_t* ignored, const char* key, const int64_t* keyLength);
+
+/** Registers a text as it is. Returns the new string handle. */
+CHARTXML_API int64_t cx_string_(const int64_t* ignored, const char* text,
+                                const int64_t* textLength);
+
+/** Registers a text as it is; the same as cx_string_. Returns the new string handle. */
+CHARTXML_API int64_t cx_nstringnotranslate_(const int64_t* ignored, const char* text,
+                                            const int64_t* textLength);
+
+/** Opens a composite text, whose parameters cx_addparameter_ adds and which
+ *  cx_endcompositestring_ closes. Returns the composite's string handle. */
+CHARTXML_API int64_t cx_compositestring_(const int64_t* ignored, const char* pattern,
+                                         const int64_t* patternLength);
+
+/** Adds the next parameter to an open composite. Returns 0. Reports a string handle that is no
+ *  open composite. */
+CHARTXML_API int64_t cx_addparameter_(const int64_t* ignored, const int64_t* composite,
+                                      const int64_t* parameter);
+
+/** Opens a repeat list: the parameters that follow are its items until cx_endrepeat_. Returns 0.
+ *  Reports a string handle that is no open composite. */
+CHARTXML_API int64_t cx_beginrepeat_(const int64_t* ignored, const int64_t* composite);
+
+/** Closes a repeat list. Returns 0. Reports a string handle that is no open composite. */
+CHARTXML_API int64_t cx_endrepeat_(const int64_t* ignored, const int64_t* composite);
+
+/** Closes a composite and puts its text together. Returns the composite's own string handle.
+ *  Reports a string handle that is no open composite. */
+CHARTXML_API int64_t cx_endcompositestring_(const int64_t* ignored, const int64_t* composite);
+
+/** Registers a style name: the text of the kind, "_" and the number, such as "title_1". Returns
+ *  the new string handle. */
+CHARTXML_API int64_t cx_stylestring_(const int64_t* ignored, const int64_t* styleKind,
+                                     const int64_t* styleIndex);
+
+/** Registers the text of a whole number, as for machines. Returns the new string handle. */
+CHARTXML_API int64_t cx_integer_(const int64_t* ignored, const int64_t* number);
+
+/** Registers the text of a whole number in a display format. Returns the new string handle. */
+CHARTXML_API int64_t cx_ivalue_(const int64_t* ignored, const int64_t* number,
+                                const int64_t* format);
+
+/** Registers the text of a number, as for machines: the shortest that reads back to the same
+ *  number. Returns the new string handle, or -1 for the system-missing value, silently. */
+CHARTXML_API int64_t cx_double_(const double* number);
+
+/** Registers the text of a number in a display format. Returns the new string handle, or -1 for
+ *  the system-missing value, silently. */
+CHARTXML_API int64_t cx_lrvalue_(const int64_t* ignored, const double* number,
+                                 const int64_t* format);
+
+/** Registers a value in its variable's display format. Returns the new string handle, or -1 for
+ *  the system-missing value, silently. Reports a variable number out of range; that there are no
+ *  data. */
+CHARTXML_API int64_t cx_value_(const int64_t* variableNumber, const void* cells);
+
+/** Registers a variable's name. Returns the new string handle. Reports a variable number out of
+ *  range; that there are no data. */
+CHARTXML_API int64_t cx_variablename_(const int64_t* ignored1, const int64_t* ignored2,
+                                      const int64_t* variableNumber);
+
+/** Registers a variable's label, or its name when it has none. Returns the new string handle.
+ *  Reports a variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_variablelabel_(const int64_t* ignored1, const int64_t* ignored2,
+                                       const int64_t* variableNumber);
+
+/** Registers the label of a variable of another data set than the charts'. Returns the new
+ *  string handle, or -1 when the charts have no data, silently. Reports a variable number out of
+ *  range. */
+CHARTXML_API int64_t cx_variablelabelfromdictionary_(void* procedureHandle, void* const* dictionary,
+                                                     const int64_t* variableNumber);
+
+/** Hands a text to the output system. Returns the output system's cell handle. Reports an empty
+ *  text. */
+CHARTXML_API int64_t cx_tosk_(const int64_t* ignored, const int64_t* string);
+
+/* Variables and data */
+
+/** Adds a data source, named "source" and its number from 0. Returns the new source. */
+CHARTXML_API int64_t cx_addsource_(const int64_t* chart);
+
+/** Declares a variable of the procedure as a column of a source, with its label and, when it is
+ *  not categorical, its display format. Returns the new variable. Reports a variable number out
+ *  of range; that there are no data. */
+CHARTXML_API int64_t cx_addvariable_(const int64_t* chart, const int64_t* source,
+                                     const int64_t* variableNumber, const int64_t* categorical);
+
+/** Declares a column that the procedure computes. The source may also be a variable: the column
+ *  then joins that variable's source. The names 135, 140 and 141 stand for case number, count
+ *  and percentage; any other is numbered. Returns the new variable. */
+CHARTXML_API int64_t cx_addaggregate_(const int64_t* chart, const int64_t* source,
+                                      const int64_t* name, const int64_t* categorical,
+                                      const int64_t* label, const int64_t* shortLabel,
+                                      const int64_t* domain);
+
+/** Tells a variable's display format. Returns the format, packed as type * 65536 + width * 256 +
+ *  decimals. Reports a variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_getvariableformat_(const int64_t* chart, const int64_t* variableNumber);
+
+/** Marks a variable for a log scale. Returns the chart argument in every case. */
+CHARTXML_API int64_t cx_createlogvar_(const int64_t* chart, const int64_t* variable);
+
+/** Shows one value of a variable under another text. Returns the new relabel, or -1 for a text
+ *  that XML does not allow, silently. Reports a node that is no variable. */
+CHARTXML_API int64_t cx_addrelabel_(const int64_t* chart, const int64_t* variable,
+                                    const int64_t* from, const int64_t* to);
+
+/** Shows the values of a variable under their value labels. Returns a node handle or another
+ *  non-negative number. Reports a node that is no variable; a variable number out of range; that
+ *  there are no data. */
+CHARTXML_API int64_t cx_addrelabels_(const int64_t* chart, const int64_t* variable,
+                                     const int64_t* variableNumber);
+
+/** Has every later data value stored as a number. Returns the chart argument in every case. */
+CHARTXML_API int64_t cx_alldatadoubles_(const int64_t* chart);
+
+/** Starts the next row of data; a bad chart handle is ignored silently. Returns the number of
+ *  rows. */
+CHARTXML_API int64_t cx_addrow_(const int64_t* chart, const int64_t* rowSource);
+
+/** Puts a text into the current row, as a number when it reads as one. A string handle of -1 is
+ *  refused silently; a value that the chart refuses discards the whole chart. Returns 0, also
+ *  when the node is no variable with a column. */
+CHARTXML_API int64_t cx_adddatavalue_(const int64_t* chart, const int64_t* rowSource,
+                                      const int64_t* variable, const int64_t* valueString);
+
+/** Puts a number into the current row. A value that the chart refuses discards the whole chart.
+ *  Returns 0, also when the node is no variable with a column. */
+CHARTXML_API int64_t cx_adddoubledatavalue_(const int64_t* chart, const int64_t* rowSource,
+                                            const int64_t* variable, const double* value);
+
+/* Frames, labels and facets */
+
+/** Adds a frame to the document element (0) or to another frame. Returns the new frame. Reports
+ *  any other parent. */
+CHARTXML_API int64_t cx_addframe_(const int64_t* chart, const int64_t* parent,
+                                  const int64_t* suffix);
+
+/** Says whether a frame clips its elements. Returns the frame. */
+CHARTXML_API int64_t cx_setframeclipping_(const int64_t* chart, const int64_t* frame,
+                                          const int64_t* clip);
+
+/** Gives a node its label, in place of one that it has. Returns the new label. */
+CHARTXML_API int64_t cx_addlabel_(const int64_t* chart, const int64_t* parent,
+                                  const int64_t* suffix, const int64_t* content);
+
+/** Adds a frame with a label, such as a title (17), subtitle (16) or footnote (13). Returns the
+ *  new frame. */
+CHARTXML_API int64_t cx_addframewithlabel_(const int64_t* chart, const int64_t* parent,
+                                           const int64_t* styleKind, const int64_t* styleIndex,
+                                           const int64_t* content);
+
+/** Gives a frame its facet labeling, at most one. Returns the frame's facet labeling, new or
+ *  known. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addfacetlabeling_(const int64_t* chart, const int64_t* frame);
+
+/** Adds the labels of one facet level. Returns the new facet label. Reports a node that is no
+ *  facet labeling. */
+CHARTXML_API int64_t cx_addfacetlabel_(const int64_t* chart, const int64_t* facetLabeling,
+                                       const int64_t* suffix, const int64_t* level,
+                                       const int64_t* reverse);
+
+/** Gives the panels of a facet label a style. Returns the facet label. Reports a node that is no
+ *  facet label. */
+CHARTXML_API int64_t cx_setfacetlabelcellstyle_(const int64_t* chart, const int64_t* facetLabel,
+                                                const int64_t* suffix);
+
+/* Elements and aesthetics */
+
+/** Adds an element to a frame or an element group. Returns the new element. Reports any other
+ *  parent. */
+CHARTXML_API int64_t cx_addelement_(const int64_t* chart, const int64_t* parent,
+                                    const int64_t* type, const int64_t* suffix);
+
+/** Adds a group for elements to a frame. Returns the new element group. Reports a node that is
+ *  no frame. */
+CHARTXML_API int64_t cx_addelementgroup_(const int64_t* chart, const int64_t* frame,
+                                         const int64_t* suffix);
+
+/** Adds an element with its x and y. Returns the new element. */
+CHARTXML_API int64_t cx_addxyelementex_(const int64_t* chart, const int64_t* parent,
+                                        const int64_t* styleIndex, const int64_t* type,
+                                        const int64_t* x, const int64_t* y,
+                                        const int64_t* styleKind, int64_t* element);
+
+/** Names an element or a guide, as a legend shows it. Returns the element or guide, or -1 for
+ *  any other node, silently. */
+CHARTXML_API int64_t cx_setelementname_(const int64_t* chart, const int64_t* element,
+                                        const int64_t* name);
+
+/** Gives an element a position of its own, which takes x, y and a statistic. Returns the new
+ *  position. Reports a node that is no element. */
+CHARTXML_API int64_t cx_addposition_(const int64_t* chart, const int64_t* element);
+
+/** Puts a variable at x of an element or position. Returns the new x. Reports any other parent;
+ *  a node that is no variable. */
+CHARTXML_API int64_t cx_addx_(const int64_t* chart, const int64_t* parent, const int64_t* variable);
+
+/** Puts a variable at y of an element or position. Returns the new y. Reports any other parent;
+ *  a node that is no variable. */
+CHARTXML_API int64_t cx_addy_(const int64_t* chart, const int64_t* parent, const int64_t* variable);
+
+/** Puts a variable at z of an element or position. Returns the new z. Reports any other parent;
+ *  a node that is no variable. */
+CHARTXML_API int64_t cx_addz_(const int64_t* chart, const int64_t* parent, const int64_t* variable);
+
+/** Puts a variable at the angle of an element or position. Returns the new theta. Reports any
+ *  other parent; a node that is no variable. */
+CHARTXML_API int64_t cx_addtheta_(const int64_t* chart, const int64_t* parent,
+                                  const int64_t* variable);
+
+/** Colours an element by a variable. Returns the new color. Reports a node that is no element. */
+CHARTXML_API int64_t cx_addcolor_(const int64_t* chart, const int64_t* element,
+                                  const int64_t* variable);
+
+/** Groups an element by a variable, in the styles of the default cycle; points become hollow.
+ *  Returns the new styleBy. Reports a node that is no element. */
+CHARTXML_API int64_t cx_addstyleby_(const int64_t* chart, const int64_t* element,
+                                    const int64_t* variable);
+
+/** Groups an element by a variable, one colour a group. Returns the new styleBy. Reports a node
+ *  that is no element. */
+CHARTXML_API int64_t cx_addstylebycolor_(const int64_t* chart, const int64_t* element,
+                                         const int64_t* variable);
+
+/** Groups an element by a variable, one pattern a group. Returns the new styleBy. Reports a node
+ *  that is no element. */
+CHARTXML_API int64_t cx_addstylebypattern_(const int64_t* chart, const int64_t* element,
+                                           const int64_t* variable);
+
+/** Groups an element by a variable, one colour and pattern a group. Returns the new styleBy.
+ *  Reports a node that is no element. */
+CHARTXML_API int64_t cx_addstylebycolorandpattern_(const int64_t* chart, const int64_t* element,
+                                                   const int64_t* variable);
+
+/** Has the renderer compute a statistic for a node. Returns the new statistic. */
+CHARTXML_API int64_t cx_addstatistic_(const int64_t* chart, const int64_t* parent,
+                                      const int64_t* method);
+
+/** Adds a parameter to a statistic, transform or guide. Returns the new parameter. */
+CHARTXML_API int64_t cx_addparam_(const int64_t* chart, const int64_t* statistic,
+                                  const int64_t* name, const int64_t* valueString);
+
+/* Dimensions, axes and guides */
+
+/** Gives a frame its dimension for a role, at most one a role; the domain of one that is known
+ *  stays. Returns the frame's dimension, new or known. Reports a role outside 1 to 7. */
+CHARTXML_API int64_t cx_adddimension_(const int64_t* chart, const int64_t* frame,
+                                      const int64_t* role, const int64_t* domain);
+
+/** Finds the first dimension of a role anywhere below a frame. Returns the dimension, or -1 when
+ *  there is none, silently. Reports a role outside 1 to 7. */
+CHARTXML_API int64_t cx_getdimension_(const int64_t* chart, const int64_t* frame,
+                                      const int64_t* role);
+
+/** Sets the margin beyond a dimension's largest value. Returns the dimension, or -1 for any
+ *  other node, silently. */
+CHARTXML_API int64_t cx_setdimensionuppermargin_(const int64_t* chart, const int64_t* dimension,
+                                                 const int64_t* margin);
+
+/** Sets the margin below a dimension's smallest value. Returns the dimension, or -1 for any
+ *  other node, silently. */
+CHARTXML_API int64_t cx_setdimensionlowermargin_(const int64_t* chart, const int64_t* dimension,
+                                                 const int64_t* margin);
+
+/** Sets where a dimension's largest value is drawn. Returns the dimension, or -1 for any other
+ *  node, silently. */
+CHARTXML_API int64_t cx_setdimensionuppermapping_(const int64_t* chart, const int64_t* dimension,
+                                                  const int64_t* mapping);
+
+/** Sets where a dimension's largest value is drawn; the same as cx_setdimensionuppermapping_.
+ *  Returns the dimension, or -1 for any other node, silently. */
+CHARTXML_API int64_t cx_setdimensionupper_(const int64_t* chart, const int64_t* dimension,
+                                           const int64_t* mapping);
+
+/** Sets where a dimension's smallest value is drawn. Returns the dimension, or -1 for any other
+ *  node, silently. */
+CHARTXML_API int64_t cx_setdimensionlowermapping_(const int64_t* chart, const int64_t* dimension,
+                                                  const int64_t* mapping);
+
+/** Adds an axis to a dimension. Returns the new axis. */
+CHARTXML_API int64_t cx_addaxis_(const int64_t* chart, const int64_t* parent, const int64_t* suffix,
+                                 const int64_t* opposite);
+
+/** Adds the labelled ticks to an axis. Returns the new ticks. */
+CHARTXML_API int64_t cx_addmajorticks_(const int64_t* chart, const int64_t* parent,
+                                       const int64_t* position, const int64_t* gridLines,
+                                       const int64_t* length, const int64_t* labelAngle,
+                                       const int64_t* stagger, const int64_t* delta);
+
+/** Shows an axis in percent. Returns the node, also for a bad chart. */
+CHARTXML_API int64_t cx_setaxispercent_(const int64_t* chart, const int64_t* node,
+                                        const int64_t* formatParent);
+
+/** Has the log scale of the first y dimension refuse values that have no logarithm. Returns -1
+ *  in every case. */
+CHARTXML_API int64_t cx_setlogunsafe_(const int64_t* chart);
+
+/** Gives a frame a dimension with axis and ticks. Returns the dimension, or -1 for an axis role
+ *  outside 1 to 3, silently. */
+CHARTXML_API int64_t cx_adddimensionaxis_(const int64_t* chart, const int64_t* parent,
+                                          const int64_t* axisRole, const int64_t* domain,
+                                          const int64_t* opposite, int64_t* style, int64_t* axis,
+                                          const int64_t* upperMargin, const int64_t* lowerMargin,
+                                          const int64_t* upperMapping, const int64_t* lowerMapping);
+
+/** Gives a frame x and y dimensions with axes and ticks. Returns the x dimension. */
+CHARTXML_API int64_t cx_addxydimension_(const int64_t* chart, const int64_t* parent,
+                                        const int64_t* xDomain, const int64_t* yDomain,
+                                        const int64_t* xOpposite, const int64_t* yOpposite,
+                                        int64_t* xStyle, int64_t* xAxis, int64_t* yStyle,
+                                        int64_t* yAxis, const int64_t* xUpperMargin,
+                                        const int64_t* xLowerMargin, const int64_t* yUpperMargin,
+                                        const int64_t* yLowerMargin, const int64_t* xUpperMapping,
+                                        const int64_t* xLowerMapping, const int64_t* yUpperMapping,
+                                        const int64_t* yLowerMapping);
+
+/** Gives a frame x and y dimensions with axes, ticks and margins of 5%. Returns the x dimension. */
+CHARTXML_API int64_t cx_addxydimensionwithaxis_(const int64_t* chart, const int64_t* parent,
+                                                const int64_t* xDomain, const int64_t* yDomain,
+                                                const int64_t* xOpposite, const int64_t* yOpposite,
+                                                int64_t* xStyle, int64_t* xAxis, int64_t* yStyle,
+                                                int64_t* yAxis);
+
+/** Adds a guide to a frame. Returns the new guide. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addguide_(const int64_t* chart, const int64_t* frame, const int64_t* type,
+                                  const int64_t* suffix);
+
+/** Adds the curve of a function of x to a frame. Returns the new guide. Reports a node that is
+ *  no frame. */
+CHARTXML_API int64_t cx_addyfunctionofx_(const int64_t* chart, const int64_t* frame,
+                                         const int64_t* function, const int64_t* functionStyle);
+
+/** Adds a straight line to a frame and names it after its model. Returns the new guide, or -1
+ *  for an infinite coefficient, silently. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addyofxlinear_(const int64_t* chart, const int64_t* frame,
+                                       const int64_t* functionStyle, const double* intercept,
+                                       const double* slope, const int64_t* dateScale);
+
+/** Adds a legend to a frame. Returns the new legend. */
+CHARTXML_API int64_t cx_addlegend_(const int64_t* chart, const int64_t* parent,
+                                   const int64_t* suffix);
+
+/** Adds a frame with a legend that explains an element's or guide's aesthetic. Returns the new
+ *  legend. */
+CHARTXML_API int64_t cx_addlegendframe_(const int64_t* chart, const int64_t* parent,
+                                        const int64_t* target, const int64_t* styleIndex,
+                                        const int64_t* aesthetic, const int64_t* ignored,
+                                        int64_t* style, int64_t* legend);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,89 @@
+#include <chartxml/Chart.h>
+
+#include <algorithm>
+
+#include <fmt/format.h>
+#include <xercesc/util/XMLString.hpp>
+
+#include "../Report.h"
+#include "Nodes.h"
+#include <chartxml/Role.h>
+#include <host/CodePages.h>
+#include <host/Text.h>
+
+using xercesc::DOMElement;
+using xercesc::XMLString;
+
+// The next handle passes too, though no element has it yet: operations meet it as
+// a missing element.
+bool Chart::validHandle(int handle, const char* what, Where where) const {
+  if (handle >= 0 && handle <= nextHandle_) return true;
+  report(fmt::format("{} handle ({}) out of range (0-{})", what, handle, nextHandle_), where);
+  return false;
+}
+
+bool Chart::validID(const XMLCh* id, Where where) const {
+  if (!document_->getElementById(id)) return true;
+  report("id has already been used - " + KORVAMBTranscodeGeneric(id), where);
+  return false;
+}
+
+bool Chart::validRole(int role, Where where) const {
+  if (role >= Role::first && role <= Role::last) return true;
+  report(fmt::format("invalid role {}", role), where);
+  return false;
+}
+
+bool Chart::validDataSource(Where where) const {
+  if (dataSource_) return true;
+  report("no datasource", where);
+  return false;
+}
+
+// Reports its own place, not its caller's. A data source that fails to answer
+// must not stop the chart: the index counts as good then.
+bool Chart::validVariable(int index) const {
+  try {
+    if (index >= 0 && validDataSource() && index < dataSource_->ColumnCount()) return true;
+    report(fmt::format("invalid variable index {}", index), Where::current());
+    return false;
+  } catch (const KorvaGoToCaller&) {
+    throw;
+  } catch (...) {
+    return true;
+  }
+}
+
+bool Chart::validVariableList(int list) const {
+  if (list >= 0 && list < variableListCount_) return true;
+  report(fmt::format("variable list handle out of range {}", list), Where::current());
+  return false;
+}
+
+bool Chart::validString(int string, const char* what, Where where) const {
+  return stringHandler_->validString(string, what, where);
+}
+
+bool Chart::validOptionalString(int string, const char* what, Where where) const {
+  return string == -1 || validString(string, what, where);
+}
+
+// The node under a handle when its kind is accepted; else the refusal is reported
+// with the node's name, empty when there is no node.
+DOMElement* Chart::acceptedParent(int handle, ConstChartStringSet kinds, std::string_view refusal,
+                                  Where where) const {
+  DOMElement* parent = getElement(handle);
+  const XMLCh* name = parent ? parent->getNodeName() : u"";
+  const bool accepted = std::ranges::any_of(
+      kinds, [name](const XMLCh* kind) { return XMLString::equals(name, kind); });
+  if (accepted) return parent;
+  report(std::string(refusal) + host::utf8(name), where);
+  return nullptr;
+}
+
+DOMElement* Chart::elementOfKind(int handle, const XMLCh* kind) const {
+  DOMElement* element = getElement(handle);
+  return element && isNamed(*element, kind) ? element : nullptr;
+}
+
+void Chart::report(const std::string& message, Where where) const { reportRefusal(message, where); }

@@ -1,0 +1,109 @@
+#include <chartxml/Chart.h>
+
+#include <fmt/format.h>
+
+#include "Nodes.h"
+#include "Placement.h"
+#include <host/Text.h>
+#include <host/ZephUni.h>
+
+using xercesc::DOMElement;
+
+namespace {
+
+constexpr std::size_t rowCapacity = 250000;
+
+constexpr const XMLCh* frameKind[] = {ZephUni::_frame};
+constexpr const XMLCh* facetLabelingKind[] = {Chart::_facetlabeling};
+constexpr const XMLCh* facetLabelKind[] = {Chart::_facetlabel};
+
+} // namespace
+
+int Chart::AddSource() {
+  const std::string name = fmt::format("source{}", sourceCount_++);
+  dataProcessor_->AddDataSource(name, rowCapacity);
+
+  DOMElement& source = makeElement(ZephUni::_source);
+  AddID(source, host::utf16(name).c_str());
+  const int handle = place(*document_->getDocumentElement(), source, placement::source);
+  appendElement(source, ZephUni::_otherAccess).setAttribute(ZephUni::_type, ZephUni::_object);
+  return handle;
+}
+
+int Chart::AddFrame(int parent, int suffix) {
+  const Where here = Where::current();
+  if (!validHandle(parent, "parent") || !validOptionalString(suffix, "suffix", here)) return -1;
+  DOMElement* target =
+      parent == 0 ? getElement(0)
+                  : acceptedParent(parent, frameKind,
+                                   "can't add frame to anything but graph or frame - ", here);
+  if (!target) return -1;
+
+  DOMElement& frame = makeElement(ZephUni::_frame);
+  AddIDAttribute(frame, suffix);
+  const int handle = place(*target, frame, placement::frame);
+  labelSkeletonFrame(handle, suffix);
+  return handle;
+}
+
+// The inner frames of the two chart skeletons carry a facet label, which holds
+// the style of their one cell.
+void Chart::labelSkeletonFrame(int frame, int suffix) {
+  if (suffix < 0) return;
+  const std::u16string& text = stringHandler_->getXMLString(suffix).text();
+  if (text != u"data_1" && text != u"pie_1") return;
+  const int label = AddFacetLabel(AddFacetLabeling(frame), suffix, 0, false);
+  SetFacetLabelCellStyle(label, suffix);
+}
+
+int Chart::SetFrameClipping(int frame, bool clip) {
+  if (!validHandle(frame, "frame")) return -1;
+  DOMElement* target = elementOfKind(frame, ZephUni::_frame);
+  if (!target) return -1;
+  setFlag(*target, ZephUni::_clip, clip);
+  return frame;
+}
+
+int Chart::AddFacetLabeling(int frame) {
+  if (!validHandle(frame, "frame")) return -1;
+  DOMElement* parent = acceptedParent(
+      frame, frameKind, "can't add a facet labeling to anything but a frame - ", Where::current());
+  if (!parent) return -1;
+  // Anywhere below the frame: an outer frame finds the labeling of an inner one.
+  DOMElement* known = nullptr;
+  visitDescendants(*parent, _facetlabeling, [&](DOMElement& labeling) {
+    known = &labeling;
+    return true;
+  });
+  if (known) return getHandle(known);
+  return place(*parent, makeElement(_facetlabeling), placement::facetLabeling);
+}
+
+int Chart::AddFacetLabel(int facetLabeling, int suffix, int level, bool reverse) {
+  const Where here = Where::current();
+  if (!validHandle(facetLabeling, "facetLabeling") || !validOptionalString(suffix, "suffix", here))
+    return -1;
+  DOMElement* parent =
+      acceptedParent(facetLabeling, facetLabelingKind,
+                     "can't add facet label to anything but facet labeling - ", here);
+  if (!parent) return -1;
+
+  DOMElement& label = makeElement(_facetlabel);
+  AddIDAttribute(label, suffix);
+  if (reverse) label.setAttribute(ZephUni::_reverse, ZephUni::_true);
+  label.setAttribute(ZephUni::_level, host::utf16(asString(level)).c_str());
+  return append(*parent, label);
+}
+
+int Chart::SetFacetLabelCellStyle(int facetLabel, int suffix) {
+  const Where here = Where::current();
+  if (!validHandle(facetLabel, "facetLabel") || !validOptionalString(suffix, "suffix", here))
+    return -1;
+  DOMElement* label = acceptedParent(
+      facetLabel, facetLabelKind, "can't set the cellStyle for anything but a facetLabel ", here);
+  if (!label) return -1;
+  const std::u16string style = styleName(_facetlabel, suffix);
+  label->setAttribute(_cellstyle, style.c_str());
+  AddStyle(*styleContainer_, style.c_str());
+  return facetLabel;
+}

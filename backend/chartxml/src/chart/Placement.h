@@ -1,0 +1,47 @@
+#pragma once
+
+#include <chartxml/Chart.h>
+#include <host/ZephUni.h>
+
+/// Where each kind of node goes among its siblings: before the first child named
+/// in its set, else last. The sets keep every element's children in one order
+/// whatever the order of the calls. They differ from kind to kind on purpose.
+namespace placement {
+
+using Names = const XMLCh* const[];
+
+inline constexpr Names source = {ZephUni::_variable, ZephUni::_domain, ZephUni::_frame,
+                                 ZephUni::_style};
+inline constexpr Names variable = {ZephUni::_domain, ZephUni::_frame, ZephUni::_style};
+inline constexpr Names frame = {ZephUni::_style};
+inline constexpr Names meta = {ZephUni::_relabel};
+
+inline constexpr Names position = {Chart::_styleby, ZephUni::_color, ZephUni::_labeling,
+                                   ZephUni::_split};
+inline constexpr Names x = {ZephUni::_y,     ZephUni::_z,        Chart::_styleby,
+                            ZephUni::_color, ZephUni::_labeling, ZephUni::_split};
+inline constexpr Names y = {ZephUni::_z, Chart::_styleby, ZephUni::_color, ZephUni::_labeling,
+                            ZephUni::_split};
+inline constexpr Names z = {Chart::_styleby, ZephUni::_color, ZephUni::_labeling, ZephUni::_split};
+inline constexpr Names r = {ZephUni::_phi,   ZephUni::_z,        Chart::_styleby,
+                            ZephUni::_color, ZephUni::_labeling, ZephUni::_split};
+inline constexpr Names theta = {ZephUni::_r,     ZephUni::_phi,   ZephUni::_z,
+                                Chart::_styleby, ZephUni::_color, ZephUni::_labeling,
+                                ZephUni::_split};
+inline constexpr Names phi = {Chart::_styleby, ZephUni::_color, ZephUni::_labeling,
+                              ZephUni::_split};
+inline constexpr Names styleBy = {ZephUni::_color, ZephUni::_labeling, ZephUni::_split};
+inline constexpr Names color = {ZephUni::_labeling, ZephUni::_split};
+inline constexpr Names statistic = {ZephUni::_x,     ZephUni::_y, ZephUni::_z,
+                                    ZephUni::_theta, ZephUni::_r, ZephUni::_phi};
+inline constexpr Names label = {ZephUni::_majorTicks, ZephUni::_minorTicks, ZephUni::_legendTarget,
+                                ZephUni::_transform};
+
+inline constexpr Names dimension = {ZephUni::_guide, Chart::_elementgroup, ZephUni::_element};
+inline constexpr Names majorTicks = {ZephUni::_minorTicks, ZephUni::_legendTarget};
+
+inline constexpr Names facetLabeling = {Chart::_coordinatefacet, Chart::_coordinatetransform,
+                                        ZephUni::_dimension,     ZephUni::_guide,
+                                        Chart::_elementgroup,    ZephUni::_element};
+
+} // namespace placement

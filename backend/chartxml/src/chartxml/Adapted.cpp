@@ -1,0 +1,54 @@
+// Chart operations that do more than look the chart up and pass on.
+#include "Call.h"
+
+int ChartXml::SetAxisPercent(int chart, int node, int formatParent) {
+  // Without a chart the node comes back as if all had gone well: the axis is then
+  // drawn without percent signs, if at all.
+  if (!findChart(chart)) return node;
+  const int format = AddNumberFormat(chart, formatParent);
+  if (format < 0) return format;
+  const int suffix = SetNumberFormatSuffix(chart, format, NStringNoTranslate("%"));
+  if (suffix < 0) return suffix;
+  SetNumberScientific(chart, format, false);
+  const int transform = AddTransform(chart, node, NStringNoTranslate("percent"));
+  return transform < 0 ? transform : node;
+}
+
+int ChartXml::SetChartDescription(int chart, const std::string& text) {
+  Chart* found = findChart(chart);
+  return found ? found->CreateChartDescription(NStringNoTranslate(text)) : -1;
+}
+
+Chart* ChartXml::findSilently(int chart) const { return getValidChart(chart, "", 0, false); }
+
+// A chart that lost a value would show a wrong picture: it goes as a whole.
+int ChartXml::AddDataValue(int chart, int source, int variable, int value) {
+  if (value == -1) return -1;
+  Chart* found = findSilently(chart);
+  return found ? keepOrKill(chart, found->AddDataValue(source, variable, value)) : -1;
+}
+
+int ChartXml::AddDoubleDataValue(int chart, int source, int variable, double value) {
+  Chart* found = findSilently(chart);
+  return found ? keepOrKill(chart, found->AddDoubleDataValue(source, variable, value)) : -1;
+}
+
+int ChartXml::keepOrKill(int chart, int result) {
+  if (result == -1) KillChart(chart);
+  return result;
+}
+
+int ChartXml::AddRow(int chart, int source) {
+  Chart* found = findSilently(chart);
+  return found ? found->AddRow(source) : -1;
+}
+
+int ChartXml::CreateLogVar(int chart, int variable) {
+  onChart(chart, &Chart::CreateLogVar, variable);
+  return chart;
+}
+
+int ChartXml::AllDataDoubles(int chart) {
+  if (Chart* found = findChart(chart)) found->SetAllDataDoubles();
+  return chart;
+}

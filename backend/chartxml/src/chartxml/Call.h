@@ -1,0 +1,27 @@
+#pragma once
+
+#include <chartxml/ChartXml.h>
+
+/// A chart handle with the place where it was handed over: inside a forwarding
+/// operation that is the operation's own line, which reports then name.
+struct ChartXml::At {
+  At(int chart, Where place = Where::current()) : handle(chart), where(place) {}
+
+  int handle;
+  Where where;
+};
+
+/// The course of every forwarding operation: look the chart up, -1 when there is
+/// none, else its operation.
+template <class Result, class... Parameters, class... Arguments> int
+ChartXml::onChart(At chart, Result (Chart::*operation)(Parameters...), Arguments&&... arguments) {
+  Chart* found = findChart(chart);
+  return found ? (found->*operation)(std::forward<Arguments>(arguments)...) : -1;
+}
+
+template <class... Parameters, class... Arguments>
+int ChartXml::onChart(At chart, int (Chart::*operation)(Parameters...) const,
+                      Arguments&&... arguments) {
+  const Chart* found = findChart(chart);
+  return found ? (found->*operation)(std::forward<Arguments>(arguments)...) : -1;
+}

@@ -1,0 +1,138 @@
+! What procedures use beside module chartxml: texts as Fortran has them, names for
+! common numbers, and a short way to stop when something is refused.
+module charts
+  use, intrinsic :: iso_c_binding, only: c_double, c_int64_t, c_null_ptr, c_ptr
+  use, intrinsic :: iso_fortran_env, only: error_unit
+  use chartxml
+  implicit none
+  private
+  public :: create_chart, describe_chart, text, composed, number_text, style_name
+  public :: variable_label, display_format, made, make, require
+
+  !> The kind of every integer of module chartxml: 1_cx.
+  integer, parameter, public :: cx = c_int64_t
+
+  integer(cx), parameter, public :: absent = -1    !< an optional argument that is not given
+  integer(cx), parameter, public :: false = 0, true = 1
+  integer(cx), parameter, public :: ignored = 0    !< an argument that is never read
+
+  ! String handles of the predefined words that procedures name most.
+  integer(cx), parameter, public :: word_footnote = 13, word_subtitle = 16, word_title = 17
+  integer(cx), parameter, public :: word_line = 21, word_point = 23
+  integer(cx), parameter, public :: word_style_by = 36
+  integer(cx), parameter, public :: word_simple_line = 43, word_scatter = 96
+
+  !> Type code of the plain number format.
+  integer, parameter, public :: plain_format = 5
+
+contains
+
+  !> cx_createchartex for the data set behind `dictionary`.
+  function create_chart(dictionary, procedure_name, source, graph, data) result(chart)
+    type(c_ptr), intent(in) :: dictionary
+    character(*), intent(in) :: procedure_name
+    integer(cx), intent(inout) :: source, graph, data
+    integer(cx) :: chart, same_chart
+
+    chart = cx_createchartex(c_null_ptr, dictionary, procedure_name, &
+      len(procedure_name, kind=cx), same_chart, source, graph, data)
+  end function
+
+  !> Describes the chart for readers who do not see it.
+  function describe_chart(chart, description) result(status)
+    integer(cx), intent(in) :: chart
+    character(*), intent(in) :: description
+    integer(cx) :: status
+
+    status = cx_setchartdescription(chart, description, len(description, kind=cx))
+  end function
+
+  ! Texts: each function gives a string handle, or -1
+
+  function text(characters) result(string)
+    character(*), intent(in) :: characters
+    integer(cx) :: string
+
+    string = cx_string(ignored, characters, len(characters, kind=cx))
+  end function
+
+  !> The pattern with its "^1", "^2" ... replaced by the parameters, which are string
+  !> handles themselves.
+  function composed(pattern, parameters) result(string)
+    character(*), intent(in) :: pattern
+    integer(cx), intent(in) :: parameters(:)
+    integer(cx) :: string
+    integer :: i
+
+    string = cx_compositestring(ignored, pattern, len(pattern, kind=cx))
+    do i = 1, size(parameters)
+      if (string >= 0) then
+        if (cx_addparameter(ignored, string, parameters(i)) < 0) string = -1
+      end if
+    end do
+    if (string >= 0) string = cx_endcompositestring(ignored, string)
+  end function
+
+  !> A number in a plain format, 8 places wide, with that many decimals.
+  function number_text(number, decimals) result(string)
+    real(c_double), intent(in) :: number
+    integer, intent(in) :: decimals
+    integer(cx) :: string
+
+    string = cx_lrvalue(ignored, number, display_format(plain_format, 8, decimals))
+  end function
+
+  !> The name of style `index` of a kind, such as "title_1".
+  function style_name(kind, index) result(string)
+    integer(cx), intent(in) :: kind, index
+    integer(cx) :: string
+
+    string = cx_stylestring(ignored, kind, index)
+  end function
+
+  function variable_label(variable_number) result(string)
+    integer(cx), intent(in) :: variable_number
+    integer(cx) :: string
+
+    string = cx_variablelabel(ignored, ignored, variable_number)
+  end function
+
+  !> A display format, packed as the library takes it.
+  pure function display_format(type, width, decimals) result(format)
+    integer, intent(in) :: type, width, decimals
+    integer(cx) :: format
+
+    format = int(ior(ishft(type, 16), ior(ishft(width, 8), decimals)), cx)
+  end function
+
+  ! Refusals: the library has written its reason to standard error
+
+  !> Hands on what an entry point gave; a negative result stops the program.
+  function made(what, result) result(handle)
+    character(*), intent(in) :: what
+    integer(cx), intent(in) :: result
+    integer(cx) :: handle
+
+    call require(result >= 0, 'cannot make '//what)
+    handle = result
+  end function
+
+  !> The same for a handle that is not needed again.
+  subroutine make(what, result)
+    character(*), intent(in) :: what
+    integer(cx), intent(in) :: result
+
+    call require(result >= 0, 'cannot make '//what)
+  end subroutine
+
+  !> Stops the program with `otherwise` and exit code 1 when a condition does not hold.
+  subroutine require(condition, otherwise)
+    logical, intent(in) :: condition
+    character(*), intent(in) :: otherwise
+
+    if (condition) return
+    write (error_unit, '(a)') otherwise
+    stop 1, quiet=.true.
+  end subroutine
+
+end module

@@ -1,0 +1,753 @@
+! Made from backend/chartxml/entrypoints.json by scripts/generate-entry-points.mjs: change the list,
+! not this file.
+!
+! The entry points for procedures, as the library has them. A text is passed with its length in
+! bytes; integers are of kind c_int64_t. Module charts beside this one takes texts as Fortran has
+! them.
+!
+! Calling convention. Every argument is passed by its address, all but the procedure handle, which
+! is an address itself. Integers have 64 bits: the library reads the low 32 as a signed number, but
+! entry points of several steps compare all 64, so store every integer sign-extended; results and
+! outputs come back sign-extended. A logical is an integer: 0 is false, any other value true. Reals
+! have 64 bits.
+!
+! A text is the address of its first byte, then the address of its length: exactly that many bytes
+! in the process code page (UTF-8 unless the host says otherwise), without terminator, trailing
+! blanks kept. Bytes that are not valid become U+FFFD; a negative length is an empty text. Arguments
+! named "ignored" are never read.
+!
+! Handles. Charts count from 0; nodes count from 0 within their chart, and node 0 is its document
+! element; texts have string handles, 1 to 156 of which are predefined. Handles are numbers and need
+! no release. Variables go by the number that the procedure has for them, from 1.
+!
+! Ownership. The library copies texts and cells during the call and keeps no address of them. The
+! dictionary stays the procedure's; keep its data set open until the charts are ended.
+!
+! The value -1 means "absent" where an integer is optional, and failure where it is returned. A call
+! that fails changes nothing; an entry point of several steps ends at the first that fails, keeps
+! the nodes of the others, and leaves the outputs of later steps alone.
+!
+! Errors. Nothing is thrown or raised. What is refused is reported in one line, with the reason, to
+! the host's error log: a bad chart, node or string handle by every entry point, the rest as told
+! with each. "Silently" means without a report. Call from one thread.
+module chartxml
+  use, intrinsic :: iso_c_binding, only: c_char, c_double, c_int64_t, c_ptr
+  implicit none
+  private
+  public :: cx_init, cx_createchart, cx_createchartex, cx_createpiechart, cx_setcharttype, &
+    cx_setcharttemplate, cx_setchartdescription, cx_createchartdescription, cx_endchart, &
+    cx_killchart, cx_killcharts, cx_terminate, cx_dumpxml, cx_statisticssummary, cx_nstring, &
+    cx_string, cx_nstringnotranslate, cx_compositestring, cx_addparameter, cx_beginrepeat, &
+    cx_endrepeat, cx_endcompositestring, cx_stylestring, cx_integer, cx_ivalue, cx_double, &
+    cx_lrvalue, cx_value, cx_variablename, cx_variablelabel, cx_variablelabelfromdictionary, &
+    cx_tosk, cx_addsource, cx_addvariable, cx_addaggregate, cx_getvariableformat, cx_createlogvar, &
+    cx_addrelabel, cx_addrelabels, cx_alldatadoubles, cx_addrow, cx_adddatavalue, &
+    cx_adddoubledatavalue, cx_addframe, cx_setframeclipping, cx_addlabel, cx_addframewithlabel, &
+    cx_addfacetlabeling, cx_addfacetlabel, cx_setfacetlabelcellstyle, cx_addelement, &
+    cx_addelementgroup, cx_addxyelementex, cx_setelementname, cx_addposition, cx_addx, cx_addy, &
+    cx_addz, cx_addtheta, cx_addcolor, cx_addstyleby, cx_addstylebycolor, cx_addstylebypattern, &
+    cx_addstylebycolorandpattern, cx_addstatistic, cx_addparam, cx_adddimension, cx_getdimension, &
+    cx_setdimensionuppermargin, cx_setdimensionlowermargin, cx_setdimensionuppermapping, &
+    cx_setdimensionupper, cx_setdimensionlowermapping, cx_addaxis, cx_addmajorticks, &
+    cx_setaxispercent, cx_setlogunsafe, cx_adddimensionaxis, cx_addxydimension, &
+    cx_addxydimensionwithaxis, cx_addguide, cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, &
+    cx_addlegendframe
+
+  interface
+
+    ! Charts
+
+    !> Starts the library for several charts: texts and data then live until cx_terminate_, where
+    !> they otherwise go with the last chart. Returns 0.
+    integer(c_int64_t) function cx_init(procedure_handle, dictionary, procedure_name, &
+        procedure_name_length) bind(C, name="cx_init_")
+      import
+      type(c_ptr), value :: procedure_handle
+      type(c_ptr), intent(in) :: dictionary
+      character(kind=c_char), intent(in) :: procedure_name(*)
+      integer(c_int64_t), intent(in) :: procedure_name_length
+    end function
+
+    !> Makes an empty chart and gives it the procedure's data. Returns the chart handle, from 0
+    !> upward.
+    integer(c_int64_t) function cx_createchart(procedure_handle, dictionary, procedure_name, &
+        procedure_name_length) bind(C, name="cx_createchart_")
+      import
+      type(c_ptr), value :: procedure_handle
+      type(c_ptr), intent(in) :: dictionary
+      character(kind=c_char), intent(in) :: procedure_name(*)
+      integer(c_int64_t), intent(in) :: procedure_name_length
+    end function
+
+    !> Makes a chart with one data source, an outer frame "graph_1" that clips and in it a frame
+    !> "data_1" that does not. Returns the chart handle.
+    integer(c_int64_t) function cx_createchartex(procedure_handle, dictionary, procedure_name, &
+        procedure_name_length, chart, source, graph, data) bind(C, name="cx_createchartex_")
+      import
+      type(c_ptr), value :: procedure_handle
+      type(c_ptr), intent(in) :: dictionary
+      character(kind=c_char), intent(in) :: procedure_name(*)
+      integer(c_int64_t), intent(in) :: procedure_name_length
+      integer(c_int64_t), intent(inout) :: chart, source, graph, data
+    end function
+
+    !> Makes a chart with one data source, an outer frame "graph_1" and in it a frame "pie_1" that
+    !> clips. Returns the chart handle.
+    integer(c_int64_t) function cx_createpiechart(procedure_handle, dictionary, procedure_name, &
+        procedure_name_length, chart, source, graph, pie) bind(C, name="cx_createpiechart_")
+      import
+      type(c_ptr), value :: procedure_handle
+      type(c_ptr), intent(in) :: dictionary
+      character(kind=c_char), intent(in) :: procedure_name(*)
+      integer(c_int64_t), intent(in) :: procedure_name_length
+      integer(c_int64_t), intent(inout) :: chart, source, graph, pie
+    end function
+
+    !> Says what the output side does to the chart after it is built. Returns 1, or -1 for another
+    !> type, silently.
+    integer(c_int64_t) function cx_setcharttype(chart, chart_type) &
+        bind(C, name="cx_setcharttype_")
+      import
+      integer(c_int64_t), intent(in) :: chart, chart_type
+    end function
+
+    !> Names the template that the chart is drawn with. Returns 0, or -1 for an empty name,
+    !> silently.
+    integer(c_int64_t) function cx_setcharttemplate(chart, template_name, template_name_length) &
+        bind(C, name="cx_setcharttemplate_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+      character(kind=c_char), intent(in) :: template_name(*)
+      integer(c_int64_t), intent(in) :: template_name_length
+    end function
+
+    !> Describes the chart for readers who do not see it. Returns 0, or -1 for an empty text,
+    !> silently.
+    integer(c_int64_t) function cx_setchartdescription(chart, text, text_length) &
+        bind(C, name="cx_setchartdescription_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+      character(kind=c_char), intent(in) :: text(*)
+      integer(c_int64_t), intent(in) :: text_length
+    end function
+
+    !> Describes the chart for readers who do not see it, by a string handle. Returns 0, or -1 for
+    !> an empty text, silently.
+    integer(c_int64_t) function cx_createchartdescription(chart, description) &
+        bind(C, name="cx_createchartdescription_")
+      import
+      integer(c_int64_t), intent(in) :: chart, description
+    end function
+
+    !> Completes the chart, sends it and forgets it; it is gone also when sending failed. Returns 0.
+    integer(c_int64_t) function cx_endchart(chart) bind(C, name="cx_endchart_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+    end function
+
+    !> Discards a chart without sending it; a bad chart handle is ignored silently. Returns 0 in
+    !> every case.
+    integer(c_int64_t) function cx_killchart(chart) bind(C, name="cx_killchart_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+    end function
+
+    !> Discards every chart without sending it; chart handles start at 0 again. Returns 0 in every
+    !> case.
+    integer(c_int64_t) function cx_killcharts() bind(C, name="cx_killcharts_")
+      import
+    end function
+
+    !> Ends the library with every chart, text and data source in it; a second time it does nothing.
+    !> Returns 0.
+    integer(c_int64_t) function cx_terminate() bind(C, name="cx_terminate_")
+      import
+    end function
+
+    !> Does nothing; kept for its callers. Returns -1 in every case.
+    integer(c_int64_t) function cx_dumpxml(ignored1, ignored2, ignored3) &
+        bind(C, name="cx_dumpxml_")
+      import
+      integer(c_int64_t), intent(in) :: ignored1, ignored2, ignored3
+    end function
+
+    !> Does nothing; kept for its callers. Returns -1 in every case.
+    integer(c_int64_t) function cx_statisticssummary(ignored1, ignored2, ignored3, ignored4) &
+        bind(C, name="cx_statisticssummary_")
+      import
+      integer(c_int64_t), intent(in) :: ignored1, ignored2, ignored3, ignored4
+    end function
+
+    ! Texts
+
+    !> Registers the text of a string-table key in the output language; an unknown key stands for
+    !> itself. Returns the new string handle.
+    integer(c_int64_t) function cx_nstring(ignored, key, key_length) bind(C, name="cx_nstring_")
+      import
+      integer(c_int64_t), intent(in) :: ignored
+      character(kind=c_char), intent(in) :: key(*)
+      integer(c_int64_t), intent(in) :: key_length
+    end function
+
+    !> Registers a text as it is. Returns the new string handle.
+    integer(c_int64_t) function cx_string(ignored, text, text_length) bind(C, name="cx_string_")
+      import
+      integer(c_int64_t), intent(in) :: ignored
+      character(kind=c_char), intent(in) :: text(*)
+      integer(c_int64_t), intent(in) :: text_length
+    end function
+
+    !> Registers a text as it is; the same as cx_string_. Returns the new string handle.
+    integer(c_int64_t) function cx_nstringnotranslate(ignored, text, text_length) &
+        bind(C, name="cx_nstringnotranslate_")
+      import
+      integer(c_int64_t), intent(in) :: ignored
+      character(kind=c_char), intent(in) :: text(*)
+      integer(c_int64_t), intent(in) :: text_length
+    end function
+
+    !> Opens a composite text, whose parameters cx_addparameter_ adds and which
+    !> cx_endcompositestring_ closes. Returns the composite's string handle.
+    integer(c_int64_t) function cx_compositestring(ignored, pattern, pattern_length) &
+        bind(C, name="cx_compositestring_")
+      import
+      integer(c_int64_t), intent(in) :: ignored
+      character(kind=c_char), intent(in) :: pattern(*)
+      integer(c_int64_t), intent(in) :: pattern_length
+    end function
+
+    !> Adds the next parameter to an open composite. Returns 0. Reports a string handle that is no
+    !> open composite.
+    integer(c_int64_t) function cx_addparameter(ignored, composite, parameter) &
+        bind(C, name="cx_addparameter_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, composite, parameter
+    end function
+
+    !> Opens a repeat list: the parameters that follow are its items until cx_endrepeat_. Returns 0.
+    !> Reports a string handle that is no open composite.
+    integer(c_int64_t) function cx_beginrepeat(ignored, composite) bind(C, name="cx_beginrepeat_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, composite
+    end function
+
+    !> Closes a repeat list. Returns 0. Reports a string handle that is no open composite.
+    integer(c_int64_t) function cx_endrepeat(ignored, composite) bind(C, name="cx_endrepeat_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, composite
+    end function
+
+    !> Closes a composite and puts its text together. Returns the composite's own string handle.
+    !> Reports a string handle that is no open composite.
+    integer(c_int64_t) function cx_endcompositestring(ignored, composite) &
+        bind(C, name="cx_endcompositestring_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, composite
+    end function
+
+    !> Registers a style name: the text of the kind, "_" and the number, such as "title_1". Returns
+    !> the new string handle.
+    integer(c_int64_t) function cx_stylestring(ignored, style_kind, style_index) &
+        bind(C, name="cx_stylestring_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, style_kind, style_index
+    end function
+
+    !> Registers the text of a whole number, as for machines. Returns the new string handle.
+    integer(c_int64_t) function cx_integer(ignored, number) bind(C, name="cx_integer_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, number
+    end function
+
+    !> Registers the text of a whole number in a display format. Returns the new string handle.
+    integer(c_int64_t) function cx_ivalue(ignored, number, format) bind(C, name="cx_ivalue_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, number, format
+    end function
+
+    !> Registers the text of a number, as for machines: the shortest that reads back to the same
+    !> number. Returns the new string handle, or -1 for the system-missing value, silently.
+    integer(c_int64_t) function cx_double(number) bind(C, name="cx_double_")
+      import
+      real(c_double), intent(in) :: number
+    end function
+
+    !> Registers the text of a number in a display format. Returns the new string handle, or -1 for
+    !> the system-missing value, silently.
+    integer(c_int64_t) function cx_lrvalue(ignored, number, format) bind(C, name="cx_lrvalue_")
+      import
+      integer(c_int64_t), intent(in) :: ignored
+      real(c_double), intent(in) :: number
+      integer(c_int64_t), intent(in) :: format
+    end function
+
+    !> Registers a value in its variable's display format. Returns the new string handle, or -1 for
+    !> the system-missing value, silently. Reports a variable number out of range; that there are no
+    !> data.
+    integer(c_int64_t) function cx_value(variable_number, cells) bind(C, name="cx_value_")
+      import
+      integer(c_int64_t), intent(in) :: variable_number
+      type(*), intent(in) :: cells(*)
+    end function
+
+    !> Registers a variable's name. Returns the new string handle. Reports a variable number out of
+    !> range; that there are no data.
+    integer(c_int64_t) function cx_variablename(ignored1, ignored2, variable_number) &
+        bind(C, name="cx_variablename_")
+      import
+      integer(c_int64_t), intent(in) :: ignored1, ignored2, variable_number
+    end function
+
+    !> Registers a variable's label, or its name when it has none. Returns the new string handle.
+    !> Reports a variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_variablelabel(ignored1, ignored2, variable_number) &
+        bind(C, name="cx_variablelabel_")
+      import
+      integer(c_int64_t), intent(in) :: ignored1, ignored2, variable_number
+    end function
+
+    !> Registers the label of a variable of another data set than the charts'. Returns the new
+    !> string handle, or -1 when the charts have no data, silently. Reports a variable number out of
+    !> range.
+    integer(c_int64_t) function cx_variablelabelfromdictionary(procedure_handle, dictionary, &
+        variable_number) bind(C, name="cx_variablelabelfromdictionary_")
+      import
+      type(c_ptr), value :: procedure_handle
+      type(c_ptr), intent(in) :: dictionary
+      integer(c_int64_t), intent(in) :: variable_number
+    end function
+
+    !> Hands a text to the output system. Returns the output system's cell handle. Reports an empty
+    !> text.
+    integer(c_int64_t) function cx_tosk(ignored, string) bind(C, name="cx_tosk_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, string
+    end function
+
+    ! Variables and data
+
+    !> Adds a data source, named "source" and its number from 0. Returns the new source.
+    integer(c_int64_t) function cx_addsource(chart) bind(C, name="cx_addsource_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+    end function
+
+    !> Declares a variable of the procedure as a column of a source, with its label and, when it is
+    !> not categorical, its display format. Returns the new variable. Reports a variable number out
+    !> of range; that there are no data.
+    integer(c_int64_t) function cx_addvariable(chart, source, variable_number, categorical) &
+        bind(C, name="cx_addvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, variable_number, categorical
+    end function
+
+    !> Declares a column that the procedure computes. The source may also be a variable: the column
+    !> then joins that variable's source. The names 135, 140 and 141 stand for case number, count
+    !> and percentage; any other is numbered. Returns the new variable.
+    integer(c_int64_t) function cx_addaggregate(chart, source, name, categorical, label, &
+        short_label, domain) bind(C, name="cx_addaggregate_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, name, categorical, label, short_label, &
+        domain
+    end function
+
+    !> Tells a variable's display format. Returns the format, packed as type * 65536 + width * 256 +
+    !> decimals. Reports a variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_getvariableformat(chart, variable_number) &
+        bind(C, name="cx_getvariableformat_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable_number
+    end function
+
+    !> Marks a variable for a log scale. Returns the chart argument in every case.
+    integer(c_int64_t) function cx_createlogvar(chart, variable) bind(C, name="cx_createlogvar_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable
+    end function
+
+    !> Shows one value of a variable under another text. Returns the new relabel, or -1 for a text
+    !> that XML does not allow, silently. Reports a node that is no variable.
+    integer(c_int64_t) function cx_addrelabel(chart, variable, from, to) &
+        bind(C, name="cx_addrelabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, from, to
+    end function
+
+    !> Shows the values of a variable under their value labels. Returns a node handle or another
+    !> non-negative number. Reports a node that is no variable; a variable number out of range; that
+    !> there are no data.
+    integer(c_int64_t) function cx_addrelabels(chart, variable, variable_number) &
+        bind(C, name="cx_addrelabels_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, variable_number
+    end function
+
+    !> Has every later data value stored as a number. Returns the chart argument in every case.
+    integer(c_int64_t) function cx_alldatadoubles(chart) bind(C, name="cx_alldatadoubles_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+    end function
+
+    !> Starts the next row of data; a bad chart handle is ignored silently. Returns the number of
+    !> rows.
+    integer(c_int64_t) function cx_addrow(chart, row_source) bind(C, name="cx_addrow_")
+      import
+      integer(c_int64_t), intent(in) :: chart, row_source
+    end function
+
+    !> Puts a text into the current row, as a number when it reads as one. A string handle of -1 is
+    !> refused silently; a value that the chart refuses discards the whole chart. Returns 0, also
+    !> when the node is no variable with a column.
+    integer(c_int64_t) function cx_adddatavalue(chart, row_source, variable, value_string) &
+        bind(C, name="cx_adddatavalue_")
+      import
+      integer(c_int64_t), intent(in) :: chart, row_source, variable, value_string
+    end function
+
+    !> Puts a number into the current row. A value that the chart refuses discards the whole chart.
+    !> Returns 0, also when the node is no variable with a column.
+    integer(c_int64_t) function cx_adddoubledatavalue(chart, row_source, variable, value) &
+        bind(C, name="cx_adddoubledatavalue_")
+      import
+      integer(c_int64_t), intent(in) :: chart, row_source, variable
+      real(c_double), intent(in) :: value
+    end function
+
+    ! Frames, labels and facets
+
+    !> Adds a frame to the document element (0) or to another frame. Returns the new frame. Reports
+    !> any other parent.
+    integer(c_int64_t) function cx_addframe(chart, parent, suffix) bind(C, name="cx_addframe_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, suffix
+    end function
+
+    !> Says whether a frame clips its elements. Returns the frame.
+    integer(c_int64_t) function cx_setframeclipping(chart, frame, clip) &
+        bind(C, name="cx_setframeclipping_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, clip
+    end function
+
+    !> Gives a node its label, in place of one that it has. Returns the new label.
+    integer(c_int64_t) function cx_addlabel(chart, parent, suffix, content) &
+        bind(C, name="cx_addlabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, suffix, content
+    end function
+
+    !> Adds a frame with a label, such as a title (17), subtitle (16) or footnote (13). Returns the
+    !> new frame.
+    integer(c_int64_t) function cx_addframewithlabel(chart, parent, style_kind, style_index, &
+        content) bind(C, name="cx_addframewithlabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, style_kind, style_index, content
+    end function
+
+    !> Gives a frame its facet labeling, at most one. Returns the frame's facet labeling, new or
+    !> known. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addfacetlabeling(chart, frame) &
+        bind(C, name="cx_addfacetlabeling_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame
+    end function
+
+    !> Adds the labels of one facet level. Returns the new facet label. Reports a node that is no
+    !> facet labeling.
+    integer(c_int64_t) function cx_addfacetlabel(chart, facet_labeling, suffix, level, reverse) &
+        bind(C, name="cx_addfacetlabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet_labeling, suffix, level, reverse
+    end function
+
+    !> Gives the panels of a facet label a style. Returns the facet label. Reports a node that is no
+    !> facet label.
+    integer(c_int64_t) function cx_setfacetlabelcellstyle(chart, facet_label, suffix) &
+        bind(C, name="cx_setfacetlabelcellstyle_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet_label, suffix
+    end function
+
+    ! Elements and aesthetics
+
+    !> Adds an element to a frame or an element group. Returns the new element. Reports any other
+    !> parent.
+    integer(c_int64_t) function cx_addelement(chart, parent, type, suffix) &
+        bind(C, name="cx_addelement_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, type, suffix
+    end function
+
+    !> Adds a group for elements to a frame. Returns the new element group. Reports a node that is
+    !> no frame.
+    integer(c_int64_t) function cx_addelementgroup(chart, frame, suffix) &
+        bind(C, name="cx_addelementgroup_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, suffix
+    end function
+
+    !> Adds an element with its x and y. Returns the new element.
+    integer(c_int64_t) function cx_addxyelementex(chart, parent, style_index, type, x, y, &
+        style_kind, element) bind(C, name="cx_addxyelementex_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, style_index, type, x, y, style_kind
+      integer(c_int64_t), intent(inout) :: element
+    end function
+
+    !> Names an element or a guide, as a legend shows it. Returns the element or guide, or -1 for
+    !> any other node, silently.
+    integer(c_int64_t) function cx_setelementname(chart, element, name) &
+        bind(C, name="cx_setelementname_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, name
+    end function
+
+    !> Gives an element a position of its own, which takes x, y and a statistic. Returns the new
+    !> position. Reports a node that is no element.
+    integer(c_int64_t) function cx_addposition(chart, element) bind(C, name="cx_addposition_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element
+    end function
+
+    !> Puts a variable at x of an element or position. Returns the new x. Reports any other parent;
+    !> a node that is no variable.
+    integer(c_int64_t) function cx_addx(chart, parent, variable) bind(C, name="cx_addx_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, variable
+    end function
+
+    !> Puts a variable at y of an element or position. Returns the new y. Reports any other parent;
+    !> a node that is no variable.
+    integer(c_int64_t) function cx_addy(chart, parent, variable) bind(C, name="cx_addy_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, variable
+    end function
+
+    !> Puts a variable at z of an element or position. Returns the new z. Reports any other parent;
+    !> a node that is no variable.
+    integer(c_int64_t) function cx_addz(chart, parent, variable) bind(C, name="cx_addz_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, variable
+    end function
+
+    !> Puts a variable at the angle of an element or position. Returns the new theta. Reports any
+    !> other parent; a node that is no variable.
+    integer(c_int64_t) function cx_addtheta(chart, parent, variable) bind(C, name="cx_addtheta_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, variable
+    end function
+
+    !> Colours an element by a variable. Returns the new color. Reports a node that is no element.
+    integer(c_int64_t) function cx_addcolor(chart, element, variable) bind(C, name="cx_addcolor_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Groups an element by a variable, in the styles of the default cycle; points become hollow.
+    !> Returns the new styleBy. Reports a node that is no element.
+    integer(c_int64_t) function cx_addstyleby(chart, element, variable) &
+        bind(C, name="cx_addstyleby_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Groups an element by a variable, one colour a group. Returns the new styleBy. Reports a node
+    !> that is no element.
+    integer(c_int64_t) function cx_addstylebycolor(chart, element, variable) &
+        bind(C, name="cx_addstylebycolor_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Groups an element by a variable, one pattern a group. Returns the new styleBy. Reports a node
+    !> that is no element.
+    integer(c_int64_t) function cx_addstylebypattern(chart, element, variable) &
+        bind(C, name="cx_addstylebypattern_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Groups an element by a variable, one colour and pattern a group. Returns the new styleBy.
+    !> Reports a node that is no element.
+    integer(c_int64_t) function cx_addstylebycolorandpattern(chart, element, variable) &
+        bind(C, name="cx_addstylebycolorandpattern_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Has the renderer compute a statistic for a node. Returns the new statistic.
+    integer(c_int64_t) function cx_addstatistic(chart, parent, method) &
+        bind(C, name="cx_addstatistic_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, method
+    end function
+
+    !> Adds a parameter to a statistic, transform or guide. Returns the new parameter.
+    integer(c_int64_t) function cx_addparam(chart, statistic, name, value_string) &
+        bind(C, name="cx_addparam_")
+      import
+      integer(c_int64_t), intent(in) :: chart, statistic, name, value_string
+    end function
+
+    ! Dimensions, axes and guides
+
+    !> Gives a frame its dimension for a role, at most one a role; the domain of one that is known
+    !> stays. Returns the frame's dimension, new or known. Reports a role outside 1 to 7.
+    integer(c_int64_t) function cx_adddimension(chart, frame, role, domain) &
+        bind(C, name="cx_adddimension_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, role, domain
+    end function
+
+    !> Finds the first dimension of a role anywhere below a frame. Returns the dimension, or -1 when
+    !> there is none, silently. Reports a role outside 1 to 7.
+    integer(c_int64_t) function cx_getdimension(chart, frame, role) &
+        bind(C, name="cx_getdimension_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, role
+    end function
+
+    !> Sets the margin beyond a dimension's largest value. Returns the dimension, or -1 for any
+    !> other node, silently.
+    integer(c_int64_t) function cx_setdimensionuppermargin(chart, dimension, margin) &
+        bind(C, name="cx_setdimensionuppermargin_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension, margin
+    end function
+
+    !> Sets the margin below a dimension's smallest value. Returns the dimension, or -1 for any
+    !> other node, silently.
+    integer(c_int64_t) function cx_setdimensionlowermargin(chart, dimension, margin) &
+        bind(C, name="cx_setdimensionlowermargin_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension, margin
+    end function
+
+    !> Sets where a dimension's largest value is drawn. Returns the dimension, or -1 for any other
+    !> node, silently.
+    integer(c_int64_t) function cx_setdimensionuppermapping(chart, dimension, mapping) &
+        bind(C, name="cx_setdimensionuppermapping_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension, mapping
+    end function
+
+    !> Sets where a dimension's largest value is drawn; the same as cx_setdimensionuppermapping_.
+    !> Returns the dimension, or -1 for any other node, silently.
+    integer(c_int64_t) function cx_setdimensionupper(chart, dimension, mapping) &
+        bind(C, name="cx_setdimensionupper_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension, mapping
+    end function
+
+    !> Sets where a dimension's smallest value is drawn. Returns the dimension, or -1 for any other
+    !> node, silently.
+    integer(c_int64_t) function cx_setdimensionlowermapping(chart, dimension, mapping) &
+        bind(C, name="cx_setdimensionlowermapping_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension, mapping
+    end function
+
+    !> Adds an axis to a dimension. Returns the new axis.
+    integer(c_int64_t) function cx_addaxis(chart, parent, suffix, opposite) &
+        bind(C, name="cx_addaxis_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, suffix, opposite
+    end function
+
+    !> Adds the labelled ticks to an axis. Returns the new ticks.
+    integer(c_int64_t) function cx_addmajorticks(chart, parent, position, grid_lines, length, &
+        label_angle, stagger, delta) bind(C, name="cx_addmajorticks_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, position, grid_lines, length, label_angle, &
+        stagger, delta
+    end function
+
+    !> Shows an axis in percent. Returns the node, also for a bad chart.
+    integer(c_int64_t) function cx_setaxispercent(chart, node, format_parent) &
+        bind(C, name="cx_setaxispercent_")
+      import
+      integer(c_int64_t), intent(in) :: chart, node, format_parent
+    end function
+
+    !> Has the log scale of the first y dimension refuse values that have no logarithm. Returns -1
+    !> in every case.
+    integer(c_int64_t) function cx_setlogunsafe(chart) bind(C, name="cx_setlogunsafe_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+    end function
+
+    !> Gives a frame a dimension with axis and ticks. Returns the dimension, or -1 for an axis role
+    !> outside 1 to 3, silently.
+    integer(c_int64_t) function cx_adddimensionaxis(chart, parent, axis_role, domain, opposite, &
+        style, axis, upper_margin, lower_margin, upper_mapping, lower_mapping) &
+        bind(C, name="cx_adddimensionaxis_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, axis_role, domain, opposite
+      integer(c_int64_t), intent(inout) :: style, axis
+      integer(c_int64_t), intent(in) :: upper_margin, lower_margin, upper_mapping, lower_mapping
+    end function
+
+    !> Gives a frame x and y dimensions with axes and ticks. Returns the x dimension.
+    integer(c_int64_t) function cx_addxydimension(chart, parent, x_domain, y_domain, x_opposite, &
+        y_opposite, x_style, x_axis, y_style, y_axis, x_upper_margin, x_lower_margin, &
+        y_upper_margin, y_lower_margin, x_upper_mapping, x_lower_mapping, y_upper_mapping, &
+        y_lower_mapping) bind(C, name="cx_addxydimension_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, x_domain, y_domain, x_opposite, y_opposite
+      integer(c_int64_t), intent(inout) :: x_style, x_axis, y_style, y_axis
+      integer(c_int64_t), intent(in) :: x_upper_margin, x_lower_margin, y_upper_margin, &
+        y_lower_margin, x_upper_mapping, x_lower_mapping, y_upper_mapping, y_lower_mapping
+    end function
+
+    !> Gives a frame x and y dimensions with axes, ticks and margins of 5%. Returns the x dimension.
+    integer(c_int64_t) function cx_addxydimensionwithaxis(chart, parent, x_domain, y_domain, &
+        x_opposite, y_opposite, x_style, x_axis, y_style, y_axis) &
+        bind(C, name="cx_addxydimensionwithaxis_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, x_domain, y_domain, x_opposite, y_opposite
+      integer(c_int64_t), intent(inout) :: x_style, x_axis, y_style, y_axis
+    end function
+
+    !> Adds a guide to a frame. Returns the new guide. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addguide(chart, frame, type, suffix) &
+        bind(C, name="cx_addguide_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, type, suffix
+    end function
+
+    !> Adds the curve of a function of x to a frame. Returns the new guide. Reports a node that is
+    !> no frame.
+    integer(c_int64_t) function cx_addyfunctionofx(chart, frame, function, function_style) &
+        bind(C, name="cx_addyfunctionofx_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, function, function_style
+    end function
+
+    !> Adds a straight line to a frame and names it after its model. Returns the new guide, or -1
+    !> for an infinite coefficient, silently. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addyofxlinear(chart, frame, function_style, intercept, slope, &
+        date_scale) bind(C, name="cx_addyofxlinear_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, function_style
+      real(c_double), intent(in) :: intercept, slope
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds a legend to a frame. Returns the new legend.
+    integer(c_int64_t) function cx_addlegend(chart, parent, suffix) bind(C, name="cx_addlegend_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, suffix
+    end function
+
+    !> Adds a frame with a legend that explains an element's or guide's aesthetic. Returns the new
+    !> legend.
+    integer(c_int64_t) function cx_addlegendframe(chart, parent, target, style_index, aesthetic, &
+        ignored, style, legend) bind(C, name="cx_addlegendframe_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, target, style_index, aesthetic, ignored
+      integer(c_int64_t), intent(inout) :: style, legend
+    end function
+
+  end interface
+
+end module

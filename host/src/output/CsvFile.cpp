@@ -1,0 +1,88 @@
+#include "output/CsvFile.h"
+
+#include <charconv>
+#include <cmath>
+
+#include <host/Missing.h>
+
+#include "output/FileWriter.h"
+
+namespace host {
+namespace {
+
+constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
+
+void writeQuoted(FileWriter& file, std::string_view text) {
+  file.write('"');
+  for (const char c : text) {
+    if (c == '"') file.write('"');
+    if (c == '\0')
+      file.write(replacementCharacter); // readers take a NUL for the end, or refuse it
+    else
+      file.write(c);
+  }
+  file.write('"');
+}
+
+/// An empty text is quoted to tell it from a cell without value.
+void writeText(FileWriter& file, std::string_view text) {
+  constexpr std::string_view special{",\"\r\n\0", 5};
+  if (text.empty() || text.find_first_of(special) != std::string_view::npos)
+    writeQuoted(file, text);
+  else
+    file.write(text);
+}
+
+void writeNumber(FileWriter& file, double value) {
+  constexpr std::size_t longest = 32;
+  if (std::isnan(value)) return file.write("NaN");
+  if (std::isinf(value)) return file.write(value > 0 ? "INF" : "-INF");
+  file.print(longest, [=](char* at) { return std::to_chars(at, at + longest, value).ptr; });
+}
+
+bool isEmpty(const ValueColumn& column, std::size_t row) {
+  const auto kind = column.kind(row);
+  return kind == ValueColumn::Kind::empty ||
+         (kind == ValueColumn::Kind::number && column.number(row) == systemMissing);
+}
+
+void writeCell(FileWriter& file, const ValueColumn& column, std::size_t row) {
+  if (isEmpty(column, row)) return;
+  if (column.kind(row) == ValueColumn::Kind::text)
+    writeText(file, column.text(row));
+  else
+    writeNumber(file, column.number(row));
+}
+
+/// Readers skip an empty line, so the empty cell of an only column is quoted.
+void writeOnlyCell(FileWriter& file, const ValueColumn& column, std::size_t row) {
+  if (isEmpty(column, row))
+    writeQuoted(file, {});
+  else
+    writeCell(file, column, row);
+}
+
+template <class WriteField>
+void writeLine(FileWriter& file, const VarDataProcessor::Source& source, WriteField writeField) {
+  bool isFirst = true;
+  for (const auto& variable : source.variables) {
+    if (!isFirst) file.write(',');
+    isFirst = false;
+    writeField(variable);
+  }
+  file.write('\n');
+}
+
+} // namespace
+
+void writeCsv(const std::filesystem::path& path, const VarDataProcessor::Source& source) {
+  FileWriter file(path);
+  const auto write = source.variables.size() == 1 ? writeOnlyCell : writeCell;
+  writeLine(file, source, [&](const auto& variable) { writeText(file, variable.name); });
+  const std::size_t rows = source.rowCount();
+  for (std::size_t row = 0; row < rows; ++row)
+    writeLine(file, source, [&](const auto& variable) { write(file, *variable.column, row); });
+  file.finish();
+}
+
+} // namespace host

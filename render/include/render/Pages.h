@@ -1,0 +1,28 @@
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+
+/// Turns finished chart folders into Vega specifications and HTML pages.
+namespace render {
+
+/// A chart folder that cannot be drawn, or a page that cannot be written: which
+/// file, and why; of a malformed file also the line and column.
+class RenderError : public std::runtime_error {
+public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Writes chart.vg.json and chart.html into a chart folder, from its chart.xml,
+/// its CSV files and, when it is there, its manifest.json. The same folder gives
+/// the same bytes; each file appears whole or not at all. What the chart asks for
+/// and is not drawn is named in the page's notes. Throws RenderError when the
+/// chart cannot be read; a page that says so is written all the same.
+void writeChart(const std::filesystem::path& chartFolder);
+
+/// Writes index.html, the gallery of the charts in an output folder in the order
+/// of their names, and runtime/, the script that the chart pages share. Throws
+/// RenderError when they cannot be written.
+void writeGallery(const std::filesystem::path& outputFolder);
+
+} // namespace render

@@ -1,0 +1,62 @@
+// Draws the specifications of chart folders: chart.svg and chart.png beside
+// chart.vg.json. Reads from standard input, as JSON:
+//   {"folders": ["charts/0001-penguins", …], "svg": true, "png": true}
+// Prints a line per folder; ends with status 1 when one of them failed.
+
+import {readFileSync, renameSync, rmSync, writeFileSync} from 'node:fs';
+import {basename, join} from 'node:path';
+import {Resvg} from '@resvg/resvg-js';
+import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
+import {textWidth} from './textWidth.mjs';
+
+textMetrics.width = (item, text) => textWidth(text, item.fontSize ?? 11, item.fontWeight);
+
+const pngScale = 2;
+const fonts = {loadSystemFonts: true, defaultFontFamily: 'DejaVu Sans'};
+
+/** Writes a file so that it appears whole or not at all. */
+function writeWhole(file, bytes) {
+  const aside = `${file}.${process.pid}.tmp`;
+  try {
+    writeFileSync(aside, bytes);
+    renameSync(aside, file);
+  } catch (error) {
+    rmSync(aside, {force: true});
+    throw error;
+  }
+}
+
+/**
+ * The renderer ends the process when a clipped group lies wholly outside the
+ * picture. A point at the group's origin that nobody sees keeps it inside.
+ */
+const anchorClippedGroups = (svg) =>
+  svg.replaceAll(
+    /<g[^>]* clip-path="[^>]*>/g,
+    (group) => `${group}<path d="M0,0h1v1h-1Z" fill="#000" fill-opacity="0"/>`,
+  );
+
+async function draw(folder, {svg, png}) {
+  const spec = JSON.parse(readFileSync(join(folder, 'chart.vg.json'), 'utf8'));
+  // The ids in a picture count from one, whatever was drawn before it.
+  resetSVGDefIds();
+  const picture = await new View(parse(spec), {renderer: 'none'}).toSVG();
+  if (svg) writeWhole(join(folder, 'chart.svg'), picture);
+  if (png) {
+    const zoom = {fitTo: {mode: 'zoom', value: pngScale}, font: fonts};
+    writeWhole(join(folder, 'chart.png'), new Resvg(anchorClippedGroups(picture), zoom).render().asPng());
+  }
+}
+
+const {folders, ...formats} = JSON.parse(readFileSync(0, 'utf8'));
+const made = Object.keys(formats).filter((name) => formats[name]).join(' ');
+for (const [index, folder] of folders.entries()) {
+  const place = `[${index + 1}/${folders.length}] ${basename(folder)}`;
+  try {
+    await draw(folder, formats);
+    console.log(`${place}  ${made}`);
+  } catch (error) {
+    console.error(`${place}  failed: ${error.message}`);
+    process.exitCode = 1;
+  }
+}

@@ -1,0 +1,67 @@
+#include <render/Pages.h>
+
+#include <fmt/format.h>
+
+#include "assemble/Assemble.h"
+#include "page/ChartPage.h"
+#include "page/Files.h"
+#include "page/Gallery.h"
+#include "page/Runtime.h"
+#include "resolve/Chart.h"
+#include "translate/Translator.h"
+
+namespace render {
+namespace {
+
+//   read        chart.xml, CSV, manifest      -> ChartFolder
+//   resolve     references, extents, groups   -> Chart
+//   translate   one translator a node kind    -> Parts
+//   assemble    one Vega specification        -> JSON
+Json specification(const ChartFolder& folder) {
+  Notes notes;
+  const Chart chart = resolve(folder, notes);
+  Parts parts = translate(chart, notes);
+  return assemble(chart, std::move(parts), notes);
+}
+
+/// The manifest of a chart that is refused, or what can be told without one.
+Manifest manifestOf(const std::filesystem::path& folder) {
+  try {
+    return Manifest::read(folder);
+  } catch (const RenderError&) {
+    return {.name = folder.filename().native()};
+  }
+}
+
+} // namespace
+
+void writeChart(const std::filesystem::path& chartFolder) {
+  const std::filesystem::path folder =
+      chartFolder.has_filename() ? chartFolder : chartFolder.parent_path();
+  const std::filesystem::path page = folder / "chart.html";
+  try {
+    const ChartFolder chart = ChartFolder::read(folder);
+    const Json spec = specification(chart);
+    writeFile(folder / "chart.vg.json",
+              spec.dump(1, ' ', false, Json::error_handler_t::replace) + "\n");
+    writeFile(page, chartPage(chart.manifest, spec));
+  } catch (const RenderError& e) {
+    const std::string_view reason = e.what();
+    const std::string prefix = folder.native() + "/";
+    writeFile(page, refusedPage(manifestOf(folder), reason.starts_with(prefix)
+                                                        ? reason.substr(prefix.size())
+                                                        : reason));
+    throw;
+  }
+}
+
+void writeGallery(const std::filesystem::path& outputFolder) {
+  try {
+    placeRuntime(outputFolder);
+    writeFile(outputFolder / "index.html", galleryPage(outputFolder));
+  } catch (const std::filesystem::filesystem_error& e) {
+    throw RenderError(e.what());
+  }
+}
+
+} // namespace render

@@ -1,0 +1,185 @@
+#include "assemble/Assemble.h"
+
+#include <fmt/format.h>
+
+#include "text/Expression.h"
+#include "text/Wrap.h"
+#include "translate/Groups.h"
+#include "translate/Theme.h"
+
+namespace render {
+namespace {
+
+Json cell(const Variable& variable, std::size_t row) {
+  if (variable.isMissing(row)) return nullptr;
+  if (variable.categorical) return (*variable.texts)[row];
+  return jsonNumber(variable.numbers[row]);
+}
+
+/// The rows of each data source, with a field for each variable.
+Json sources(const Chart& chart) {
+  Json data = Json::array();
+  for (const auto& [id, table] : chart.folder->tables) {
+    std::vector<const Variable*> variables;
+    for (const Variable& variable : chart.variables)
+      if (variable.source == id && variable.texts != nullptr) variables.push_back(&variable);
+    Json rows = Json::array();
+    for (std::size_t row = 0; row < table.rowCount; ++row) {
+      Json fields = Json::object();
+      for (const Variable* variable : variables)
+        fields[variable->id] = cell(*variable, row);
+      rows.push_back(std::move(fields));
+    }
+    data.push_back({{"name", id}, {"values", std::move(rows)}});
+  }
+  return data;
+}
+
+void append(Json& list, Json more) {
+  for (Json& item : more)
+    list.push_back(std::move(item));
+}
+
+void addPositionScale(Json& scales, const Dimension& dimension) {
+  const char* const range = dimension.role == "x" ? "width" : "height";
+  if (!dimension.categorical) {
+    scales.push_back({{"name", dimension.role},
+                      {"type", "linear"},
+                      {"domain", Json::array({jsonNumber(dimension.low), jsonNumber(dimension.high)})},
+                      {"range", range},
+                      {"zero", false}});
+    return;
+  }
+  Json labels = Json::array();
+  for (const Category& category : dimension.categories)
+    labels.push_back(category.label);
+  Json scale = categoryScale(std::string(dimension.role), dimension.categories, range);
+  scale["type"] = "point";
+  scale["padding"] = 0.5;
+  scales.push_back(std::move(scale));
+  scales.push_back(categoryScale(scaleName("label", dimension.role), dimension.categories,
+                                 std::move(labels)));
+}
+
+/// The legend of the function lines that have a name.
+void addFunctionLegend(Parts& parts) {
+  std::vector<Category> named;
+  Json labels = Json::array();
+  Json dashes = Json::array();
+  for (std::size_t i = 0; i < parts.functions.size(); ++i) {
+    const Node& guide = *parts.functions[i];
+    if (guide.attribute("name").empty()) continue;
+    named.push_back({.key = std::string(guide.id()), .label = {}});
+    labels.push_back(wrap(guide.attribute("name"), {.width = theme::legendWidth,
+                                                    .fontSize = theme::labelSize,
+                                                    .lines = 3}));
+    dashes.push_back(theme::functionDash(i));
+  }
+  if (named.empty()) return;
+  parts.scales.push_back(categoryScale("dash_function", named, std::move(dashes)));
+  parts.scales.push_back(categoryScale("legend_function", named, std::move(labels)));
+  parts.legends.push_back(
+      {{"strokeDash", "dash_function"},
+       {"symbolType", "M-2.6,0H2.6"},
+       {"symbolOffset", 6},
+       {"symbolStrokeColor", {{"signal", "ink"}}},
+       {"encode",
+        {{"labels", {{"update", {{"text", {{"scale", "legend_function"}, {"field", "value"}}}}}}}}}});
+}
+
+/// Texts as the lines of one title. Whole lines are left out past the limit,
+/// which is more than anybody prints under a chart.
+Json lines(const std::vector<std::string>& texts, double fontSize, std::size_t most) {
+  Json all = Json::array();
+  for (const std::string& text : texts)
+    append(all, wrap(text, {.width = theme::textWidth, .fontSize = fontSize, .lines = most}));
+  return all;
+}
+
+void addTitles(Json& spec, Json& plot, const Parts& parts, const Manifest& manifest) {
+  std::vector<std::string> above = parts.subtitle;
+  if (above.empty() && !manifest.splitHeader.empty()) above.push_back(manifest.splitHeader);
+  if (!parts.title.empty() || !above.empty())
+    spec["title"] = {{"text", lines(parts.title, theme::titleSize * 1.06, 6)}};
+  if (!above.empty()) spec["title"]["subtitle"] = lines(above, theme::subtitleSize, 8);
+  if (!parts.footnotes.empty())
+    plot["title"] = {{"text", lines(parts.footnotes, theme::footnoteSize, 40)},
+                     {"orient", "bottom"},
+                     {"fontSize", theme::footnoteSize},
+                     {"fontWeight", "normal"},
+                     {"lineHeight", theme::footnoteSize + 5}};
+}
+
+/// What the picture shows, for those who cannot see it.
+std::string describe(const Chart& chart, const Parts& parts) {
+  std::string text;
+  const auto add = [&text](std::string_view sentence) {
+    if (sentence.empty()) return;
+    if (!text.empty()) text += text.ends_with('.') ? " " : ". ";
+    text += sentence;
+  };
+  for (const std::string& title : parts.title)
+    add(title);
+  add(chart.folder->manifest.description);
+  for (const Dimension* dimension : {&chart.x, &chart.y})
+    if (!dimension->variables.empty())
+      add(fmt::format("{}: {}", dimension->role, dimension->variables.front()->title));
+  for (const Element& element : chart.elements) {
+    if (element.group == nullptr) continue;
+    std::string groups;
+    for (const Category& category : element.group->categories)
+      groups += (groups.empty() ? "" : ", ") + category.label;
+    add(fmt::format("{}: {}", element.group->title, groups));
+    break;
+  }
+  return text.empty() ? chart.folder->manifest.name : text;
+}
+
+/// The columns of the first data source, for the page's table.
+Json tableColumns(const Chart& chart) {
+  Json columns = Json::array();
+  for (const Variable& variable : chart.variables) {
+    if (variable.texts == nullptr || variable.source != chart.folder->tables.begin()->first)
+      continue;
+    Json column{{"field", variable.id}, {"title", variable.title}};
+    for (const Category& category : variable.categories)
+      if (category.label != category.key) column["labels"][category.key] = category.label;
+    columns.push_back(std::move(column));
+  }
+  return columns;
+}
+
+} // namespace
+
+Json assemble(const Chart& chart, Parts parts, const Notes& notes) {
+  Json plot{{"type", "group"},
+            {"encode",
+             {{"update", {{"width", {{"signal", "width"}}}, {"height", {{"signal", "height"}}}}}}}};
+  Json spec{{"$schema", "https://vega.github.io/schema/vega/v6.json"},
+            {"description", describe(chart, parts)},
+            {"width", theme::plotWidth},
+            {"height", theme::plotHeight},
+            {"padding", 20},
+            {"background", {{"signal", "paper"}}},
+            {"config", theme::config(chart.folder->manifest.language)},
+            {"signals", theme::signals()}};
+  addTitles(spec, plot, parts, chart.folder->manifest);
+
+  addFunctionLegend(parts);
+  Json scales = Json::array();
+  addPositionScale(scales, chart.x);
+  addPositionScale(scales, chart.y);
+  append(scales, std::move(parts.scales));
+  plot["scales"] = std::move(scales);
+  plot["axes"] = std::move(parts.axes);
+  plot["legends"] = std::move(parts.legends);
+  plot["marks"] = std::move(parts.marks);
+
+  spec["data"] = sources(chart);
+  append(spec["data"], std::move(parts.data));
+  spec["marks"] = Json::array({std::move(plot)});
+  spec["usermeta"] = {{"notes", notes.all()}, {"columns", tableColumns(chart)}};
+  return spec;
+}
+
+} // namespace render

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace render {
+
+/// Writes a file so that it appears whole or not at all. Throws RenderError.
+void writeFile(const std::filesystem::path& file, std::string_view bytes);
+
+/// The bytes of a file. Throws RenderError.
+std::string readFile(const std::filesystem::path& file);
+
+} // namespace render

@@ -1,0 +1,124 @@
+#include "page/Html.h"
+
+#include <cctype>
+
+#include <fmt/format.h>
+
+namespace render {
+namespace {
+
+constexpr std::string_view style = R"(
+:root { color-scheme: light dark; --ink: #222; --soft: #5a5f66; --paper: #fff; --line: #d8dade; --link: #0b5cad; }
+@media (prefers-color-scheme: dark) {
+  :root { --ink: #e6e6e6; --soft: #a7adb5; --paper: #16181b; --line: #3a3e44; --link: #7db8f5; }
+}
+body { margin: 0 auto; max-width: 72rem; padding: 1rem 1.5rem 3rem; color: var(--ink); background: var(--paper);
+  font: 1rem/1.5 system-ui, 'Noto Sans', 'DejaVu Sans', sans-serif; }
+a { color: var(--link); }
+h1 { font-size: 1.4rem; margin: .5rem 0 1rem; }
+h2 { font-size: 1.1rem; margin: 1.5rem 0 .5rem; }
+figure { margin: 0; }
+figcaption, .soft { color: var(--soft); }
+#chart svg { max-width: 100%; height: auto; }
+.later { visibility: hidden; animation: show 0s 1.5s forwards; }
+@keyframes show { to { visibility: visible; } }
+.bad { border-left: .3rem solid #d55e00; padding: .3rem 1rem; }
+button { font: inherit; padding: .25rem .8rem; margin: .75rem .5rem .75rem 0; color: inherit; background: none;
+  border: 1px solid var(--line); border-radius: .3rem; cursor: pointer; }
+button:hover { border-color: var(--ink); }
+.table { overflow-x: auto; }
+table { border-collapse: collapse; font-variant-numeric: tabular-nums; }
+th, td { border-bottom: 1px solid var(--line); padding: .2rem .9rem .2rem 0; text-align: left; }
+td.number, th.number { text-align: right; }
+.cards { display: grid; grid-template-columns: repeat(auto-fill, minmax(20rem, 1fr)); gap: 1.5rem; padding: 0; list-style: none; }
+.cards li { border: 1px solid var(--line); border-radius: .4rem; overflow: hidden; }
+.cards img { display: block; width: 100%; aspect-ratio: 4 / 3; object-fit: contain; background: #fff; }
+.cards p, .cards h2 { margin: .6rem 1rem; overflow-wrap: anywhere; }
+)";
+
+std::string replaced(std::string_view text, std::string_view (*replacement)(char)) {
+  std::string result;
+  result.reserve(text.size());
+  for (const char c : text) {
+    const std::string_view with = replacement(c);
+    if (with.empty())
+      result += c;
+    else
+      result += with;
+  }
+  return result;
+}
+
+void replaceAll(std::string& text, std::string_view from, std::string_view to) {
+  for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
+    text.replace(at, from.size(), to);
+}
+
+} // namespace
+
+std::string escapeHtml(std::string_view utf8) {
+  return replaced(utf8, [](char c) -> std::string_view {
+    switch (c) {
+    case '&':
+      return "&amp;";
+    case '<':
+      return "&lt;";
+    case '>':
+      return "&gt;";
+    case '"':
+      return "&quot;";
+    case '\'':
+      return "&#39;";
+    default:
+      return {};
+    }
+  });
+}
+
+std::string escapeScript(std::string_view json) {
+  std::string result = replaced(json, [](char c) -> std::string_view {
+    switch (c) {
+    case '&':
+      return "\\u0026";
+    case '<':
+      return "\\u003c";
+    case '>':
+      return "\\u003e";
+    default:
+      return {};
+    }
+  });
+  replaceAll(result, "\u2028", "\\u2028");
+  replaceAll(result, "\u2029", "\\u2029");
+  return result;
+}
+
+std::string escapeUrl(std::string_view path) {
+  std::string url;
+  for (const char c : path) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool plain = (byte < 0x80 && std::isalnum(byte)) || c == '-' || c == '_' || c == '.' ||
+                       c == '~' || c == '/';
+    if (plain)
+      url += c;
+    else
+      url += fmt::format("%{:02X}", byte);
+  }
+  return url;
+}
+
+std::string pageHead(std::string_view language, std::string_view title, std::string_view policy) {
+  return fmt::format(R"(<!doctype html>
+<html lang="{}">
+<head>
+<meta charset="utf-8">
+<meta http-equiv="Content-Security-Policy" content="{}">
+<meta name="viewport" content="width=device-width, initial-scale=1">
+<title>{}</title>
+<style>{}</style>
+</head>
+)",
+                     escapeHtml(language), policy, escapeHtml(title), style);
+}
+
+} // namespace render

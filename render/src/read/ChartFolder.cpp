@@ -1,0 +1,53 @@
+#include "read/ChartFolder.h"
+
+#include <fstream>
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+#include <render/Pages.h>
+
+namespace render {
+namespace {
+
+std::map<std::string, Table, std::less<>> readTables(const std::filesystem::path& folder,
+                                                     const Node& graph) {
+  std::map<std::string, Table, std::less<>> tables;
+  for (const Node& node : graph.children) {
+    if (node.kind != "source" || node.id().empty()) continue;
+    const std::filesystem::path name = std::string(node.id()) + ".csv";
+    if (name != name.filename())
+      throw RenderError(fmt::format("the source id \"{}\" names no file", node.id()));
+    if (exists(folder / name)) tables.try_emplace(std::string(node.id()), Table::read(folder / name));
+  }
+  return tables;
+}
+
+} // namespace
+
+Manifest Manifest::read(const std::filesystem::path& chartFolder) {
+  Manifest manifest;
+  manifest.name = chartFolder.filename().native();
+  const std::filesystem::path file = chartFolder / "manifest.json";
+  std::ifstream stream(file);
+  if (!stream) return manifest;
+  try {
+    const nlohmann::json json = nlohmann::json::parse(stream);
+    if (!json.is_object()) throw RenderError(fmt::format("{}: not an object", file.native()));
+    const std::string name = json.value("name", "");
+    if (!name.empty()) manifest.name = name;
+    manifest.description = json.value("description", "");
+    manifest.splitHeader = json.value("splitHeader", "");
+    manifest.language = json.value("language", manifest.language);
+  } catch (const nlohmann::json::exception& e) {
+    throw RenderError(fmt::format("{}: {}", file.native(), e.what()));
+  }
+  return manifest;
+}
+
+ChartFolder ChartFolder::read(const std::filesystem::path& folder) {
+  Document document = Document::read(folder / "chart.xml");
+  auto tables = readTables(folder, document.graph());
+  return {Manifest::read(folder), std::move(document), std::move(tables)};
+}
+
+} // namespace render

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+#include "read/Document.h"
+#include "read/Table.h"
+
+namespace render {
+
+/// What a chart's manifest says that its document does not.
+struct Manifest {
+  std::string name;
+  std::string description{};
+  std::string splitHeader{};
+  std::string language = "en";
+
+  /// Reads manifest.json of a chart folder; a folder without one has a manifest
+  /// that names the folder. Throws RenderError.
+  static Manifest read(const std::filesystem::path& chartFolder);
+};
+
+/// A chart as its folder holds it.
+struct ChartFolder {
+  Manifest manifest;
+  Document document;
+  std::map<std::string, Table, std::less<>> tables; ///< by source id
+
+  /// Throws RenderError for a file that is missing or malformed.
+  static ChartFolder read(const std::filesystem::path& folder);
+};
+
+} // namespace render

@@ -1,0 +1,120 @@
+#include "resolve/Variable.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <unordered_map>
+#include <unordered_set>
+
+#include <fmt/format.h>
+#include <unicode/coll.h>
+
+namespace render {
+namespace {
+
+constexpr double missing = std::numeric_limits<double>::quiet_NaN();
+/// Beyond it differences between values overflow. The system-missing value lies
+/// there too.
+constexpr double largest = 1e300;
+
+/// The number of a whole text, or NaN.
+double number(std::string_view text) {
+  double value = missing;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return error == std::errc() && end == text.data() + text.size() ? value : missing;
+}
+
+std::vector<double> readNumbers(const Table::Column& texts, std::string_view title, Notes& notes) {
+  std::vector<double> numbers;
+  numbers.reserve(texts.size());
+  std::size_t refused = 0;
+  for (const std::string& text : texts) {
+    double value = number(text);
+    if (!(std::abs(value) <= largest)) {
+      if (!text.empty()) ++refused;
+      value = missing;
+    }
+    numbers.push_back(value);
+  }
+  if (refused > 0)
+    notes.add(fmt::format("{} of {} values of {} are not numbers that can be drawn and are left out",
+                          refused, texts.size(), title));
+  return numbers;
+}
+
+/// Ascending: by number when all keys are numbers, else as the language sorts.
+void sortKeys(std::vector<std::string>& keys, const std::string& language) {
+  const auto isNumber = [](const std::string& key) { return !std::isnan(number(key)); };
+  if (std::ranges::all_of(keys, isNumber)) {
+    std::ranges::sort(keys, {}, [](const std::string& key) { return number(key); });
+    return;
+  }
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::Collator> collator(
+      icu::Collator::createInstance(icu::Locale(language.c_str()), status));
+  std::ranges::sort(keys, [&](const std::string& a, const std::string& b) {
+    UErrorCode ignored = U_ZERO_ERROR;
+    const UCollationResult order = collator ? collator->compareUTF8(a, b, ignored) : UCOL_EQUAL;
+    return order == UCOL_EQUAL ? a < b : order == UCOL_LESS;
+  });
+}
+
+std::vector<Category> readCategories(const Node& node, const Table::Column& texts,
+                                     const std::string& language) {
+  const std::unordered_set<std::string_view> distinct(texts.begin(), texts.end());
+  std::vector<std::string> keys;
+  for (const std::string_view key : distinct)
+    if (!key.empty()) keys.emplace_back(key);
+  sortKeys(keys, language);
+
+  std::unordered_map<std::string_view, std::string_view> labelOfKey;
+  for (const Node& child : node.children)
+    if (child.kind == "relabel") labelOfKey.try_emplace(child.attribute("from"), child.attribute("to"));
+
+  std::vector<Category> categories;
+  for (const std::string& key : keys) {
+    const auto label = labelOfKey.find(key);
+    categories.push_back(
+        {.key = key, .label = label == labelOfKey.end() ? key : std::string(label->second)});
+  }
+  return categories;
+}
+
+const Table::Column* findColumn(const Node& node, const ChartFolder& folder) {
+  const auto table = folder.tables.find(node.attribute("source"));
+  return table == folder.tables.end() ? nullptr : table->second.find(node.attribute("sourceName"));
+}
+
+} // namespace
+
+bool Variable::isMissing(std::size_t row) const {
+  return categorical ? (*texts)[row].empty() : std::isnan(numbers[row]);
+}
+
+Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes) {
+  Variable variable;
+  variable.id = node.id();
+  variable.source = node.attribute("source");
+  variable.categorical = node.attribute("categorical") == "true";
+  for (const std::string_view name : {"label", "shortLabel", "id"})
+    if (variable.title.empty()) variable.title = node.attribute(name);
+
+  const Node* meta = node.child("meta");
+  if (const Node* format = meta ? meta->child("numberFormat") : nullptr)
+    variable.format = NumberFormat::read(*format, notes);
+  if (!variable.categorical && node.child("relabel") != nullptr)
+    notes.add(fmt::format("the value labels of {} are not drawn on its continuous scale",
+                          variable.title));
+
+  variable.texts = findColumn(node, folder);
+  if (variable.texts == nullptr) return variable;
+  if (variable.categorical)
+    variable.categories = readCategories(node, *variable.texts, folder.manifest.language);
+  else
+    variable.numbers = readNumbers(*variable.texts, variable.title, notes);
+  return variable;
+}
+
+} // namespace render

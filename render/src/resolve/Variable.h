@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "read/ChartFolder.h"
+#include "resolve/Notes.h"
+#include "resolve/NumberFormat.h"
+
+namespace render {
+
+struct Category {
+  std::string key;   ///< the value as the data hold it
+  std::string label; ///< the text shown for it
+};
+
+/// A variable of the chart with its values. Its id names its field in Vega.
+struct Variable {
+  std::string id;
+  std::string title; ///< its label, else its short label, else its id
+  std::string source;
+  bool categorical = false;
+  std::optional<NumberFormat> format;
+
+  const Table::Column* texts = nullptr; ///< null when it has no data
+  std::vector<double> numbers;          ///< of a continuous variable; NaN is missing
+  std::vector<Category> categories{};     ///< of a categorical one, in drawing order
+
+  bool isMissing(std::size_t row) const;
+};
+
+/// Finds the values of a "variable" node and how they are shown. Values that are
+/// not numbers, or too large to draw, become missing values of a continuous
+/// variable and are noted.
+Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes);
+
+} // namespace render

@@ -1,0 +1,92 @@
+#include <charconv>
+
+#include <fmt/format.h>
+
+#include "text/Expression.h"
+#include "text/Show.h"
+#include "translate/Formula.h"
+#include "translate/Groups.h"
+#include "translate/Theme.h"
+#include "translate/Translator.h"
+
+namespace render {
+namespace {
+
+std::string_view parameter(const Node& guide, std::string_view name) {
+  for (const Node& child : guide.children)
+    if (child.kind == "parameter" && child.attribute("name") == name)
+      return child.attribute("value");
+  return {};
+}
+
+int pointCount(const Node& guide, Notes& notes) {
+  constexpr int usual = 1000;
+  constexpr int most = 10000;
+  const std::string_view text = parameter(guide, "numPoints");
+  if (text.empty()) return usual;
+  int count = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
+  if (error == std::errc() && end == text.data() + text.size() && count >= 2 && count <= most)
+    return count;
+  notes.add(fmt::format("{}: numPoints=\"{}\" is not a number from 2 to {}", guide.name(),
+                        shown(text), most));
+  return usual;
+}
+
+/// Points over the whole x scale. A value far outside the plot is brought nearer,
+/// which keeps the line where it can be seen.
+Json functionData(const Node& guide, const std::string& formula, int points, const Chart& chart) {
+  const Dimension& x = chart.x;
+  const Dimension& y = chart.y;
+  const double reach = 10 * (y.high - y.low);
+  const std::string atX = fmt::format("{} + datum.i * {}", literal(x.low),
+                                      literal((x.high - x.low) / (points - 1)));
+  const std::string nearer = fmt::format("isFinite(datum.y) ? clamp(datum.y, {}, {}) : null",
+                                         literal(y.low - reach), literal(y.high + reach));
+  return {
+      {"name", guide.id()},
+      {"transform",
+       {{{"type", "sequence"}, {"start", 0}, {"stop", points}, {"as", "i"}},
+        {{"type", "formula"}, {"as", "x"}, {"expr", atX}},
+        {{"type", "formula"}, {"as", "y"}, {"expr", formula}},
+        {{"type", "formula"}, {"as", "y"}, {"expr", nearer}}}},
+  };
+}
+
+} // namespace
+
+/// A function of x as a line across the plot.
+void translateFunction(const Node& guide, Context& context) {
+  const auto refuse = [&](std::string_view why) {
+    context.notes.add(fmt::format("{} is not drawn: {}", guide.name(), why));
+  };
+  if (context.chart.x.categorical || context.chart.y.categorical)
+    return refuse("a function needs continuous scales");
+
+  const std::string_view text = parameter(guide, "y");
+  std::string formula;
+  try {
+    formula = translateFormula(text, "datum.x");
+  } catch (const FormulaError& e) {
+    return refuse(fmt::format("its formula \"{}\": {}", shown(text), e.what()));
+  }
+  const int points = pointCount(guide, context.notes);
+  context.parts.data.push_back(functionData(guide, formula, points, context.chart));
+
+  Json update{{"x", {{"scale", "x"}, {"field", "x"}}},
+              {"y", {{"scale", "y"}, {"field", "y"}}},
+              {"defined", {{"signal", "isValid(datum.y)"}}},
+              {"stroke", {{"signal", "ink"}}},
+              {"strokeWidth", {{"value", theme::lineWidth}}},
+              {"strokeDash", {{"value", theme::functionDash(context.parts.functions.size())}}}};
+  if (!guide.attribute("name").empty())
+    update["tooltip"] = {
+        {"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}};
+  context.parts.marks.push_back({{"type", "line"},
+                                 {"from", {{"data", guide.id()}}},
+                                 {"clip", true},
+                                 {"encode", {{"update", std::move(update)}}}});
+  context.parts.functions.push_back(&guide);
+}
+
+} // namespace render

@@ -1,0 +1,116 @@
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "text/Show.h"
+#include "text/Wrap.h"
+#include "translate/Groups.h"
+#include "translate/Style.h"
+#include "translate/Theme.h"
+#include "translate/Translator.h"
+
+namespace render {
+namespace {
+
+/// What one legend shows: the groups of a variable as points, lines or both.
+struct Entry {
+  const Variable* group;
+  bool points = false;
+  bool lines = false;
+  bool hollow = false;
+};
+
+/// Whether a target asks for the groups of its element.
+bool asksForGroups(const Node& target, const Node& element) {
+  const std::string_view aesthetic = target.attribute("aesthetic");
+  if (aesthetic.empty() || aesthetic == "color" || aesthetic == "styleBy") return true;
+  return std::ranges::any_of(element.children, [=](const Node& child) {
+    return (child.kind == "styleBy" || child.kind == "color") && child.id() == aesthetic;
+  });
+}
+
+void addTarget(const Node& target, std::vector<Entry>& entries, Context& context) {
+  const Node* node = context.chart.folder->document.find(target.attribute("element"));
+  // A function line has its entry by its name, an element that is not drawn none.
+  const Element* element = node ? context.chart.find(*node) : nullptr;
+  if (element == nullptr || element->group == nullptr) return;
+  if (!asksForGroups(target, *node)) {
+    context.notes.add(fmt::format("{}: a legend of {} is not drawn yet", target.name(),
+                                  shown(target.attribute("aesthetic"))));
+    return;
+  }
+  auto entry = std::ranges::find(entries, element->group, &Entry::group);
+  if (entry == entries.end()) entry = entries.insert(entry, {.group = element->group});
+  const bool isPoint = node->attribute("type") == "point";
+  entry->points = entry->points || isPoint;
+  entry->lines = entry->lines || !isPoint;
+  entry->hollow = entry->hollow || (isPoint && isHollow(*node, context.chart));
+}
+
+/// Labels wrapped to the legend's width.
+std::string addLegendLabels(const Variable& group, Parts& parts) {
+  std::string name = scaleName("legend", group.id);
+  if (parts.hasScale(name)) return name;
+  Json labels = Json::array();
+  for (const Category& category : group.categories)
+    labels.push_back(
+        wrap(category.label, {.width = theme::legendWidth, .fontSize = theme::labelSize, .lines = 3}));
+  parts.scales.push_back(categoryScale(name, group.categories, std::move(labels)));
+  return name;
+}
+
+std::string addSymbolsOnLines(const Variable& group, Parts& parts) {
+  std::string name = scaleName("key", group.id);
+  if (parts.hasScale(name)) return name;
+  Json paths = Json::array();
+  for (const theme::Symbol& symbol : theme::symbols)
+    paths.push_back(theme::symbolOnLine(symbol));
+  parts.scales.push_back(categoryScale(name, group.categories, std::move(paths)));
+  return name;
+}
+
+Json legendOf(const Entry& entry, const Node& legend, Context& context) {
+  const Variable& group = *entry.group;
+  addGroupScales(group, context.parts);
+  const Node* label = legend.child("label");
+  const std::string& title = label && !label->text.empty() ? label->text : group.title;
+
+  Json json{{"title", wrap(title, {.width = theme::legendWidth,
+                                   .fontSize = theme::labelSize + 1,
+                                   .lines = 4})},
+            {"stroke", scaleName("color", group.id)}};
+  if (entry.points) {
+    json["shape"] = entry.lines ? addSymbolsOnLines(group, context.parts)
+                                : scaleName("symbol", group.id);
+    if (entry.hollow)
+      json["symbolFillColor"] = "transparent";
+    else
+      json["fill"] = scaleName("color", group.id);
+    json["encode"]["symbols"]["update"]["fillOpacity"] = {{"value", theme::fillOpacity}};
+  } else {
+    json["symbolType"] = "M-2.6,0H2.6";
+    if (!hasPoints(group, context.chart)) json["strokeDash"] = scaleName("dash", group.id);
+  }
+  if (entry.lines) json["symbolOffset"] = 6;
+  json["encode"]["labels"]["update"]["text"] = {
+      {"scale", addLegendLabels(group, context.parts)}, {"field", "value"}};
+  return json;
+}
+
+} // namespace
+
+/// One legend for each variable that its targets are grouped by.
+void translateLegend(const Node& legend, Context& context) {
+  std::vector<Entry> entries;
+  for (const Node& child : legend.children)
+    if (child.kind == "legendTarget") addTarget(child, entries, context);
+  for (const Entry& entry : entries) {
+    context.parts.legends.push_back(legendOf(entry, legend, context));
+    const std::size_t count = entry.group->categories.size();
+    if (count > theme::legendEntries)
+      context.notes.add(fmt::format("the legend of {} shows the first {} of {} categories",
+                                    entry.group->title, theme::legendEntries - 1, count));
+  }
+}
+
+} // namespace render

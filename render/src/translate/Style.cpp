@@ -1,0 +1,46 @@
+#include "translate/Style.h"
+
+#include <algorithm>
+#include <array>
+
+#include <fmt/format.h>
+
+#include "text/Show.h"
+#include "translate/Translator.h"
+
+namespace render {
+
+void forEachProperty(std::string_view value,
+                     const std::function<void(std::string_view, std::string_view)>& take) {
+  while (!value.empty()) {
+    const std::string_view property = value.substr(0, value.find(';'));
+    value.remove_prefix(std::min(property.size() + 1, value.size()));
+    if (property.empty()) continue;
+    const std::size_t colon = std::min(property.find(':'), property.size());
+    take(property.substr(0, colon), property.substr(std::min(colon + 1, property.size())));
+  }
+}
+
+bool isHollow(const Node& element, const Chart& chart) {
+  const Node* style = chart.folder->document.find(element.attribute("style"));
+  bool hollow = false;
+  if (style != nullptr)
+    forEachProperty(style->attribute("value"), [&](std::string_view name, std::string_view value) {
+      if (name == "fill") hollow = value == "transparent";
+    });
+  return hollow;
+}
+
+/// The properties are drawn where the style is used; here the others are noted.
+void translateStyle(const Node& style, Context& context) {
+  using Property = std::pair<std::string_view, std::string_view>;
+  static constexpr std::array<Property, 2> drawn{
+      Property{"fill", "transparent"}, Property{"fill-pattern", "0"}};
+  forEachProperty(style.attribute("value"), [&](std::string_view name, std::string_view value) {
+    if (std::ranges::find(drawn, Property{name, value}) == drawn.end())
+      context.notes.add(
+          fmt::format("{}: {}:{} is not drawn yet", style.name(), shown(name), shown(value)));
+  });
+}
+
+} // namespace render

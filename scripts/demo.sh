@@ -1,0 +1,44 @@
+# ./dev demo: from the data sets to a gallery that a browser opens.
+(($# == 0)) || fail "demo takes no arguments"
+
+gallery=$root/charts
+made=$gallery/.demo # the chart folders of the former demo, one a line
+
+chart_folders() { find "$gallery" -mindepth 1 -maxdepth 1 -type d -name '[0-9]*-*' -printf '%f\n' | sort; }
+
+# Charts that the reader drew into the same folder stay.
+clear_former_demo() {
+  mkdir -p -- "$gallery"
+  [[ -f $made ]] || return 0
+  local name
+  while read -r name; do
+    [[ $name == [0-9]*-* && $name != */* ]] && rm -rf -- "${gallery:?}/$name"
+  done <"$made"
+  rm -- "$made"
+}
+
+run_procedure() {
+  local before status=0
+  before=$(chart_folders)
+  say "running ${1##*/}"
+  CHARTXML_OUTPUT=$gallery "$1" || status=$?
+  comm -13 <(printf '%s\n' "$before") <(chart_folders) >>"$made"
+  ((status == 0)) || fail "${1##*/} ended with status $status"
+}
+
+debian_packages build pages test
+npm_packages
+configure_release
+compile build host/all render/all tools/all procedures/all
+
+clear_former_demo
+for procedure in build/bin/procedures/*; do
+  [[ -f $procedure && -x $procedure ]] || fail "there is no procedure in build/bin/procedures"
+  run_procedure "$procedure"
+done
+
+say "drawing the pictures"
+build/bin/chartxml render "$gallery" --svg --png
+
+say "done; open this file in a browser:"
+printf '%s\n' "$gallery/index.html"

@@ -1,0 +1,210 @@
+#include <limits>
+
+#include <host/ChartError.h>
+#include <host/Missing.h>
+
+#include "OutputTest.h"
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class FolderSink : public OutputTest {};
+
+TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
+  VarDataProcessor columns;
+  VarDataProcessor::_varinfo x, text;
+  columns.AddDataSource("source0", 0);
+  columns.AddDataSource("source1", 0);
+  columns.AddVariable("source0", "V1", x);
+  columns.AddVariable("source0", "V2", text);
+  columns.SetVariableValue(x, 0, 0.1);
+  columns.SetStringVariableValue(text, 0, "a\"b,c\nd");
+  columns.SetStringVariableValue(text, 2, "ä");
+  columns.SetVariableValue(x, 2, host::systemMissing);
+
+  auto& variables = visualization.getSourceVariables();
+  variables.resize(3);
+  variables[0].id = "variable1", variables[0].source = "source0", variables[0].sourceName = "V1";
+  variables[0].label = "Bill \"length\"", variables[0].shortLabel = "bill";
+  variables[0].categorical = "false";
+  variables[1].id = "variable2", variables[1].source = "variable1", variables[1].sourceName = "V1";
+  variables[1].addExtension().setAttribute("statistic", "range");
+  variables[1].getExtension()->setMin(1);
+  variables[1].getExtension()->setMax(host::systemMissing);
+  variables[2].id = "variable3", variables[2].source = "source0", variables[2].sourceName = "V2";
+  variables[2].categorical = "true";
+  customizeCharts(visualization).customizeIciclePlots(true, 3);
+
+  const std::string name = "Größe & Gewicht", xml(200000, 'x'), description = "a\xFF\"",
+                    header = "h", look = "t", language = "de";
+  host::FolderSink sink({});
+  sink.send({name, xml, description, header, look, language, visualization, &columns});
+  sink.send({name, xml, description, header, look, language, visualization, &columns});
+
+  EXPECT_EQ(names(output), (Names{".lock", "0001-gr-e-gewicht", "0002-gr-e-gewicht"}));
+  for (const char* folder : {"0001-gr-e-gewicht", "0002-gr-e-gewicht"}) {
+    EXPECT_EQ(names(output / folder), (Names{"chart.xml", "manifest.json", "source0.csv"}));
+    EXPECT_TRUE(read(output / folder / "chart.xml") == xml);
+    EXPECT_EQ(read(output / folder / "source0.csv"), "V1,V2\n0.1,\"a\"\"b,c\nd\"\n,\n,ä\n");
+    EXPECT_EQ(read(output / folder / "manifest.json"), R"({
+  "name": "Größe & Gewicht",
+  "description": "a�\"",
+  "splitHeader": "h",
+  "template": "t",
+  "language": "de",
+  "type": "icicle",
+  "icicle": {
+    "orientation": "horizontal",
+    "rows": 3
+  },
+  "sources": [
+    {
+      "name": "source0",
+      "file": "source0.csv",
+      "rows": 3,
+      "columns": [
+        {
+          "name": "V1",
+          "variables": [
+            "variable1",
+            "variable2"
+          ],
+          "label": "Bill \"length\"",
+          "shortLabel": "bill",
+          "kind": "number",
+          "categorical": false
+        },
+        {
+          "name": "V2",
+          "variables": [
+            "variable3"
+          ],
+          "label": "",
+          "shortLabel": "",
+          "kind": "string",
+          "categorical": true
+        }
+      ]
+    },
+    {
+      "name": "source1",
+      "file": "",
+      "rows": 0,
+      "columns": []
+    }
+  ],
+  "statistics": {
+    "variable2": {
+      "statistic": "range",
+      "min": 1.0,
+      "max": null
+    }
+  },
+  "errors": []
+}
+)");
+  }
+  EXPECT_EQ(reports, Names{});
+}
+
+TEST_F(FolderSink, writes_each_cell_as_it_went_in) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  VarDataProcessor columns;
+  VarDataProcessor::_varinfo mixed;
+  columns.AddDataSource("only", 0);
+  columns.AddVariable("only", "A,\"B\"", mixed);
+  std::size_t row = 0;
+  for (const double value :
+       {2.0, -0.0, 1e300, 5e-324, -1.7976931348623155e308, std::numeric_limits<double>::quiet_NaN(),
+        infinity, -infinity, host::systemMissing})
+    columns.SetVariableValue(mixed, row++, value);
+  for (const char* value : {"", " 2 ", "a\rb", "NA"})
+    columns.SetStringVariableValue(mixed, row++, value);
+  columns.SetStringVariableValue(mixed, row++, std::string_view("a\0b", 3));
+  columns.SetVariableValue(mixed, row + 1, 7);
+  data = &columns;
+  send("");
+  EXPECT_EQ(read(output / "0001-chart/only.csv"),
+            "\"A,\"\"B\"\"\"\n2\n-0\n1e+300\n5e-324\n-1.7976931348623155e+308\nNaN\nINF\n-INF\n"
+            "\"\"\n\"\"\n 2 \n\"a\rb\"\nNA\n\"a\xEF\xBF\xBD"
+            "b\"\n\"\"\n7\n");
+}
+
+TEST_F(FolderSink, makes_folder_names_that_every_file_system_takes) {
+  const std::string longName(59, 'X');
+  const std::pair<std::string, std::string> cases[] = {
+      {"ANOVA 2/../..\\x:y", "0001-anova-2-x-y"},
+      {"..", "0002-chart"},
+      {"散布図", "0003-chart"},
+      {longName + "-yz", "0004-" + std::string(59, 'x')},
+  };
+  for (const auto& [name, folder] : cases) {
+    send(name);
+    EXPECT_TRUE(exists(output / folder / "manifest.json")) << folder << " for " << name;
+  }
+  EXPECT_EQ(names(output).size(), 5U);
+}
+
+TEST_F(FolderSink, numbers_on_after_the_highest_chart_there) {
+  for (const char* taken : {"0007-gap", "0012-file", "20-short", "9999999999999999-much", "x-31"})
+    std::filesystem::create_directories(output / taken);
+  send("next");
+  EXPECT_TRUE(exists(output / "0021-next"));
+}
+
+TEST_F(FolderSink, lets_the_pages_be_written_before_and_after_the_chart_appears) {
+  Names seen;
+  host::PageWriter pages;
+  pages.writeChart = [&](const std::filesystem::path& folder) {
+    if (seen.empty()) {
+      seen.push_back("chart");
+      send("inner"); // finds the outer chart unfinished, and leaves it alone
+    }
+    EXPECT_EQ(names(folder), (Names{"chart.xml", "manifest.json"}));
+    std::ofstream(folder / "chart.html") << "page";
+  };
+  pages.writeGallery = [&](const std::filesystem::path& folder) {
+    for (const auto& name : names(folder))
+      seen.push_back(name);
+  };
+  send("outer", pages);
+  EXPECT_EQ(seen, (Names{"chart", ".lock", "0001-inner", "0002-outer"}));
+  EXPECT_EQ(read(output / "0002-outer/chart.html"), "page");
+}
+
+TEST_F(FolderSink, delivers_a_chart_whose_pages_fail_and_says_so) {
+  host::PageWriter pages;
+  pages.writeChart = [](const std::filesystem::path& folder) {
+    throw std::runtime_error((folder / "chart.xml").native() + ":1:1: not drawn");
+  };
+  pages.writeGallery = [](const std::filesystem::path&) {
+    throw ChartException("no gallery", "", 0);
+  };
+  send("bare", pages);
+  EXPECT_EQ(names(output / "0001-bare"), (Names{"chart.xml", "manifest.json"}));
+  EXPECT_THAT(read(output / "0001-bare/manifest.json"),
+              testing::EndsWith("\"errors\": [\n    \"chart.xml:1:1: not drawn\"\n  ]\n}\n"));
+  EXPECT_EQ(reports, (Names{"the page of " + (output / "0001-bare").native() +
+                                " was not written: chart.xml:1:1: not drawn",
+                            "the gallery of " + output.native() + " was not written: no gallery"}));
+}
+
+TEST_F(FolderSink, removes_what_a_process_left_that_died_while_writing) {
+  std::filesystem::create_directories(output / ".tmp-1-1/deep");
+  std::ofstream(output / ".tmp-1-1/chart.xml") << "<gra";
+  send("next");
+  EXPECT_EQ(names(output), (Names{".lock", "0001-next"}));
+}
+
+TEST_F(FolderSink, keeps_the_error_list_and_renews_the_gallery) {
+  int galleries = 0;
+  host::FolderSink sink({{}, [&](const std::filesystem::path&) { ++galleries; }});
+  sink.noteError("first \"quoted\"");
+  sink.noteError("second");
+  EXPECT_EQ(names(output), (Names{".lock", "errors.json"}));
+  EXPECT_EQ(read(output / "errors.json"), "[\n  \"first \\\"quoted\\\"\",\n  \"second\"\n]\n");
+  EXPECT_EQ(galleries, 2);
+}
+
+} // namespace

@@ -1,0 +1,115 @@
+#include <host/ChartError.h>
+#include <host/ChartSink.h>
+#include <host/ErrorLog.h>
+#include <host/OutputText.h>
+
+namespace {
+
+TEST(XDocument, reads_the_variables_of_the_graph_with_their_descriptions) {
+  const std::string xml = R"(<?xml version="1.0" encoding="UTF-8"?>
+    <graph name="Regression">
+      <variable id="variable3" sourceName="V3" source="source0" categorical="false"
+                label="Body&#10;mass" shortLabel="mäss">
+        <meta creator="external_datasource" description="mean;12.5"><number/></meta>
+      </variable>
+      <frame><variable id="inner"/><meta description="of no variable"/></frame>
+      <variable id="variable4" categorical="true"/>
+    </graph>)";
+  XDocument document(xml, false, true);
+  const auto& variables = document.getExternalGraph()->getImplementation().getSourceVariables();
+  ASSERT_EQ(variables.size(), 2U);
+  const CTVariableType& first = variables[0];
+  EXPECT_EQ((std::vector{first.id, first.sourceName, first.source, first.categorical, first.label,
+                         first.shortLabel, first.getDescription()}),
+            (std::vector<std::string>{"variable3", "V3", "source0", "false", "Body\nmass", "mäss",
+                                      "mean;12.5"}));
+  EXPECT_EQ(variables[1].id, "variable4");
+  EXPECT_EQ(variables[1].source + variables[1].getDescription(), "");
+}
+
+TEST(XDocument, refuses_what_is_no_chart_document_with_line_and_column) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"", "line 1, column 1: invalid document structure"},
+      {"<graph>\n  <frame>\n</graph>", "line 3, column 3: expected end of tag 'frame'"},
+      {"<graph a='\x01'/>", "line 1, column 12: invalid character 0x1 in attribute value 'a'"},
+      {"<graph a='\xC3(      '/>", "line 1, column 1: invalid byte '(' at position 2 of a 2-byte sequence"},
+      {"<graph>&other;</graph>", "line 1, column 15: entity 'other' not found"},
+      {"<!DOCTYPE graph SYSTEM 'file:///etc/passwd'>\n<graph/>",
+       "line 1, column 44: a document type declaration is not allowed"},
+      {"<!DOCTYPE graph [<!ENTITY a '&a;'>]><graph>&a;</graph>",
+       "line 1, column 17: a document type declaration is not allowed"},
+  };
+  for (const auto& [xml, message] : cases) {
+    try {
+      const XDocument document(xml, false, true);
+      ADD_FAILURE() << "not refused: " << xml;
+    } catch (const ChartException& exception) {
+      EXPECT_EQ(exception.what(), "can't read the chart document: " + message) << xml;
+    }
+  }
+}
+
+/// Takes what it is sent, or throws what it is told.
+class TestSink final : public host::ChartSink {
+public:
+  explicit TestSink(std::function<void(const std::string&)> take) : take_(std::move(take)) {}
+  void send(const host::SentChart& chart) override {
+    take_(chart.name + "|" + chart.xml + "|" + chart.description + "|" + chart.splitHeader + "|" +
+          chart.chartTemplate + "|" + chart.language);
+  }
+  void noteError(const std::string& text) override { take_(text); }
+
+private:
+  std::function<void(const std::string&)> take_;
+};
+
+class Sending : public testing::Test {
+protected:
+  Sending() {
+    host::setErrorCallback(
+        [this](const host::ErrorReport& report) { reports.push_back(report.message); });
+  }
+  ~Sending() override {
+    host::setErrorCallback({});
+    host::setChartSink(nullptr);
+  }
+
+  bool send() {
+    const std::string xml = "<graph name='n'/>";
+    XDocument document(xml, false, true);
+    document.SetDescription(ChartString(u"Größe"));
+    document.SetSplitHeader(ChartString(u"sex: male"));
+    document.SetChartTemplate("dark");
+    return document.SendChart(true, false, false);
+  }
+
+  std::vector<std::string> reports;
+};
+
+TEST_F(Sending, hands_the_chart_to_the_sink) {
+  std::string taken;
+  host::setChartSink(std::make_unique<TestSink>([&](const std::string& text) { taken = text; }));
+  EXPECT_TRUE(send());
+  EXPECT_EQ(taken, "n|<graph name='n'/>|Größe|sex: male|dark|en");
+  SkError(SkString("Chart XML Send Error", 1), SkErrorShow(2), SkErrorLevel(3));
+  EXPECT_EQ(taken, "Chart XML Send Error");
+  EXPECT_EQ(reports, std::vector<std::string>{});
+}
+
+TEST_F(Sending, reports_what_the_sink_refuses) {
+  host::setChartSink(std::make_unique<TestSink>(
+      [](const std::string&) { throw ChartException("no room", "sink.cpp", 7); }));
+  EXPECT_FALSE(send());
+  SkError(SkString("lost", 1), SkErrorShow(2), SkErrorLevel(3));
+  EXPECT_EQ(reports, (std::vector<std::string>{
+                         "no room", "the output's error list can't take \"lost\": no room"}));
+}
+
+TEST_F(Sending, lets_other_exceptions_pass) {
+  host::setChartSink(
+      std::make_unique<TestSink>([](const std::string&) { throw KorvaGoToCaller(); }));
+  EXPECT_THROW(send(), KorvaGoToCaller);
+  EXPECT_EQ(reports, std::vector<std::string>{});
+}
+
+} // namespace

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tools {
+
+struct PictureOptions {
+  bool svg = false;
+  bool png = false;
+  std::string node{}; ///< the Node.js program; empty: the one installed beside, else on the path
+};
+
+/// Draws chart.svg and chart.png from the chart.vg.json of each folder, all in one
+/// Node.js process that tells its progress on standard output. Throws
+/// std::runtime_error when it cannot be started or a picture failed.
+void drawPictures(const std::vector<std::filesystem::path>& folders, const PictureOptions& options);
+
+} // namespace tools
