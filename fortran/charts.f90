@@ -6,8 +6,10 @@ module charts
   use chartxml
   implicit none
   private
-  public :: create_chart, describe_chart, text, composed, number_text, style_name
-  public :: variable_label, display_format, made, make, require
+  public :: create_chart, describe_chart
+  public :: text, composed, listed, number_text, style_name, variable_label
+  public :: display_format, format_type
+  public :: made, make, require
 
   !> The kind of every integer of module chartxml: 1_cx.
   integer, parameter, public :: cx = c_int64_t
@@ -22,8 +24,8 @@ module charts
   integer(cx), parameter, public :: word_style_by = 36
   integer(cx), parameter, public :: word_simple_line = 43, word_scatter = 96
 
-  !> Type code of the plain number format.
-  integer, parameter, public :: plain_format = 5
+  ! Type codes of display formats.
+  integer, parameter, public :: text_format = 1, plain_format = 5
 
 contains
 
@@ -62,15 +64,43 @@ contains
     character(*), intent(in) :: pattern
     integer(cx), intent(in) :: parameters(:)
     integer(cx) :: string
-    integer :: i
 
     string = cx_compositestring(ignored, pattern, len(pattern, kind=cx))
+    if (added(string, parameters)) then
+      string = cx_endcompositestring(ignored, string)
+    else
+      string = -1
+    end if
+  end function
+
+  !> The pattern with its repeat list filled with the items: '[%1:, ^1:]1' puts a comma
+  !> before each but the first.
+  function listed(pattern, items) result(string)
+    character(*), intent(in) :: pattern
+    integer(cx), intent(in) :: items(:)
+    integer(cx) :: string
+    logical :: filled
+
+    string = cx_compositestring(ignored, pattern, len(pattern, kind=cx))
+    filled = cx_beginrepeat(ignored, string) >= 0
+    if (filled) filled = added(string, items)
+    if (filled) filled = cx_endrepeat(ignored, string) >= 0
+    if (filled) then
+      string = cx_endcompositestring(ignored, string)
+    else
+      string = -1
+    end if
+  end function
+
+  !> Whether each of the parameters could be added to an open composite.
+  logical function added(composite, parameters)
+    integer(cx), intent(in) :: composite, parameters(:)
+    integer :: i
+
+    added = composite >= 0
     do i = 1, size(parameters)
-      if (string >= 0) then
-        if (cx_addparameter(ignored, string, parameters(i)) < 0) string = -1
-      end if
+      if (added) added = cx_addparameter(ignored, composite, parameters(i)) >= 0
     end do
-    if (string >= 0) string = cx_endcompositestring(ignored, string)
   end function
 
   !> A number in a plain format, 8 places wide, with that many decimals.
@@ -103,6 +133,13 @@ contains
     integer(cx) :: format
 
     format = int(ior(ishft(type, 16), ior(ishft(width, 8), decimals)), cx)
+  end function
+
+  !> The type code of a packed display format.
+  pure integer function format_type(format)
+    integer(cx), intent(in) :: format
+
+    format_type = int(ishft(format, -16))
   end function
 
   ! Refusals: the library has written its reason to standard error

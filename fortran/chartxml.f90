@@ -388,24 +388,25 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart
     end function
 
-    !> Starts the next row of data; a bad chart handle is ignored silently. Returns the number of
+    !> Starts the next row of data; a bad chart handle is refused silently. Returns the number of
     !> rows.
     integer(c_int64_t) function cx_addrow(chart, row_source) bind(C, name="cx_addrow_")
       import
       integer(c_int64_t), intent(in) :: chart, row_source
     end function
 
-    !> Puts a text into the current row, as a number when it reads as one. A string handle of -1 is
-    !> refused silently; a value that the chart refuses discards the whole chart. Returns 0, also
-    !> when the node is no variable with a column.
+    !> Puts a text into the current row, as a number when it reads as one. A bad chart handle and a
+    !> string handle of -1 are refused silently; a value that the chart refuses discards the whole
+    !> chart. Returns 0, also when the node is no variable with a column.
     integer(c_int64_t) function cx_adddatavalue(chart, row_source, variable, value_string) &
         bind(C, name="cx_adddatavalue_")
       import
       integer(c_int64_t), intent(in) :: chart, row_source, variable, value_string
     end function
 
-    !> Puts a number into the current row. A value that the chart refuses discards the whole chart.
-    !> Returns 0, also when the node is no variable with a column.
+    !> Puts a number into the current row. A bad chart handle is refused silently; a value that the
+    !> chart refuses discards the whole chart. Returns 0, also when the node is no variable with a
+    !> column.
     integer(c_int64_t) function cx_adddoubledatavalue(chart, row_source, variable, value) &
         bind(C, name="cx_adddoubledatavalue_")
       import
@@ -537,7 +538,7 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, parent, variable
     end function
 
-    !> Colours an element by a variable. Returns the new color. Reports a node that is no element.
+    !> Colors an element by a variable. Returns the new color. Reports a node that is no element.
     integer(c_int64_t) function cx_addcolor(chart, element, variable) bind(C, name="cx_addcolor_")
       import
       integer(c_int64_t), intent(in) :: chart, element, variable
@@ -551,7 +552,7 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, element, variable
     end function
 
-    !> Groups an element by a variable, one colour a group. Returns the new styleBy. Reports a node
+    !> Groups an element by a variable, one color a group. Returns the new styleBy. Reports a node
     !> that is no element.
     integer(c_int64_t) function cx_addstylebycolor(chart, element, variable) &
         bind(C, name="cx_addstylebycolor_")
@@ -567,7 +568,7 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, element, variable
     end function
 
-    !> Groups an element by a variable, one colour and pattern a group. Returns the new styleBy.
+    !> Groups an element by a variable, one color and pattern a group. Returns the new styleBy.
     !> Reports a node that is no element.
     integer(c_int64_t) function cx_addstylebycolorandpattern(chart, element, variable) &
         bind(C, name="cx_addstylebycolorandpattern_")
@@ -669,8 +670,7 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, node, format_parent
     end function
 
-    !> Has the log scale of the first y dimension refuse values that have no logarithm. Returns -1
-    !> in every case.
+    !> Turns off the "safe" parameter of the y scale. Returns -1 in every case.
     integer(c_int64_t) function cx_setlogunsafe(chart) bind(C, name="cx_setlogunsafe_")
       import
       integer(c_int64_t), intent(in) :: chart

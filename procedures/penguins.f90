@@ -2,7 +2,7 @@
 !
 ! usage: penguins [data set]
 !
-! Draws body mass against flipper length, coloured by species, with a least-squares
+! Draws body mass against flipper length, colored by species, with a least-squares
 ! line for each species and one over all penguins. The data set is a data package
 ! or a CSV file with these columns; data/penguins below the working directory when
 ! none is named.
@@ -55,34 +55,42 @@ program penguins
     end subroutine
   end interface
 
-  type(data_set) :: observations
-  type(sample) :: cases
-  type(line_fit) :: overall
-  type(line_fit), allocatable :: within(:)
-  type(drawing) :: plot
-  integer :: g
-
-  call open_observations(observations)
-  plot = new_drawing(observations)  ! first: the names of the species are texts of the library
-  call load_cases(observations, cases)
-
-  overall = fit(cases%x, cases%y)
-  allocate (within(size(cases%groups)))
-  do g = 1, size(within)
-    within(g) = fit(pack(cases%x, cases%group == g), pack(cases%y, cases%group == g))
-  end do
-
-  call declare_variables(plot)
-  call fill_rows(plot, cases, within)
-  call draw_axes(plot)
-  call draw_elements(plot, overall)
-  call draw_legend(plot)
-  call write_texts(plot, cases, overall, within)
-  call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
-  call require(cx_terminate() >= 0, 'cannot end the chart library')
-  call observations%close()
+  call run
 
 contains
+
+  subroutine run
+    type(data_set) :: observations
+    type(sample) :: cases
+    type(line_fit) :: overall
+    type(line_fit), allocatable :: within(:)
+    type(drawing) :: plot
+    integer :: g
+
+    ! The chart comes first: with it the library learns of the data.
+    call open_observations(observations)
+    plot = new_drawing(observations)
+    call require_number(plot, flipper_length)
+    call require_number(plot, body_mass)
+    call load_cases(observations, cases)
+
+    overall = fit('all penguins', cases%x, cases%y)
+    allocate (within(size(cases%groups)))
+    do g = 1, size(within)
+      within(g) = fit(cases%groups(g)%species, pack(cases%x, cases%group == g), &
+        pack(cases%y, cases%group == g))
+    end do
+
+    call declare_variables(plot)
+    call fill_rows(plot, cases, within)
+    call draw_axes(plot)
+    call draw_elements(plot, overall)
+    call draw_legend(plot)
+    call write_texts(plot, cases, overall, within)
+    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
+    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call observations%close()
+  end subroutine
 
   ! Data
 
@@ -158,13 +166,15 @@ contains
 
   ! Estimation
 
-  function fit(x, y) result(line)
+  function fit(name, x, y) result(line)
+    character(*), intent(in) :: name
     real(dp), intent(in) :: x(:), y(:)
     type(line_fit) :: line
     real(dp) :: design(size(x), 2), estimates(size(x), 1), residuals(size(x)), work(128)
     integer :: info
 
-    call require(maxval(x) > minval(x), 'a line needs two different flipper lengths')
+    call require(maxval(x) > minval(x), &
+      'no line for '//trim(name)//': it needs two different flipper lengths')
     design(:, 1) = 1
     design(:, 2) = x
     estimates(:, 1) = y
@@ -194,6 +204,17 @@ contains
       plot%source, plot%graph, plot%data))
   end function
 
+  !> A row's cells would not tell a text from a number; the display format does.
+  subroutine require_number(plot, variable_number)
+    type(drawing), intent(in) :: plot
+    integer(cx), intent(in) :: variable_number
+    integer(cx) :: format
+
+    format = made('a display format', cx_getvariableformat(plot%chart, variable_number))
+    call require(format_type(format) /= text_format, &
+      'flipper length and body mass have to be numbers')
+  end subroutine
+
   subroutine declare_variables(plot)
     type(drawing), intent(inout) :: plot
 
@@ -201,7 +222,7 @@ contains
     plot%x = variable(plot, flipper_length, false)
     plot%y = variable(plot, body_mass, false)
     plot%fitted = made('the fitted values', cx_addaggregate(plot%chart, plot%source, absent, &
-      false, made('a label', text('Fitted body mass (g)')), absent, absent))
+      false, made('a text', text('Fitted body mass (g)')), absent, absent))
     call make('the names of the species', cx_addrelabels(plot%chart, plot%species, species))
   end subroutine
 
@@ -248,9 +269,9 @@ contains
     call make('the axes', cx_addxydimensionwithaxis(plot%chart, plot%data, absent, absent, &
       false, false, x_style, x_axis, y_style, y_axis))
     call make('the title of x', &
-      cx_addlabel(plot%chart, x_axis, x_style, variable_label(flipper_length)))
+      cx_addlabel(plot%chart, x_axis, x_style, label_of(flipper_length)))
     call make('the title of y', &
-      cx_addlabel(plot%chart, y_axis, y_style, variable_label(body_mass)))
+      cx_addlabel(plot%chart, y_axis, y_style, label_of(body_mass)))
   end subroutine
 
   !> A point for each penguin, a line for each species and one over all.
@@ -261,18 +282,18 @@ contains
 
     call make('the points', cx_addxyelementex(plot%chart, plot%data, 1_cx, word_point, &
       plot%x, plot%y, word_scatter, plot%points))
-    call make('the colours of the points', &
+    call make('the colors of the points', &
       cx_addstylebycolor(plot%chart, plot%points, plot%species))
 
     call make('the lines of the species', cx_addxyelementex(plot%chart, plot%data, 1_cx, &
       word_line, plot%x, plot%fitted, word_simple_line, lines))
-    call make('the colours of the lines', &
+    call make('the colors of the lines', &
       cx_addstylebycolor(plot%chart, lines, plot%species))
 
     overall_line = made('the overall line', cx_addyofxlinear(plot%chart, plot%data, 1_cx, &
       overall%intercept, overall%slope, false))
     call make('the name of the overall line', &
-      cx_setelementname(plot%chart, overall_line, text('All penguins')))
+      cx_setelementname(plot%chart, overall_line, made('a text', text('All penguins'))))
   end subroutine
 
   subroutine draw_legend(plot)
@@ -282,7 +303,7 @@ contains
     call make('the legend', cx_addlegendframe(plot%chart, plot%graph, plot%points, 1_cx, &
       word_style_by, ignored, style, legend))
     call make('the title of the legend', &
-      cx_addlabel(plot%chart, legend, style, variable_label(species)))
+      cx_addlabel(plot%chart, legend, style, label_of(species)))
   end subroutine
 
   ! Texts
@@ -291,6 +312,7 @@ contains
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(line_fit), intent(in) :: overall, within(:)
+    character(*), parameter :: one_a_line = '[%1:\n^1:]1'
     integer(cx) :: lines(size(within))
     integer :: g
 
@@ -299,11 +321,18 @@ contains
     do g = 1, size(within)
       lines(g) = estimates(cases%groups(g)%name, within(g))
     end do
-    call write_line(plot, word_footnote, on_lines_of_their_own(lines))
+    call write_line(plot, word_footnote, listed(one_a_line, lines))
     call require(describe_chart(plot%chart, 'Scatter plot of body mass against flipper '// &
       'length, with one regression line for each species and one for all penguins.') >= 0, &
       'cannot describe the chart')
   end subroutine
+
+  function label_of(variable_number) result(label)
+    integer(cx), intent(in) :: variable_number
+    integer(cx) :: label
+
+    label = made('the label of a variable', variable_label(variable_number))
+  end function
 
   subroutine write_line(plot, style, line)
     type(drawing), intent(in) :: plot
@@ -321,17 +350,6 @@ contains
     string = composed('^1: mass = ^2 + ^3 × flipper length, R² = ^4, n = ^5', [name, &
       number_text(line%intercept, 0), number_text(line%slope, 2), &
       number_text(line%r_squared, 2), number_text(real(line%cases, dp), 0)])
-  end function
-
-  function on_lines_of_their_own(lines) result(string)
-    integer(cx), intent(in) :: lines(:)
-    integer(cx) :: string
-    integer :: i
-
-    string = lines(1)
-    do i = 2, size(lines)
-      string = composed('^1\n^2', [string, lines(i)])
-    end do
   end function
 
 end program

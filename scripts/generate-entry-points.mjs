@@ -91,6 +91,8 @@ function requireUsed(meanings, groups) {
 
 // Texts
 
+const paragraphs = text => text.trim().split('\n\n').map(part => part.replaceAll('\n', ' '));
+
 /** Breaks a text into lines of at most `width` characters. */
 function wrap(text, width) {
   const lines = [''];
@@ -123,15 +125,38 @@ const snakeCase = name => name.replace(/[A-Z]/g, letter => `_${letter.toLowerCas
 const sentences = entry =>
   [entry.does, `Returns ${entry.returns}.`, entry.reports && `Reports ${entry.reports}.`]
     .filter(Boolean).join(' ');
-const conventions = [
-  'Calling convention. Every argument is passed by its address, all but the procedure handle, which is an address itself. Integers have 64 bits: the library reads the low 32 as a signed number, but entry points of several steps compare all 64, so store every integer sign-extended; results and outputs come back sign-extended. A logical is an integer: 0 is false, any other value true. Reals have 64 bits.',
-  'A text is the address of its first byte, then the address of its length: exactly that many bytes in the process code page (UTF-8 unless the host says otherwise), without terminator, trailing blanks kept. Bytes that are not valid become U+FFFD; a negative length is an empty text. Arguments named "ignored" are never read.',
-  'Handles. Charts count from 0; nodes count from 0 within their chart, and node 0 is its document element; texts have string handles, 1 to 156 of which are predefined. Handles are numbers and need no release. Variables go by the number that the procedure has for them, from 1.',
-  'Ownership. The library copies texts and cells during the call and keeps no address of them. The dictionary stays the procedure\'s; keep its data set open until the charts are ended.',
-  'The value -1 means "absent" where an integer is optional, and failure where it is returned. A call that fails changes nothing; an entry point of several steps ends at the first that fails, keeps the nodes of the others, and leaves the outputs of later steps alone.',
-  'Errors. Nothing is thrown or raised. What is refused is reported in one line, with the reason, to the host\'s error log: a bad chart, node or string handle by every entry point, the rest as told with each. "Silently" means without a report. Call from one thread.',
-];
-const madeFrom = `Made from ${listPath} by scripts/generate-entry-points.mjs: change the list, not this file.`;
+const conventions = paragraphs(`
+Calling convention. Every argument is passed by its address, all but the procedure handle, which
+is an address itself. Integers have 64 bits: the library reads the low 32 as a signed number, but
+entry points of several steps compare all 64, so store every integer sign-extended; results and
+outputs come back sign-extended. A logical is an integer: 0 is false, any other value true. Reals
+have 64 bits.
+
+A text is the address of its first byte, then the address of its length: exactly that many bytes
+in the process code page (UTF-8 unless the host says otherwise), without terminator, trailing
+blanks kept. Bytes that are not valid become U+FFFD; a negative length is an empty text. Arguments
+named "ignored" are never read.
+
+Handles. Charts count from 0; nodes count from 0 within their chart, and node 0 is its document
+element; texts have string handles, 1 to 156 of which are predefined. Handles are numbers and need
+no release. Variables go by the number that the procedure has for them, from 1.
+
+Ownership. The library copies texts and cells during the call and keeps no address of them. The
+dictionary stays the procedure's; keep its data set open until the charts are ended.
+
+The value -1 means "absent" where an integer is optional, and failure where it is returned. A call
+that fails changes nothing; an entry point of several steps ends at the first that fails, keeps
+the nodes of the others, and leaves the outputs of later steps alone.
+
+Errors. Nothing is thrown or raised. What is refused is reported in one line, with the reason, to
+the host's error log: a bad chart, node or string handle by every entry point, the rest as told
+with each. "Silently" means without a report. Call from one thread.`);
+const fortranIntroduction = `
+The entry points for procedures, as the library has them. A text is passed with its length in
+bytes; integers are of kind c_int64_t. Module charts beside this one takes texts as Fortran has
+them.`;
+const madeFrom =
+  `Made from ${listPath} by scripts/generate-entry-points.mjs: change the list, not this file.`;
 
 // The C header
 
@@ -174,10 +199,8 @@ function fortranModule({ groups }) {
   const names = groups.flatMap(group => group.entries).map(fortranName);
   const lines = [
     ...wrap(madeFrom, 98).map(line => `! ${line}`), '!',
-    ...[
-      'The entry points for procedures, as the library has them. A text is passed with its length in bytes; integers are of kind c_int64_t. Module charts beside this one takes texts as Fortran has them.',
-      ...conventions,
-    ].flatMap(paragraph => [...wrap(paragraph, 98).map(line => `! ${line}`), '!']).slice(0, -1),
+    ...[...paragraphs(fortranIntroduction), ...conventions]
+      .flatMap(paragraph => [...wrap(paragraph, 98).map(line => `! ${line}`), '!']).slice(0, -1),
     'module chartxml',
     '  use, intrinsic :: iso_c_binding, only: c_char, c_double, c_int64_t, c_ptr',
     '  implicit none',

@@ -20,7 +20,7 @@ contains
 
   subroutine test_refusals
     call expect('a missing data set is refused', .not. penguins%open('no such folder'))
-    call expect_error('with its reason', 'no such folder: no such file or folder')
+    call expect_error('with its reason', 'no such folder: No such file or directory')
     call expect('nothing is counted in a closed one', penguins%row_count() == -1)
     call expect_error('and that is told', 'not an open data set')
   end subroutine
@@ -40,10 +40,11 @@ contains
     call expect('variables are named', penguins%use_variables(columns))
     call expect('a text takes a cell for eight bytes', penguins%cell_count() == 3)
     call expect('a row is read', penguins%read_row(1, cells))
-    call expect('its text is filled up with blanks', text_of_cells(cells(:2)), 'Adelie'//repeat(' ', 10))
-    call expect('its number is there', cells(3) == 3750)
+    call expect('its text is filled up with blanks', &
+      text_of_cells(cells(:2)), 'Adelie'//repeat(' ', 10))
+    call expect('its number is there', nint(cells(3)) == 3750)
     call expect('the fourth row is read', penguins%read_row(4, cells))
-    call expect('where the number is missing', cells(3) == missing_value())
+    call expect('where the number is missing', cells(3) <= missing_value())
 
     call expect('a row beyond the last is refused', .not. penguins%read_row(345, cells))
     call expect_error('with its reason', 'no row 345: the data set has 344 rows')

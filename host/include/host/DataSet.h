@@ -34,6 +34,8 @@ public:
   static std::unique_ptr<DataSet> open(const std::filesystem::path& path);
 
   ~DataSet() override;
+  DataSet(const DataSet&) = delete;
+  DataSet& operator=(const DataSet&) = delete;
 
   int ColumnCount() const override;
   const KORVA_Variable& GetVariable(int index) const override;

@@ -24,8 +24,7 @@ using ErrorCallback = std::function<void(const ErrorReport&)>;
 void reportError(ErrorReport report);
 
 /// A report of the host itself, from the caller's place in the code.
-void reportError(std::string message,
-                 std::source_location where = std::source_location::current());
+void reportError(std::string message, std::source_location where = std::source_location::current());
 
 /// Sets who takes the reports instead of standard error; an empty function
 /// restores standard error. The callback may throw KorvaGoToCaller.

@@ -29,8 +29,7 @@ public:
   customCurrency(std::string prefix, std::string suffix, std::string negativePrefix,
                  std::string negativeSuffix)
       : prefix_(std::move(prefix)), suffix_(std::move(suffix)),
-        negativePrefix_(std::move(negativePrefix)),
-        negativeSuffix_(std::move(negativeSuffix)) {}
+        negativePrefix_(std::move(negativePrefix)), negativeSuffix_(std::move(negativeSuffix)) {}
 
   const std::string& getPrefix() const { return prefix_; }
   const std::string& getSuffix() const { return suffix_; }

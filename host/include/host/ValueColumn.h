@@ -22,6 +22,9 @@ public:
   static constexpr std::size_t maxRows = std::size_t{1} << 31;
 
   ValueColumn() = default;
+  ~ValueColumn() = default;
+  ValueColumn(const ValueColumn&) = delete;
+  ValueColumn& operator=(const ValueColumn&) = delete;
   ValueColumn(ValueColumn&&) = default;
   ValueColumn& operator=(ValueColumn&&) = default;
 

@@ -38,7 +38,7 @@ void checkDialect(const json& resource) {
 }
 
 std::filesystem::path pathOf(const json& resource) {
-  const std::filesystem::path path = textMember(resource, "path", "");
+  std::filesystem::path path = textMember(resource, "path", "");
   if (path.empty()) throw Refusal("the first resource has no \"path\"");
   if (path.is_absolute() || std::ranges::find(path, "..") != path.end())
     throw Refusal(fmt::format("\"path\" {} leads out of the package", shown(path.native())));

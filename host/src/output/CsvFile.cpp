@@ -40,26 +40,18 @@ void writeNumber(FileWriter& file, double value) {
   file.print(longest, [=](char* at) { return std::to_chars(at, at + longest, value).ptr; });
 }
 
-bool isEmpty(const ValueColumn& column, std::size_t row) {
+/// False, and nothing written, for a cell without value.
+bool writeCell(FileWriter& file, const ValueColumn& column, std::size_t row) {
   const auto kind = column.kind(row);
-  return kind == ValueColumn::Kind::empty ||
-         (kind == ValueColumn::Kind::number && column.number(row) == systemMissing);
-}
-
-void writeCell(FileWriter& file, const ValueColumn& column, std::size_t row) {
-  if (isEmpty(column, row)) return;
-  if (column.kind(row) == ValueColumn::Kind::text)
+  if (kind == ValueColumn::Kind::empty) return false;
+  if (kind == ValueColumn::Kind::text) {
     writeText(file, column.text(row));
-  else
-    writeNumber(file, column.number(row));
-}
-
-/// Readers skip an empty line, so the empty cell of an only column is quoted.
-void writeOnlyCell(FileWriter& file, const ValueColumn& column, std::size_t row) {
-  if (isEmpty(column, row))
-    writeQuoted(file, {});
-  else
-    writeCell(file, column, row);
+    return true;
+  }
+  const double value = column.number(row);
+  if (value == systemMissing) return false;
+  writeNumber(file, value);
+  return true;
 }
 
 template <class WriteField>
@@ -77,11 +69,14 @@ void writeLine(FileWriter& file, const VarDataProcessor::Source& source, WriteFi
 
 void writeCsv(const std::filesystem::path& path, const VarDataProcessor::Source& source) {
   FileWriter file(path);
-  const auto write = source.variables.size() == 1 ? writeOnlyCell : writeCell;
+  // Readers skip an empty line, so the empty cell of an only column is quoted.
+  const bool quotesEmpty = source.variables.size() == 1;
   writeLine(file, source, [&](const auto& variable) { writeText(file, variable.name); });
   const std::size_t rows = source.rowCount();
   for (std::size_t row = 0; row < rows; ++row)
-    writeLine(file, source, [&](const auto& variable) { write(file, *variable.column, row); });
+    writeLine(file, source, [&](const auto& variable) {
+      if (!writeCell(file, *variable.column, row) && quotesEmpty) writeQuoted(file, {});
+    });
   file.finish();
 }
 

@@ -89,7 +89,8 @@ void fillInteger(std::string& digits, int least) {
 std::string magnitude(double value, int code, int decimals, std::string_view separator) {
   if (code == scientific) return fmt::format("{:.{}E}", value, decimals);
   std::string digits = fmt::format("{:.{}f}", value, decimals);
-  if (code == general || code == percent) fillInteger(digits, CmnSys::shared().minimumIntegerDigits);
+  if (code == general || code == percent)
+    fillInteger(digits, CmnSys::shared().minimumIntegerDigits);
   group(digits, std::min(digits.find('.'), digits.size()), separator);
   return digits;
 }

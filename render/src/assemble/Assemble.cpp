@@ -96,12 +96,11 @@ Json lines(const std::vector<std::string>& texts, double fontSize, std::size_t m
   return all;
 }
 
-void addTitles(Json& spec, Json& plot, const Parts& parts, const Manifest& manifest) {
-  std::vector<std::string> above = parts.subtitle;
-  if (above.empty() && !manifest.splitHeader.empty()) above.push_back(manifest.splitHeader);
-  if (!parts.title.empty() || !above.empty())
+void addTitles(Json& spec, Json& plot, const Parts& parts) {
+  if (!parts.title.empty() || !parts.subtitle.empty())
     spec["title"] = {{"text", lines(parts.title, theme::titleSize * 1.06, 6)}};
-  if (!above.empty()) spec["title"]["subtitle"] = lines(above, theme::subtitleSize, 8);
+  if (!parts.subtitle.empty())
+    spec["title"]["subtitle"] = lines(parts.subtitle, theme::subtitleSize, 8);
   if (!parts.footnotes.empty())
     plot["title"] = {{"text", lines(parts.footnotes, theme::footnoteSize, 40)},
                      {"orient", "bottom"},
@@ -163,7 +162,7 @@ Json assemble(const Chart& chart, Parts parts, const Notes& notes) {
             {"background", {{"signal", "paper"}}},
             {"config", theme::config(chart.folder->manifest.language)},
             {"signals", theme::signals()}};
-  addTitles(spec, plot, parts, chart.folder->manifest);
+  addTitles(spec, plot, parts);
 
   addFunctionLegend(parts);
   Json scales = Json::array();

@@ -15,7 +15,7 @@ void placeRuntime(const std::filesystem::path& outputFolder) {
   if (!exists(from)) return;
   const std::filesystem::path folder = outputFolder / "runtime";
   std::error_code error;
-  create_directories(folder, error);
+  create_directory(folder, error);
   if (error) throw RenderError(fmt::format("{}: {}", folder.native(), error.message()));
 
   const std::string bytes = readFile(from);

@@ -16,7 +16,8 @@ std::map<std::string, Table, std::less<>> readTables(const std::filesystem::path
     if (node.kind != "source" || node.id().empty()) continue;
     const std::filesystem::path name = std::string(node.id()) + ".csv";
     if (name != name.filename())
-      throw RenderError(fmt::format("the source id \"{}\" names no file", node.id()));
+      throw RenderError(fmt::format("{}: the source id \"{}\" names no file",
+                                    (folder / "chart.xml").native(), node.id()));
     if (exists(folder / name)) tables.try_emplace(std::string(node.id()), Table::read(folder / name));
   }
   return tables;

@@ -39,9 +39,11 @@ private:
   const std::filesystem::path& file_;
 };
 
+struct TooDeep {};
+
+/// Throws TooDeep.
 Node copyOf(const xercesc::DOMElement& element, int depth) {
-  if (depth > deepestNesting)
-    throw RenderError(fmt::format("elements are nested more than {} deep", deepestNesting));
+  if (depth > deepestNesting) throw TooDeep();
   Node node{.kind = host::utf8(element.getTagName())};
   const xercesc::DOMNamedNodeMap& attributes = *element.getAttributes();
   for (XMLSize_t i = 0; i < attributes.getLength(); ++i) {
@@ -74,16 +76,20 @@ std::unique_ptr<Node> readGraph(const std::filesystem::path& file) {
 } // namespace
 
 Document Document::read(const std::filesystem::path& file) {
+  const auto refuse = [&file](std::string_view reason) {
+    throw RenderError(fmt::format("{}: {}", file.native(), reason));
+  };
+  std::unique_ptr<Node> graph;
   try {
-    std::unique_ptr<Node> graph = readGraph(file);
-    if (graph->kind != "graph")
-      throw RenderError(fmt::format("the document element is \"{}\", not \"graph\"", graph->kind));
-    return Document(std::move(graph));
+    graph = readGraph(file);
   } catch (const xercesc::XMLException& e) {
-    throw RenderError(fmt::format("{}: {}", file.native(), host::utf8(e.getMessage())));
-  } catch (const xercesc::DOMException& e) {
-    throw RenderError(fmt::format("{}: {}", file.native(), host::utf8(e.getMessage())));
+    refuse(host::utf8(e.getMessage()));
+  } catch (const TooDeep&) {
+    refuse(fmt::format("elements are nested more than {} deep", deepestNesting));
   }
+  if (graph->kind != "graph")
+    refuse(fmt::format("the document element is \"{}\", not \"graph\"", graph->kind));
+  return Document(std::move(graph));
 }
 
 Document::Document(std::unique_ptr<Node> graph) : graph_(std::move(graph)) { registerIds(*graph_); }

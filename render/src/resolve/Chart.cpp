@@ -101,7 +101,7 @@ void noteMissingRows(const Chart& chart, Notes& notes) {
     if (left > 0) elementsOfCount[{left, rows}].push_back(element.node->name());
   }
   for (const auto& [count, elements] : elementsOfCount)
-    notes.add(fmt::format("{} of {} rows are left out for a missing value ({})", count.first,
+    notes.add(fmt::format("rows left out for a missing value: {} of {} ({})", count.first,
                           count.second, fmt::join(elements, ", ")));
 }
 

@@ -39,8 +39,8 @@ std::vector<double> readNumbers(const Table::Column& texts, std::string_view tit
     numbers.push_back(value);
   }
   if (refused > 0)
-    notes.add(fmt::format("{} of {} values of {} are not numbers that can be drawn and are left out",
-                          refused, texts.size(), title));
+    notes.add(fmt::format("values of {} left out, as they are no numbers that can be drawn: {} of {}",
+                          title, refused, texts.size()));
   return numbers;
 }
 

@@ -267,9 +267,9 @@ TEST_F(Scatter, MovesStatisticsFromDescriptionsToExtensions) {
   for (const CTVariableType& variable : parsed.getSourceVariables()) {
     std::string line = variable.getDescription();
     if (const ZephExtensionSV* e = variable.getExtension()) {
-      line += "|" + e->attributes().at(0).second;
+      line.append("|").append(e->attributes().at(0).second);
       for (const auto& number : {e->value(), e->min(), e->max()}) {
-        line += number ? "|" + ChartBase::asString(*number) : "|-";
+        line.append("|").append(number ? ChartBase::asString(*number) : "-");
       }
     }
     seen.push_back(line);

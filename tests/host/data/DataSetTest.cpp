@@ -12,7 +12,9 @@ using host::DataSet;
 
 /// A column as one line: name, label, width, format, value labels.
 std::string described(const KORVA_Variable& variable) {
-  int type = 0, width = 0, decimals = 0;
+  int type = 0;
+  int width = 0;
+  int decimals = 0;
   variable.GetFormatEx(type, width, decimals);
   std::string line = fmt::format("{}|{}|{}|{}:{}.{}|", variable.GetName(), variable.GetLabel(),
                                  variable.GetType(), type, width, decimals);
@@ -27,6 +29,7 @@ std::string described(const KORVA_Variable& variable) {
 
 std::vector<std::string> columnsOf(const DataSet& data) {
   std::vector<std::string> columns;
+  columns.reserve(static_cast<std::size_t>(data.ColumnCount()));
   for (int index = 0; index < data.ColumnCount(); ++index)
     columns.push_back(described(data.GetVariable(index)));
   return columns;
@@ -72,7 +75,8 @@ TEST(DataSet, reads_a_package_as_it_describes_itself) {
 
 TEST(DataSet, knows_the_display_formats_by_name) {
   ScratchFolder folder;
-  std::string fields, header;
+  std::string fields;
+  std::string header;
   for (const char* format : {"F8.2", "COMMA9.1", "DOLLAR12.2", "PCT5.0", "E12.3", "f3"}) {
     fields += fmt::format("{}{{\"name\": \"{}\", \"type\": \"number\", \"format\": \"{}\"}}",
                           fields.empty() ? "" : ",", format, format);

@@ -16,6 +16,8 @@ public:
     std::filesystem::remove_all(path_);
     std::filesystem::create_directories(path_);
   }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
   ~ScratchFolder() { std::filesystem::remove_all(path_); }
 
   const std::filesystem::path& path() const { return path_; }

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include <fmt/format.h>
+
 namespace {
 
 using host::ValueColumn;
@@ -58,14 +60,14 @@ TEST(ValueColumn, loses_nothing_while_it_grows) {
   ValueColumn column;
   for (std::size_t row = 0; row < rows; ++row) {
     if (row % 3 == 0)
-      column.setText(row, "t" + std::to_string(row % 100));
+      column.setText(row, fmt::format("t{}", row % 100));
     else
       column.setNumber(row, static_cast<double>(row));
   }
   EXPECT_EQ(column.rowCount(), rows);
   for (std::size_t row = 0; row < rows; ++row) {
     if (row % 3 == 0)
-      ASSERT_EQ(column.text(row), "t" + std::to_string(row % 100));
+      ASSERT_EQ(column.text(row), fmt::format("t{}", row % 100));
     else
       ASSERT_EQ(column.number(row), static_cast<double>(row));
   }

@@ -4,7 +4,9 @@ namespace {
 
 TEST(VarDataProcessor, counts_the_rows_of_the_longest_column_of_each_source) {
   VarDataProcessor data;
-  VarDataProcessor::_varinfo x, y, other;
+  VarDataProcessor::_varinfo x;
+  VarDataProcessor::_varinfo y;
+  VarDataProcessor::_varinfo other;
   data.AddDataSource("source0", 250000);
   data.AddDataSource("source1", 250000);
   EXPECT_TRUE(data.AddVariable("source0", "V1", x));
@@ -20,7 +22,9 @@ TEST(VarDataProcessor, counts_the_rows_of_the_longest_column_of_each_source) {
 
 TEST(VarDataProcessor, shares_a_column_by_name_and_gives_an_unknown_source_the_first) {
   VarDataProcessor data;
-  VarDataProcessor::_varinfo first, again, strayed;
+  VarDataProcessor::_varinfo first;
+  VarDataProcessor::_varinfo again;
+  VarDataProcessor::_varinfo strayed;
   data.AddDataSource("source0", 0);
   data.AddVariable("source0", "V1", first);
   data.AddDataSource("source0", 0);

@@ -12,12 +12,12 @@ namespace {
 /// Takes the reports away from standard error and starts with an empty log.
 class Korva : public testing::Test {
 protected:
-  Korva() {
+  void SetUp() override {
     host::setErrorCallback([](const host::ErrorReport&) {});
     while (host::takeError()) {
     }
   }
-  ~Korva() override {
+  void TearDown() override {
     korva_close_(&dictionary);
     host::setErrorCallback({});
   }

@@ -230,18 +230,19 @@ CHARTXML_API int64_t cx_addrelabels_(const int64_t* chart, const int64_t* variab
 /** Has every later data value stored as a number. Returns the chart argument in every case. */
 CHARTXML_API int64_t cx_alldatadoubles_(const int64_t* chart);
 
-/** Starts the next row of data; a bad chart handle is ignored silently. Returns the number of
+/** Starts the next row of data; a bad chart handle is refused silently. Returns the number of
  *  rows. */
 CHARTXML_API int64_t cx_addrow_(const int64_t* chart, const int64_t* rowSource);
 
-/** Puts a text into the current row, as a number when it reads as one. A string handle of -1 is
- *  refused silently; a value that the chart refuses discards the whole chart. Returns 0, also
- *  when the node is no variable with a column. */
+/** Puts a text into the current row, as a number when it reads as one. A bad chart handle and a
+ *  string handle of -1 are refused silently; a value that the chart refuses discards the whole
+ *  chart. Returns 0, also when the node is no variable with a column. */
 CHARTXML_API int64_t cx_adddatavalue_(const int64_t* chart, const int64_t* rowSource,
                                       const int64_t* variable, const int64_t* valueString);
 
-/** Puts a number into the current row. A value that the chart refuses discards the whole chart.
- *  Returns 0, also when the node is no variable with a column. */
+/** Puts a number into the current row. A bad chart handle is refused silently; a value that the
+ *  chart refuses discards the whole chart. Returns 0, also when the node is no variable with a
+ *  column. */
 CHARTXML_API int64_t cx_adddoubledatavalue_(const int64_t* chart, const int64_t* rowSource,
                                             const int64_t* variable, const double* value);
 
@@ -325,7 +326,7 @@ CHARTXML_API int64_t cx_addz_(const int64_t* chart, const int64_t* parent, const
 CHARTXML_API int64_t cx_addtheta_(const int64_t* chart, const int64_t* parent,
                                   const int64_t* variable);
 
-/** Colours an element by a variable. Returns the new color. Reports a node that is no element. */
+/** Colors an element by a variable. Returns the new color. Reports a node that is no element. */
 CHARTXML_API int64_t cx_addcolor_(const int64_t* chart, const int64_t* element,
                                   const int64_t* variable);
 
@@ -334,7 +335,7 @@ CHARTXML_API int64_t cx_addcolor_(const int64_t* chart, const int64_t* element,
 CHARTXML_API int64_t cx_addstyleby_(const int64_t* chart, const int64_t* element,
                                     const int64_t* variable);
 
-/** Groups an element by a variable, one colour a group. Returns the new styleBy. Reports a node
+/** Groups an element by a variable, one color a group. Returns the new styleBy. Reports a node
  *  that is no element. */
 CHARTXML_API int64_t cx_addstylebycolor_(const int64_t* chart, const int64_t* element,
                                          const int64_t* variable);
@@ -344,7 +345,7 @@ CHARTXML_API int64_t cx_addstylebycolor_(const int64_t* chart, const int64_t* el
 CHARTXML_API int64_t cx_addstylebypattern_(const int64_t* chart, const int64_t* element,
                                            const int64_t* variable);
 
-/** Groups an element by a variable, one colour and pattern a group. Returns the new styleBy.
+/** Groups an element by a variable, one color and pattern a group. Returns the new styleBy.
  *  Reports a node that is no element. */
 CHARTXML_API int64_t cx_addstylebycolorandpattern_(const int64_t* chart, const int64_t* element,
                                                    const int64_t* variable);
@@ -408,8 +409,7 @@ CHARTXML_API int64_t cx_addmajorticks_(const int64_t* chart, const int64_t* pare
 CHARTXML_API int64_t cx_setaxispercent_(const int64_t* chart, const int64_t* node,
                                         const int64_t* formatParent);
 
-/** Has the log scale of the first y dimension refuse values that have no logarithm. Returns -1
- *  in every case. */
+/** Turns off the "safe" parameter of the y scale. Returns -1 in every case. */
 CHARTXML_API int64_t cx_setlogunsafe_(const int64_t* chart);
 
 /** Gives a frame a dimension with axis and ticks. Returns the dimension, or -1 for an axis role
