@@ -48,7 +48,7 @@ TEST(DataSet, refuses_a_malformed_csv_with_file_line_and_field) {
        "t.csv:2:2: field \"b\": a quote must enclose the whole field and be doubled inside it"},
       {"text after quote", "a,b\n\"x\" ,1\n",
        "t.csv:2:1: field \"a\": a quote must enclose the whole field and be doubled inside it"},
-      {"lone carriage returns", "a\r\"1\r2\"\r1,2\r", "t.csv:4:2: more fields than the header's 1"},
+      {"lone carriage returns", "a\r\"1\r2\"\n1,2\r", "t.csv:4:2: more fields than the header's 1"},
       {"longest cell", fmt::format("a\n{}\n", longest), "opened"},
       {"longest cell, its closing quote at the end of a piece",
        fmt::format("a\n{:x>32764}\n\"{}\"\n", "", longest), "opened"},

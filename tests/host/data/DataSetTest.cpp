@@ -55,7 +55,7 @@ std::string rowOf(const DataSet& data, std::size_t row) {
 
 TEST(DataSet, reads_a_package_as_it_describes_itself) {
   ScratchFolder folder;
-  folder.write("t.csv", "n,i,b,s,d\n\"1,5\"\"\",,TRUE,NA,x\n");
+  folder.write("t.csv", "n,i,b,s,d\n\"1,5\"\"\", NA ,TRUE,NA,x\n");
   folder.write("datapackage.json",
                R"({"resources": [{"path": "t.csv", "dialect": {"delimiter": ","},
     "schema": {"missingValues": ["", "NA"], "fields": [
@@ -64,7 +64,7 @@ TEST(DataSet, reads_a_package_as_it_describes_itself) {
        "categories": [2, {"value": 1, "label": "one"}]},
       {"name": "b", "type": "boolean", "categories": [{"value": true, "label": "yes"}]},
       {"name": "s", "type": "string", "format": "email", "chartxml:format": "a12"},
-      {"name": "d", "missingValues": ["x"], "categories": ["ten bytes."]}]}}]})");
+      {"name": "d", "format": "default", "missingValues": ["x"], "categories": ["ten bytes."]}]}}]})");
   const auto data = DataSet::open(folder.path());
   EXPECT_THAT(columnsOf(*data), testing::ElementsAre("n|A text|4|1:4.0|", "i||0|3:9.0|2=2;1=one;",
                                                      "b||0|5:8.0|1=yes;", "s||12|1:12.0|",
@@ -97,8 +97,8 @@ TEST(DataSet, infers_the_columns_of_a_bare_csv) {
                                                         "e,007\r\n"
                                                         "NA,-1.125e3,,x\r\n"
                                                         "\r\n"
-                                                        ",.5,\" a\nb\",NA"));
-  EXPECT_THAT(columnsOf(*data), testing::ElementsAre("whole|whole|0|5:8.0|", "part|part|0|5:8.3|",
+                                                        ",.50000000000000000000,\" a\nb\",NA"));
+  EXPECT_THAT(columnsOf(*data), testing::ElementsAre("whole|whole|0|5:8.0|", "part|part|0|5:21.16|",
                                                      "text|text|7|1:7.0|", "code|code|3|1:3.0|"));
   ASSERT_EQ(data->rowCount(), 3U);
   EXPECT_EQ(rowOf(*data, 0), "(7)(2.5)[Gr\xC3\xBC\xC3\x9F"
@@ -197,7 +197,10 @@ TEST(DataSet, is_left_to_its_new_owner_when_handed_over) {
   ScratchFolder folder;
   DataSet* data = DataSet::open(folder.write("t.csv", "a\n1\n")).release();
   data->HandOver();
-  { const ProcedureDataSource source(nullptr, data); }
+  {
+    const ProcedureDataSource source(nullptr, data);
+    DataSet::close(data);
+  }
   DataSet::close(data);
   ASSERT_TRUE(KORVA_FortranDictionary::isAlive(data));
   delete data;

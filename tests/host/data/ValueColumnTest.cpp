@@ -41,6 +41,7 @@ TEST(ValueColumn, keeps_the_latest_of_numbers_and_texts_in_a_cell) {
   column.setText(0, "one");
   EXPECT_EQ(column.kind(0), Kind::text);
   EXPECT_EQ(column.text(0), "one");
+  EXPECT_TRUE(std::isnan(column.number(0)));
   column.setNumber(0, 2);
   EXPECT_EQ(column.kind(0), Kind::number);
   EXPECT_EQ(column.number(0), 2);
