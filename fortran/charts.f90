@@ -7,7 +7,7 @@ module charts
   implicit none
   private
   public :: create_chart, describe_chart
-  public :: text, composed, listed, number_text, style_name, variable_label
+  public :: text, composed, listed, number_text, variable_label
   public :: display_format, format_type
   public :: made, make, require
 
@@ -110,14 +110,6 @@ contains
     integer(cx) :: string
 
     string = cx_lrvalue(ignored, number, display_format(plain_format, 8, decimals))
-  end function
-
-  !> The name of style `index` of a kind, such as "title_1".
-  function style_name(kind, index) result(string)
-    integer(cx), intent(in) :: kind, index
-    integer(cx) :: string
-
-    string = cx_stylestring(ignored, kind, index)
   end function
 
   function variable_label(variable_number) result(string)

@@ -39,19 +39,20 @@ module chartxml
     cx_killchart, cx_killcharts, cx_terminate, cx_dumpxml, cx_statisticssummary, cx_nstring, &
     cx_string, cx_nstringnotranslate, cx_compositestring, cx_addparameter, cx_beginrepeat, &
     cx_endrepeat, cx_endcompositestring, cx_stylestring, cx_integer, cx_ivalue, cx_double, &
-    cx_lrvalue, cx_value, cx_variablename, cx_variablelabel, cx_variablelabelfromdictionary, &
-    cx_tosk, cx_addsource, cx_addvariable, cx_addaggregate, cx_getvariableformat, cx_createlogvar, &
-    cx_addrelabel, cx_addrelabels, cx_alldatadoubles, cx_addrow, cx_adddatavalue, &
-    cx_adddoubledatavalue, cx_addframe, cx_setframeclipping, cx_addlabel, cx_addframewithlabel, &
-    cx_addfacetlabeling, cx_addfacetlabel, cx_setfacetlabelcellstyle, cx_addelement, &
-    cx_addelementgroup, cx_addxyelementex, cx_setelementname, cx_addposition, cx_addx, cx_addy, &
-    cx_addz, cx_addtheta, cx_addcolor, cx_addstyleby, cx_addstylebycolor, cx_addstylebypattern, &
-    cx_addstylebycolorandpattern, cx_addstatistic, cx_addparam, cx_adddimension, cx_getdimension, &
-    cx_setdimensionuppermargin, cx_setdimensionlowermargin, cx_setdimensionuppermapping, &
-    cx_setdimensionupper, cx_setdimensionlowermapping, cx_addaxis, cx_addmajorticks, &
-    cx_setaxispercent, cx_setlogunsafe, cx_adddimensionaxis, cx_addxydimension, &
-    cx_addxydimensionwithaxis, cx_addguide, cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, &
-    cx_addlegendframe
+    cx_lrvalue, cx_value, cx_meanvalue, cx_valuelabel, cx_valuelabelshort, cx_objectlabel, &
+    cx_splitlist, cx_splitheader, cx_variablename, cx_variablelabel, &
+    cx_variablelabelfromdictionary, cx_tosk, cx_addsource, cx_addvariable, cx_addaggregate, &
+    cx_getvariableformat, cx_createlogvar, cx_addrelabel, cx_addrelabels, cx_alldatadoubles, &
+    cx_addrow, cx_adddatavalue, cx_adddoubledatavalue, cx_addframe, cx_setframeclipping, &
+    cx_addlabel, cx_addframewithlabel, cx_addfacetlabeling, cx_addfacetlabel, &
+    cx_setfacetlabelcellstyle, cx_addelement, cx_addelementgroup, cx_addxyelementex, &
+    cx_setelementname, cx_addposition, cx_addx, cx_addy, cx_addz, cx_addtheta, cx_addcolor, &
+    cx_addstyleby, cx_addstylebycolor, cx_addstylebypattern, cx_addstylebycolorandpattern, &
+    cx_addstatistic, cx_addparam, cx_adddimension, cx_getdimension, cx_setdimensionuppermargin, &
+    cx_setdimensionlowermargin, cx_setdimensionuppermapping, cx_setdimensionupper, &
+    cx_setdimensionlowermapping, cx_addaxis, cx_addmajorticks, cx_setaxispercent, cx_setlogunsafe, &
+    cx_adddimensionaxis, cx_addxydimension, cx_addxydimensionwithaxis, cx_addguide, &
+    cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, cx_addlegendframe
 
   interface
 
@@ -290,6 +291,64 @@ module chartxml
       type(*), intent(in) :: cells(*)
     end function
 
+    !> Registers a mean in its variable's display format with two more decimals. Returns the new
+    !> string handle, or -1 for the system-missing value, silently. Reports a variable number out of
+    !> range; that there are no data.
+    integer(c_int64_t) function cx_meanvalue(variable_number, cells) bind(C, name="cx_meanvalue_")
+      import
+      integer(c_int64_t), intent(in) :: variable_number
+      type(*), intent(in) :: cells(*)
+    end function
+
+    !> Registers a value's label, or the value in its display format when it has none. Returns the
+    !> new string handle; the missing-value label for the system-missing value. Reports a variable
+    !> number out of range; that there are no data.
+    integer(c_int64_t) function cx_valuelabel(ignored1, variable_number, cells) &
+        bind(C, name="cx_valuelabel_")
+      import
+      integer(c_int64_t), intent(in) :: ignored1, variable_number
+      type(*), intent(in) :: cells(*)
+    end function
+
+    !> The same, shortened at a character. Returns the new string handle. Reports a variable number
+    !> out of range; that there are no data.
+    integer(c_int64_t) function cx_valuelabelshort(variable_number, cells, max_length) &
+        bind(C, name="cx_valuelabelshort_")
+      import
+      integer(c_int64_t), intent(in) :: variable_number
+      type(*), intent(in) :: cells(*)
+      integer(c_int64_t), intent(in) :: max_length
+    end function
+
+    !> Registers a value's label in the string table's pattern for objects. Returns the new string
+    !> handle. Reports a variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_objectlabel(variable_number, cells) &
+        bind(C, name="cx_objectlabel_")
+      import
+      integer(c_int64_t), intent(in) :: variable_number
+      type(*), intent(in) :: cells(*)
+    end function
+
+    !> Registers one text of all split variables and their values. Returns the new string handle.
+    !> Reports that there are no data.
+    integer(c_int64_t) function cx_splitlist(ignored1, split_cells, ignored2, show_name, &
+        show_label, show_value, show_value_label) bind(C, name="cx_splitlist_")
+      import
+      integer(c_int64_t), intent(in) :: ignored1
+      type(*), intent(in) :: split_cells(*)
+      integer(c_int64_t), intent(in) :: ignored2, show_name, show_label, show_value, &
+        show_value_label
+    end function
+
+    !> Registers "label: value, label: value" of the split variables. Returns the new string handle.
+    !> Reports that there are no data.
+    integer(c_int64_t) function cx_splitheader(split_cells, ignored1) &
+        bind(C, name="cx_splitheader_")
+      import
+      type(*), intent(in) :: split_cells(*)
+      integer(c_int64_t), intent(in) :: ignored1
+    end function
+
     !> Registers a variable's name. Returns the new string handle. Reports a variable number out of
     !> range; that there are no data.
     integer(c_int64_t) function cx_variablename(ignored1, ignored2, variable_number) &
@@ -373,9 +432,8 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, variable, from, to
     end function
 
-    !> Shows the values of a variable under their value labels. Returns a node handle or another
-    !> non-negative number. Reports a node that is no variable; a variable number out of range; that
-    !> there are no data.
+    !> Shows the values of a variable under their value labels. Returns the variable. Reports a node
+    !> that is no variable; a variable number out of range; that there are no data.
     integer(c_int64_t) function cx_addrelabels(chart, variable, variable_number) &
         bind(C, name="cx_addrelabels_")
       import

@@ -160,7 +160,7 @@ contains
     end do
     found = size(groups) + 1
     new%species = text_of_cells(species_cells)
-    new%name = made('the name of a species', cx_value(species, species_cells))
+    new%name = made('the name of a species', cx_valuelabel(ignored, species, species_cells))
     groups = [groups, new]
   end subroutine
 

@@ -48,9 +48,9 @@ void writeChart(const std::filesystem::path& chartFolder) {
   } catch (const RenderError& e) {
     const std::string_view reason = e.what();
     const std::string prefix = folder.native() + "/";
-    writeFile(page, refusedPage(manifestOf(folder), reason.starts_with(prefix)
-                                                        ? reason.substr(prefix.size())
-                                                        : reason));
+    writeFile(page,
+              refusedPage(manifestOf(folder),
+                          reason.starts_with(prefix) ? reason.substr(prefix.size()) : reason));
     throw;
   }
 }

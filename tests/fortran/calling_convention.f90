@@ -91,10 +91,12 @@ contains
   function contents(path) result(bytes)
     character(*), intent(in) :: path
     character(:), allocatable :: bytes
+    character(512) :: padded  ! gfortran's library looks at one byte past a name
     integer :: unit, size, status
 
     bytes = ''
-    open (newunit=unit, file=path, access='stream', form='unformatted', status='old', &
+    padded = path
+    open (newunit=unit, file=padded, access='stream', form='unformatted', status='old', &
       action='read', iostat=status)
     if (status /= 0) return
     inquire (unit=unit, size=size)

@@ -73,17 +73,17 @@ std::string nested(int depth) {
 
 INSTANTIATE_TEST_SUITE_P(
     All, BadFileTest,
-    testing::Values(
-        BadFile{"chart.xml", "<graph>\n<frame></graph>",
-                "chart.xml:2:10: expected end of tag 'frame'"},
-        BadFile{"chart.xml", "<chart/>",
-                "chart.xml: the document element is \"chart\", not \"graph\""},
-        BadFile{"chart.xml", nested(200), "chart.xml: elements are nested more than 100 deep"},
-        BadFile{"chart.xml", "<graph><source id=\"../x\"/></graph>",
-                "chart.xml: the source id \"../x\" names no file"},
-        BadFile{"source0.csv", "A,B,Group\n1,2\n",
-                "source0.csv:2:3: field \"Group\": the row ends after 2 of 3 fields"},
-        BadFile{"manifest.json", "[1]", "manifest.json: not an object"}));
+    testing::Values(BadFile{"chart.xml", "<graph>\n<frame></graph>",
+                            "chart.xml:2:10: expected end of tag 'frame'"},
+                    BadFile{"chart.xml", "<chart/>",
+                            "chart.xml: the document element is \"chart\", not \"graph\""},
+                    BadFile{"chart.xml", nested(200),
+                            "chart.xml: elements are nested more than 100 deep"},
+                    BadFile{"chart.xml", "<graph><source id=\"../x\"/></graph>",
+                            "chart.xml: the source id \"../x\" names no file"},
+                    BadFile{"source0.csv", "A,B,Group\n1,2\n",
+                            "source0.csv:2:3: field \"Group\": the row ends after 2 of 3 fields"},
+                    BadFile{"manifest.json", "[1]", "manifest.json: not an object"}));
 
 TEST(ChartFolder, MayLackDataAndManifest) {
   const TestFolder folder;

@@ -5,10 +5,10 @@
 #include <cstring>
 #include <stdexcept>
 
+#include <fcntl.h>
 #include <fmt/format.h>
 #include <host/StringTables.h>
 #include <nlohmann/json.hpp>
-#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -36,7 +36,8 @@ public:
     posix_spawn_file_actions_adddup2(&actions, ends[0], STDIN_FILENO);
     char* const arguments[] = {const_cast<char*>(program.c_str()),
                                const_cast<char*>(script.c_str()), nullptr};
-    const int error = posix_spawnp(&process_, program.c_str(), &actions, nullptr, arguments, environ);
+    const int error =
+        posix_spawnp(&process_, program.c_str(), &actions, nullptr, arguments, environ);
     posix_spawn_file_actions_destroy(&actions);
     close(ends[0]);
     if (error == 0) return;

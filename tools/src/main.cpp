@@ -92,12 +92,12 @@ int renderCharts(const std::vector<std::string>& arguments, const tools::Picture
 int main(int argc, char** argv) {
   CLI::App app("Makes pages and pictures of charts.", "chartxml");
   app.footer(examples);
-  app.require_subcommand(1);
 
   std::vector<std::string> folders;
   tools::PictureOptions options;
   CLI::App* render = app.add_subcommand(
-      "render", "Make specification and page of each chart anew, pictures if asked, and the gallery");
+      "render",
+      "Make specification and page of each chart anew, pictures if asked, and the gallery");
   render->add_option("folders", folders, "Chart folders, or output folders that hold some")
       ->required()
       ->check(CLI::ExistingDirectory);
@@ -115,6 +115,10 @@ int main(int argc, char** argv) {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
     return app.exit(e) == 0 ? 0 : usage;
+  }
+  if (app.get_subcommands().empty()) {
+    std::cerr << app.help();
+    return usage;
   }
 
   int status = 0;

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstring>
@@ -21,10 +20,9 @@ std::string_view withoutTrailingBlanks(std::string_view text) {
 } // namespace
 
 void host::writeText(std::string_view text, int width, OBS* cells) {
-  const std::size_t taken = std::min(text.size(), static_cast<std::size_t>(width));
   const std::size_t room = static_cast<std::size_t>(cellsOfWidth(width)) * sizeof(OBS);
   char* bytes = reinterpret_cast<char*>(cells);
-  std::memcpy(bytes, text.data(), taken);
+  const std::size_t taken = text.copy(bytes, static_cast<std::size_t>(width));
   std::memset(bytes + taken, ' ', room - taken);
 }
 

@@ -1,7 +1,6 @@
 #include <host/Korva.h>
 
 #include <algorithm>
-#include <cstring>
 #include <filesystem>
 #include <limits>
 #include <new>
@@ -115,8 +114,7 @@ int64_t takeError(char* bytes, int64_t capacity, int64_t& length) {
   if (!report) return 0;
   const auto most = std::clamp<int64_t>(capacity, 0, std::numeric_limits<int>::max());
   const std::string taken = KORVAMBStringTruncate_A(report->message, static_cast<int>(most));
-  std::memcpy(bytes, taken.data(), taken.size());
-  length = static_cast<int64_t>(taken.size());
+  length = static_cast<int64_t>(taken.copy(bytes, taken.size()));
   return 1;
 }
 

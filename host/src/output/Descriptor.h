@@ -16,6 +16,8 @@ public:
     std::swap(number_, other.number_);
     return *this;
   }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
   ~Descriptor() { close(); }
 
   explicit operator bool() const { return number_ >= 0; }

@@ -43,11 +43,12 @@ void append(Json& list, Json more) {
 void addPositionScale(Json& scales, const Dimension& dimension) {
   const char* const range = dimension.role == "x" ? "width" : "height";
   if (!dimension.categorical) {
-    scales.push_back({{"name", dimension.role},
-                      {"type", "linear"},
-                      {"domain", Json::array({jsonNumber(dimension.low), jsonNumber(dimension.high)})},
-                      {"range", range},
-                      {"zero", false}});
+    scales.push_back(
+        {{"name", dimension.role},
+         {"type", "linear"},
+         {"domain", Json::array({jsonNumber(dimension.low), jsonNumber(dimension.high)})},
+         {"range", range},
+         {"zero", false}});
     return;
   }
   Json labels = Json::array();
@@ -57,8 +58,8 @@ void addPositionScale(Json& scales, const Dimension& dimension) {
   scale["type"] = "point";
   scale["padding"] = 0.5;
   scales.push_back(std::move(scale));
-  scales.push_back(categoryScale(scaleName("label", dimension.role), dimension.categories,
-                                 std::move(labels)));
+  scales.push_back(
+      categoryScale(scaleName("label", dimension.role), dimension.categories, std::move(labels)));
 }
 
 /// The legend of the function lines that have a name.
@@ -70,9 +71,8 @@ void addFunctionLegend(Parts& parts) {
     const Node& guide = *parts.functions[i];
     if (guide.attribute("name").empty()) continue;
     named.push_back({.key = std::string(guide.id()), .label = {}});
-    labels.push_back(wrap(guide.attribute("name"), {.width = theme::legendWidth,
-                                                    .fontSize = theme::labelSize,
-                                                    .lines = 3}));
+    labels.push_back(wrap(guide.attribute("name"),
+                          {.width = theme::legendWidth, .fontSize = theme::labelSize, .lines = 3}));
     dashes.push_back(theme::functionDash(i));
   }
   if (named.empty()) return;
@@ -80,11 +80,11 @@ void addFunctionLegend(Parts& parts) {
   parts.scales.push_back(categoryScale("legend_function", named, std::move(labels)));
   parts.legends.push_back(
       {{"strokeDash", "dash_function"},
-       {"symbolType", "M-2.6,0H2.6"},
-       {"symbolOffset", 6},
+       {"symbolType", theme::lineSymbol},
        {"symbolStrokeColor", {{"signal", "ink"}}},
        {"encode",
-        {{"labels", {{"update", {{"text", {{"scale", "legend_function"}, {"field", "value"}}}}}}}}}});
+        {{"labels",
+          {{"update", {{"text", {{"scale", "legend_function"}, {"field", "value"}}}}}}}}}});
 }
 
 /// Texts as the lines of one title. Whole lines are left out past the limit,

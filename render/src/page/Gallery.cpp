@@ -15,8 +15,7 @@
 namespace render {
 namespace {
 
-constexpr std::string_view policy =
-    "default-src 'none'; style-src 'unsafe-inline'; img-src 'self'";
+constexpr std::string_view policy = "default-src 'none'; style-src 'unsafe-inline'; img-src 'self'";
 
 std::vector<std::filesystem::path> chartFolders(const std::filesystem::path& outputFolder) {
   std::vector<std::filesystem::path> folders;

@@ -18,7 +18,8 @@ std::map<std::string, Table, std::less<>> readTables(const std::filesystem::path
     if (name != name.filename())
       throw RenderError(fmt::format("{}: the source id \"{}\" names no file",
                                     (folder / "chart.xml").native(), node.id()));
-    if (exists(folder / name)) tables.try_emplace(std::string(node.id()), Table::read(folder / name));
+    if (exists(folder / name))
+      tables.try_emplace(std::string(node.id()), Table::read(folder / name));
   }
   return tables;
 }

@@ -38,8 +38,7 @@ Table Table::read(const std::filesystem::path& file) {
 
 const Table::Column* Table::find(std::string_view name) const {
   const auto found = std::ranges::find(names, name);
-  return found == names.end() ? nullptr
-                              : &columns[static_cast<std::size_t>(found - names.begin())];
+  return found == names.end() ? nullptr : &columns[static_cast<std::size_t>(found - names.begin())];
 }
 
 } // namespace render

@@ -25,11 +25,11 @@ struct Element {
 
 /// One position scale of the plot.
 struct Dimension {
-  std::string_view role; ///< "x" or "y"
+  std::string_view role;                    ///< "x" or "y"
   std::vector<const Variable*> variables{}; ///< drawn along it, each once
   bool categorical = false;
   std::vector<Category> categories{}; ///< of a categorical dimension
-  double low = 0;                   ///< of a continuous one, margins included
+  double low = 0;                     ///< of a continuous one, margins included
   double high = 1;
 };
 
@@ -39,9 +39,9 @@ struct Chart {
   std::deque<Variable> variables{};
   std::unordered_map<std::string_view, const Variable*> variableOfId{};
 
-  const Node* plot = nullptr;        ///< the frame that is drawn; null when there is none
-  std::vector<const Node*> leftOut{};  ///< further frames with a plot of their own
-  std::deque<Element> elements{};      ///< those of the plot that can be drawn
+  const Node* plot = nullptr;         ///< the frame that is drawn; null when there is none
+  std::vector<const Node*> leftOut{}; ///< further frames with a plot of their own
+  std::deque<Element> elements{};     ///< those of the plot that can be drawn
   Dimension x{.role = "x"};
   Dimension y{.role = "y"};
 

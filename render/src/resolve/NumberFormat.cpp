@@ -46,12 +46,17 @@ std::string affixed(const NumberFormat& format, std::string_view value,
   const auto text = [&](std::string_view number) {
     return fmt::format("format({},{})", number, literal(specifier));
   };
-  const std::string prefix = format.prefix.empty() ? "" : literal(format.prefix) + "+";
-  const std::string suffix = format.suffix.empty() ? "" : "+" + literal(format.suffix);
-  if (format.negative == NumberFormat::Negative::inside)
-    return prefix + text(value) + suffix;
+  const auto joined = [&](const std::string& number) {
+    std::string expression = number;
+    if (!format.prefix.empty())
+      expression = fmt::format("{}+{}", literal(format.prefix), expression);
+    if (!format.suffix.empty())
+      expression = fmt::format("{}+{}", expression, literal(format.suffix));
+    return expression;
+  };
+  if (format.negative == NumberFormat::Negative::inside) return joined(text(value));
 
-  const std::string absolute = prefix + text(fmt::format("abs({})", value)) + suffix;
+  const std::string absolute = joined(text(fmt::format("abs({})", value)));
   if (format.negative == NumberFormat::Negative::parentheses)
     return fmt::format("({} < 0 ? \"(\"+{}+\")\" : {})", value, absolute, absolute);
   return fmt::format("({} < 0 ? \"\\u2212\" : \"\")+{}", value, absolute);

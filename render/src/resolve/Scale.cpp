@@ -19,7 +19,8 @@ double margin(const Node* node, std::string_view name, Notes& notes) {
   if (text.empty()) return usualMargin;
   double percent = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), percent);
-  const bool isPercent = error == std::errc() && end + 1 == text.data() + text.size() && *end == '%';
+  const bool isPercent =
+      error == std::errc() && end + 1 == text.data() + text.size() && *end == '%';
   if (isPercent && percent >= 0 && percent <= 1000) return percent / 100;
   notes.add(fmt::format("{}: {}=\"{}\" is not a percentage", node->name(), name, text));
   return usualMargin;
@@ -39,7 +40,7 @@ void fitCategories(Dimension& dimension) {
       if (known.insert(category.key).second) dimension.categories.push_back(category);
 }
 
-void fitRange(Dimension& dimension, const Variable* Element::* position, const Chart& chart,
+void fitRange(Dimension& dimension, const Variable* Element::*position, const Chart& chart,
               Notes& notes) {
   double low = std::numeric_limits<double>::infinity();
   double high = -low;
@@ -70,7 +71,7 @@ void fitRange(Dimension& dimension, const Variable* Element::* position, const C
 
 } // namespace
 
-void fitDimension(Dimension& dimension, const Variable* Element::* position, Chart& chart,
+void fitDimension(Dimension& dimension, const Variable* Element::*position, Chart& chart,
                   Notes& notes) {
   if (!chart.elements.empty())
     dimension.categorical = (chart.elements.front().*position)->categorical;

@@ -39,8 +39,9 @@ std::vector<double> readNumbers(const Table::Column& texts, std::string_view tit
     numbers.push_back(value);
   }
   if (refused > 0)
-    notes.add(fmt::format("values of {} left out, as they are no numbers that can be drawn: {} of {}",
-                          title, refused, texts.size()));
+    notes.add(
+        fmt::format("values of {} left out, as they are no numbers that can be drawn: {} of {}",
+                    title, refused, texts.size()));
   return numbers;
 }
 
@@ -71,7 +72,8 @@ std::vector<Category> readCategories(const Node& node, const Table::Column& text
 
   std::unordered_map<std::string_view, std::string_view> labelOfKey;
   for (const Node& child : node.children)
-    if (child.kind == "relabel") labelOfKey.try_emplace(child.attribute("from"), child.attribute("to"));
+    if (child.kind == "relabel")
+      labelOfKey.try_emplace(child.attribute("from"), child.attribute("to"));
 
   std::vector<Category> categories;
   for (const std::string& key : keys) {

@@ -27,7 +27,7 @@ struct Variable {
 
   const Table::Column* texts = nullptr; ///< null when it has no data
   std::vector<double> numbers;          ///< of a continuous variable; NaN is missing
-  std::vector<Category> categories{};     ///< of a categorical one, in drawing order
+  std::vector<Category> categories{};   ///< of a categorical one, in drawing order
 
   bool isMissing(std::size_t row) const;
 };

@@ -76,8 +76,8 @@ public:
   void forEachPiece(const icu::UnicodeString& text, bool betweenCharacters, Take take) {
     const auto iterator = breaks(betweenCharacters);
     iterator->setText(text);
-    for (std::int32_t begin = 0, end = iterator->next();
-         end != icu::BreakIterator::DONE && !full(); begin = end, end = iterator->next())
+    for (std::int32_t begin = 0, end = iterator->next(); end != icu::BreakIterator::DONE && !full();
+         begin = end, end = iterator->next())
       take(text.tempSubStringBetween(begin, end));
   }
 
@@ -102,8 +102,8 @@ private:
 } // namespace
 
 double textWidth(std::string_view utf8, double fontSize) {
-  return widthOf(icu::UnicodeString::fromUTF8(icu::StringPiece(
-             utf8.data(), static_cast<std::int32_t>(utf8.size())))) *
+  return widthOf(icu::UnicodeString::fromUTF8(
+             icu::StringPiece(utf8.data(), static_cast<std::int32_t>(utf8.size())))) *
          fontSize;
 }
 

@@ -28,8 +28,8 @@ std::string titleOf(const Node& axis, const Dimension& dimension) {
 void labelNumbers(Json& axis, const Dimension& dimension) {
   constexpr int ticksAlongX = 9;
   constexpr int ticksAlongY = 7;
-  const Ticks ticks = ticksWithin(dimension.low, dimension.high,
-                                  dimension.role == "x" ? ticksAlongX : ticksAlongY);
+  const Ticks ticks =
+      ticksWithin(dimension.low, dimension.high, dimension.role == "x" ? ticksAlongX : ticksAlongY);
   const double magnitude = std::max(std::abs(dimension.low), std::abs(dimension.high));
   const auto& format =
       dimension.variables.empty() ? std::nullopt : dimension.variables.front()->format;
@@ -41,8 +41,8 @@ void labelNumbers(Json& axis, const Dimension& dimension) {
 }
 
 void labelCategories(Json& axis, const Dimension& dimension) {
-  axis["encode"]["labels"]["update"]["text"] = {
-      {"scale", scaleName("label", dimension.role)}, {"field", "value"}};
+  axis["encode"]["labels"]["update"]["text"] = {{"scale", scaleName("label", dimension.role)},
+                                                {"field", "value"}};
   axis["labelLimit"] = theme::legendWidth;
   if (dimension.role == "y") return;
   double width = 0;
@@ -61,10 +61,10 @@ Json axisOf(const Node& axis, const Dimension& dimension) {
   const Node* ticks = axis.child("majorTicks");
   Json json{{"scale", dimension.role},
             {"orient", alongX ? (opposite ? "top" : "bottom") : (opposite ? "right" : "left")},
-            {"title", wrap(titleOf(axis, dimension),
-                           {.width = alongX ? theme::plotWidth : theme::plotHeight,
-                            .fontSize = theme::axisTitleSize,
-                            .lines = 3})},
+            {"title",
+             wrap(titleOf(axis, dimension), {.width = alongX ? theme::plotWidth : theme::plotHeight,
+                                             .fontSize = theme::axisTitleSize,
+                                             .lines = 3})},
             {"grid", ticks != nullptr && ticks->child("gridLines") != nullptr},
             {"ticks", ticks != nullptr},
             {"labels", ticks != nullptr}};

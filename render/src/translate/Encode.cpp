@@ -8,8 +8,8 @@
 namespace render {
 
 Json elementData(const Element& element) {
-  std::string filter = fmt::format("isValid({}) && isValid({})", datum(element.x->id),
-                                   datum(element.y->id));
+  std::string filter =
+      fmt::format("isValid({}) && isValid({})", datum(element.x->id), datum(element.y->id));
   if (element.group != nullptr) filter += fmt::format(" && isValid({})", datum(element.group->id));
   return {{"name", element.node->id()},
           {"source", element.x->source},

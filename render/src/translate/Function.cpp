@@ -39,8 +39,8 @@ Json functionData(const Node& guide, const std::string& formula, int points, con
   const Dimension& x = chart.x;
   const Dimension& y = chart.y;
   const double reach = 10 * (y.high - y.low);
-  const std::string atX = fmt::format("{} + datum.i * {}", literal(x.low),
-                                      literal((x.high - x.low) / (points - 1)));
+  const std::string atX =
+      fmt::format("{} + datum.i * {}", literal(x.low), literal((x.high - x.low) / (points - 1)));
   const std::string nearer = fmt::format("isFinite(datum.y) ? clamp(datum.y, {}, {}) : null",
                                          literal(y.low - reach), literal(y.high + reach));
   return {

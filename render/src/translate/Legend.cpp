@@ -53,8 +53,8 @@ std::string addLegendLabels(const Variable& group, Parts& parts) {
   if (parts.hasScale(name)) return name;
   Json labels = Json::array();
   for (const Category& category : group.categories)
-    labels.push_back(
-        wrap(category.label, {.width = theme::legendWidth, .fontSize = theme::labelSize, .lines = 3}));
+    labels.push_back(wrap(category.label,
+                          {.width = theme::legendWidth, .fontSize = theme::labelSize, .lines = 3}));
   parts.scales.push_back(categoryScale(name, group.categories, std::move(labels)));
   return name;
 }
@@ -75,25 +75,24 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
   const Node* label = legend.child("label");
   const std::string& title = label && !label->text.empty() ? label->text : group.title;
 
-  Json json{{"title", wrap(title, {.width = theme::legendWidth,
-                                   .fontSize = theme::labelSize + 1,
-                                   .lines = 4})},
-            {"stroke", scaleName("color", group.id)}};
+  Json json{
+      {"title",
+       wrap(title, {.width = theme::legendWidth, .fontSize = theme::labelSize + 1, .lines = 4})},
+      {"stroke", scaleName("color", group.id)}};
   if (entry.points) {
-    json["shape"] = entry.lines ? addSymbolsOnLines(group, context.parts)
-                                : scaleName("symbol", group.id);
+    json["shape"] =
+        entry.lines ? addSymbolsOnLines(group, context.parts) : scaleName("symbol", group.id);
     if (entry.hollow)
       json["symbolFillColor"] = "transparent";
     else
       json["fill"] = scaleName("color", group.id);
     json["encode"]["symbols"]["update"]["fillOpacity"] = {{"value", theme::fillOpacity}};
   } else {
-    json["symbolType"] = "M-2.6,0H2.6";
+    json["symbolType"] = theme::lineSymbol;
     if (!hasPoints(group, context.chart)) json["strokeDash"] = scaleName("dash", group.id);
   }
-  if (entry.lines) json["symbolOffset"] = 6;
-  json["encode"]["labels"]["update"]["text"] = {
-      {"scale", addLegendLabels(group, context.parts)}, {"field", "value"}};
+  json["encode"]["labels"]["update"]["text"] = {{"scale", addLegendLabels(group, context.parts)},
+                                                {"field", "value"}};
   return json;
 }
 

@@ -17,7 +17,8 @@ Json lineMark(const Element& element, const std::string& data, Context& context)
     if (!hasPoints(*element.group, context.chart))
       update["strokeDash"] = {{"scale", scaleName("dash", element.group->id)},
                               {"field", fieldPath(element.group->id)}};
-    update["tooltip"] = {{"signal", fmt::format("[{}]", tooltipEntry(*element.group, context.parts))}};
+    update["tooltip"] = {
+        {"signal", fmt::format("[{}]", tooltipEntry(*element.group, context.parts))}};
   }
   return {{"type", "line"},
           {"from", {{"data", data}}},
@@ -52,8 +53,7 @@ void translateLine(const Node& node, Context& context) {
   context.parts.marks.push_back(
       {{"type", "group"},
        {"from",
-        {{"facet",
-          {{"name", group}, {"data", id}, {"groupby", Json::array({fieldPath(key)})}}}}},
+        {{"facet", {{"name", group}, {"data", id}, {"groupby", Json::array({fieldPath(key)})}}}}},
        {"marks", Json::array({lineMark(*element, group, context)})}});
 }
 

@@ -14,7 +14,8 @@ void translatePoint(const Node& node, Context& context) {
   const Element* element = context.chart.find(node);
   if (element == nullptr) return;
 
-  std::string tooltip = tooltipEntry(*element->x, context.parts) + "," + tooltipEntry(*element->y, context.parts);
+  std::string tooltip =
+      tooltipEntry(*element->x, context.parts) + "," + tooltipEntry(*element->y, context.parts);
   if (element->group != nullptr) {
     addGroupScales(*element->group, context.parts);
     tooltip = tooltipEntry(*element->group, context.parts) + "," + tooltip;
@@ -29,8 +30,7 @@ void translatePoint(const Node& node, Context& context) {
   update["stroke"] = color(*element);
   update["strokeWidth"] = {{"value", 1.5}};
   // A transparent filling, unlike none, still takes the pointer.
-  update["fill"] =
-      isHollow(node, context.chart) ? Json{{"value", "transparent"}} : color(*element);
+  update["fill"] = isHollow(node, context.chart) ? Json{{"value", "transparent"}} : color(*element);
   update["fillOpacity"] = {{"value", theme::fillOpacity}};
   update["tooltip"] = {{"signal", fmt::format("[{}]", tooltip)}};
 

@@ -11,9 +11,7 @@ const Rule rules[] = {
     // data
     {"source", {"graph"}, {"id"}},
     {"otherAccess", {"source"}, {"type=object"}},
-    {"variable",
-     {"graph"},
-     {"id", "sourceName", "source", "categorical", "label", "shortLabel"}},
+    {"variable", {"graph"}, {"id", "sourceName", "source", "categorical", "label", "shortLabel"}},
     {"meta", {"variable"}, {"creator", "description"}},
     {"numberFormat",
      {"meta"},
@@ -30,9 +28,7 @@ const Rule rules[] = {
      {"frame"},
      {"id", "style", "role=x", "role=y", "facetsShareScale", "lowerMargin", "upperMargin"},
      translateDimension},
-    {"axis",
-     {"dimension"},
-     {"id", "style", "baselineStyle", "opposite", "combineAxisLabels"}},
+    {"axis", {"dimension"}, {"id", "style", "baselineStyle", "opposite", "combineAxisLabels"}},
     {"label", {"axis", "legend"}, {"id", "style"}},
     {"majorTicks", {"axis"}, {"id", "style", "stagger=false", "markStyle", "tickLabelStyle"}},
     {"gridLines", {"majorTicks"}, {"id", "style"}},
@@ -73,10 +69,10 @@ bool Rule::knows(std::string_view name, std::string_view value) const {
 
 const Rule* findRule(const Node& node, const Node& parent) {
   const bool typed = node.kind == "element" || node.kind == "guide";
-  const std::string kind = typed ? fmt::format("{}:{}", node.kind, node.attribute("type")) : node.kind;
+  const std::string kind =
+      typed ? fmt::format("{}:{}", node.kind, node.attribute("type")) : node.kind;
   const auto found = std::ranges::find_if(rules, [&](const Rule& rule) {
-    return rule.kind == kind &&
-           std::ranges::find(rule.parents, parent.kind) != rule.parents.end();
+    return rule.kind == kind && std::ranges::find(rule.parents, parent.kind) != rule.parents.end();
   });
   return found == std::end(rules) ? nullptr : &*found;
 }

@@ -34,8 +34,8 @@ bool isHollow(const Node& element, const Chart& chart) {
 /// The properties are drawn where the style is used; here the others are noted.
 void translateStyle(const Node& style, Context& context) {
   using Property = std::pair<std::string_view, std::string_view>;
-  static constexpr std::array<Property, 2> drawn{
-      Property{"fill", "transparent"}, Property{"fill-pattern", "0"}};
+  static constexpr std::array<Property, 2> drawn{Property{"fill", "transparent"},
+                                                 Property{"fill-pattern", "0"}};
   forEachProperty(style.attribute("value"), [&](std::string_view name, std::string_view value) {
     if (std::ranges::find(drawn, Property{name, value}) == drawn.end())
       context.notes.add(

@@ -36,14 +36,12 @@ Json numberLocale(const std::string& language) {
 } // namespace
 
 std::string symbolOnLine(const Symbol& symbol) {
-  constexpr double lineReach = 2.6;
+  constexpr double lineReach = 2.6; // that of lineSymbol
   return fmt::format("M{0},0H{1}M{2},0H{3}{4}", -lineReach, -symbol.reach, symbol.reach, lineReach,
                      symbol.path);
 }
 
-Json dashes() {
-  return {Json::array(), Json{8, 4}, Json{2, 3}, Json{9, 3, 2, 3}, Json{14, 4}};
-}
+Json dashes() { return {Json::array(), Json{8, 4}, Json{2, 3}, Json{9, 3, 2, 3}, Json{14, 4}}; }
 
 Json functionDash(std::size_t index) {
   const Json patterns = dashes();
@@ -84,6 +82,7 @@ Json config(const std::string& language) {
             {"padding", 0},
             {"rowPadding", 7},
             {"symbolLimit", legendEntries},
+            {"symbolOffset", 6}, // room for the lines that reach out of symbols
             {"symbolSize", pointSize},
             {"symbolStrokeWidth", 1.75},
             {"titleColor", ink},

@@ -21,7 +21,7 @@ constexpr int axisTitleSize = 15;
 constexpr int labelSize = 13;
 constexpr int footnoteSize = 13;
 
-constexpr int pointSize = 56; ///< the area of a symbol
+constexpr int pointSize = 56;        ///< the area of a symbol
 constexpr double fillOpacity = 0.55; ///< of points, so that overlapping ones show
 constexpr double lineWidth = 2.25;
 
@@ -41,7 +41,10 @@ constexpr std::array<Symbol, 7> symbols{{
     {"M-0.8,-1.15L1.2,0L-0.8,1.15Z", 1.2},
 }};
 
-/// The symbol with a line through it, as a legend shows points on a line.
+/// A line alone, as a legend shows it.
+constexpr std::string_view lineSymbol = "M-2.6,0H2.6";
+
+/// The symbol with a line of that length through it, as a legend shows points on a line.
 std::string symbolOnLine(const Symbol& symbol);
 
 /// Dash patterns in the order used; the first is solid.

@@ -53,8 +53,12 @@ struct Dictionary : KORVA_FortranDictionary {
     return v <= static_cast<int>(indexes.size()) ? indexes[static_cast<std::size_t>(v) - 1] : -1;
   }
 
+  int SplitVariableCount() const override { return static_cast<int>(splits.size()); }
+  int SplitVariableIndex(int i) const override { return splits[static_cast<std::size_t>(i)]; }
+
   std::vector<Column> columns;
   std::vector<int> indexes;
+  std::vector<int> splits;
   int variableCount = static_cast<int>(indexes.size());
   int* destroyedCount;
 };

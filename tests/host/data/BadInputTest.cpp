@@ -28,7 +28,7 @@ struct BadText {
   std::string message;
 };
 
-TEST(DataSet, refuses_a_malformed_csv_with_file_line_and_field) {
+TEST(DataSet, RefusesAMalformedCsvWithFileLineAndField) {
   const std::string longest(32767, 'x');
   const BadText cases[] = {
       {"nothing", "", "t.csv: the file is empty"},
@@ -62,7 +62,7 @@ TEST(DataSet, refuses_a_malformed_csv_with_file_line_and_field) {
     EXPECT_EQ(messageOf(folder, folder.write("t.csv", bad.bytes)), bad.message) << bad.what;
 }
 
-TEST(DataSet, takes_65536_columns_and_refuses_a_million) {
+TEST(DataSet, Takes65536ColumnsAndRefusesAMillion) {
   ScratchFolder folder;
   std::string header = "1";
   const auto widenTo = [&](int columns) {
@@ -75,7 +75,7 @@ TEST(DataSet, takes_65536_columns_and_refuses_a_million) {
   EXPECT_EQ(widenTo(1'000'000), "t.csv:1:65537: more than 65536 columns");
 }
 
-TEST(DataSet, refuses_a_path_that_names_no_file) {
+TEST(DataSet, RefusesAPathThatNamesNoFile) {
   ScratchFolder folder;
   EXPECT_EQ(messageOf(folder, folder.path() / "no.csv"), "no.csv: No such file or directory");
   EXPECT_EQ(messageOf(folder, folder.path()), "datapackage.json: No such file or directory");
@@ -83,7 +83,7 @@ TEST(DataSet, refuses_a_path_that_names_no_file) {
   EXPECT_EQ(messageOf(folder, ""), "a data set without a path");
 }
 
-TEST(DataSet, refuses_cells_that_their_description_does_not_allow) {
+TEST(DataSet, RefusesCellsThatTheirDescriptionDoesNotAllow) {
   const BadText cases[] = {
       {"text", "n,i,b\n1,1,1\nabc,1,1\n", "t.csv:3:1: field \"n\": \"abc\" is not a number"},
       {"infinity", "n,i,b\ninf,1,1\n", "t.csv:2:1: field \"n\": \"inf\" is not a number"},
@@ -110,7 +110,7 @@ TEST(DataSet, refuses_cells_that_their_description_does_not_allow) {
   }
 }
 
-TEST(DataSet, refuses_a_descriptor_that_is_not_json_with_line_and_column) {
+TEST(DataSet, RefusesADescriptorThatIsNotJsonWithLineAndColumn) {
   const BadText cases[] = {
       {"nothing", "",
        "p.json:1:1: syntax error while parsing value - unexpected end of input; "
@@ -127,7 +127,7 @@ TEST(DataSet, refuses_a_descriptor_that_is_not_json_with_line_and_column) {
     EXPECT_EQ(messageOf(folder, folder.write("p.json", bad.bytes)), bad.message) << bad.what;
 }
 
-TEST(DataSet, refuses_a_descriptor_that_describes_no_table) {
+TEST(DataSet, RefusesADescriptorThatDescribesNoTable) {
   const BadText cases[] = {
       {"no resource", R"({"resources": []})", "\"resources\" names no resource"},
       {"no list", R"({"resources": {}})", "\"resources\" must be a list"},
@@ -155,7 +155,7 @@ TEST(DataSet, refuses_a_descriptor_that_describes_no_table) {
         << bad.what;
 }
 
-TEST(DataSet, refuses_a_description_of_a_field_with_its_name) {
+TEST(DataSet, RefusesADescriptionOfAFieldWithItsName) {
   const BadText cases[] = {
       {"no name", R"({"type": "number"})", "1: the field has no \"name\""},
       {"type", R"({"name": "a", "type": "date"})",

@@ -53,7 +53,7 @@ std::string rowOf(const DataSet& data, std::size_t row) {
   return text;
 }
 
-TEST(DataSet, reads_a_package_as_it_describes_itself) {
+TEST(DataSet, ReadsAPackageAsItDescribesItself) {
   ScratchFolder folder;
   folder.write("t.csv", "n,i,b,s,d\n\"1,5\"\"\", NA ,TRUE,NA,x\n");
   folder.write("datapackage.json",
@@ -73,7 +73,7 @@ TEST(DataSet, reads_a_package_as_it_describes_itself) {
   EXPECT_EQ(rowOf(*data, 0), "[1,5\"    ].(1)[                ][                ]");
 }
 
-TEST(DataSet, knows_the_display_formats_by_name) {
+TEST(DataSet, KnowsTheDisplayFormatsByName) {
   ScratchFolder folder;
   std::string fields;
   std::string header;
@@ -90,7 +90,7 @@ TEST(DataSet, knows_the_display_formats_by_name) {
                                    "PCT5.0||0|31:5.0|", "E12.3||0|17:12.3|", "f3||0|5:3.0|"));
 }
 
-TEST(DataSet, infers_the_columns_of_a_bare_csv) {
+TEST(DataSet, InfersTheColumnsOfABareCsv) {
   ScratchFolder folder;
   const auto data = DataSet::open(folder.write("t.csv", "\xEF\xBB\xBFwhole,part,text,code\r\n"
                                                         "7, +2.50 ,Gr\xC3\xBC\xC3\x9F"
@@ -107,7 +107,7 @@ TEST(DataSet, infers_the_columns_of_a_bare_csv) {
   EXPECT_EQ(rowOf(*data, 2), ".(0.5)[ a\nb    ][NA      ]");
 }
 
-TEST(DataSet, reads_a_file_of_many_pieces_with_quoted_line_ends) {
+TEST(DataSet, ReadsAFileOfManyPiecesWithQuotedLineEnds) {
   constexpr int rows = 40'000;
   std::string csv = "n,s\r\n";
   for (int row = 0; row < rows; ++row)
@@ -125,14 +125,14 @@ TEST(DataSet, reads_a_file_of_many_pieces_with_quoted_line_ends) {
   }
 }
 
-TEST(DataSet, reads_a_header_without_rows) {
+TEST(DataSet, ReadsAHeaderWithoutRows) {
   ScratchFolder folder;
   const auto data = DataSet::open(folder.write("t.csv", "a,b"));
   EXPECT_EQ(data->rowCount(), 0U);
   EXPECT_EQ(data->ColumnCount(), 2);
 }
 
-TEST(DataSet, maps_the_variables_of_the_run_to_columns) {
+TEST(DataSet, MapsTheVariablesOfTheRunToColumns) {
   ScratchFolder folder;
   const auto data = DataSet::open(folder.write("t.csv", "a,b,c\n1,2,x\n"));
   EXPECT_EQ(data->findColumn("c"), 2);
@@ -156,7 +156,7 @@ TEST(DataSet, maps_the_variables_of_the_run_to_columns) {
   EXPECT_EQ(data->VariableCount(), 3);
 }
 
-TEST(DataSet, gives_its_texts_in_the_process_code_page) {
+TEST(DataSet, GivesItsTextsInTheProcessCodePage) {
   ScratchFolder folder;
   const auto path = folder.write("t.csv", "\xC3\xA9,s\n1,\xC3\xBC\n");
   ASSERT_TRUE(host::setProcessCodePage("ISO-8859-1"));
@@ -169,7 +169,7 @@ TEST(DataSet, gives_its_texts_in_the_process_code_page) {
 
 // ---- Life time -----------------------------------------------------------
 
-TEST(DataSet, is_alive_until_it_is_closed_and_may_be_closed_again) {
+TEST(DataSet, IsAliveUntilItIsClosedAndMayBeClosedAgain) {
   ScratchFolder folder;
   DataSet* data = DataSet::open(folder.write("t.csv", "a\n1\n")).release();
   EXPECT_TRUE(KORVA_FortranDictionary::isAlive(data));
@@ -179,7 +179,7 @@ TEST(DataSet, is_alive_until_it_is_closed_and_may_be_closed_again) {
   DataSet::close(nullptr);
 }
 
-TEST(DataSet, keeps_its_columns_but_not_its_rows_when_closed_while_in_use) {
+TEST(DataSet, KeepsItsColumnsButNotItsRowsWhenClosedWhileInUse) {
   ScratchFolder folder;
   DataSet* data = DataSet::open(folder.write("t.csv", "a\n1\n")).release();
   {
@@ -193,7 +193,7 @@ TEST(DataSet, keeps_its_columns_but_not_its_rows_when_closed_while_in_use) {
   EXPECT_FALSE(KORVA_FortranDictionary::isAlive(data));
 }
 
-TEST(DataSet, is_left_to_its_new_owner_when_handed_over) {
+TEST(DataSet, IsLeftToItsNewOwnerWhenHandedOver) {
   ScratchFolder folder;
   DataSet* data = DataSet::open(folder.write("t.csv", "a\n1\n")).release();
   data->HandOver();
@@ -207,7 +207,7 @@ TEST(DataSet, is_left_to_its_new_owner_when_handed_over) {
   EXPECT_FALSE(KORVA_FortranDictionary::isAlive(data));
 }
 
-TEST(DataSet, may_go_before_the_data_source_that_uses_it) {
+TEST(DataSet, MayGoBeforeTheDataSourceThatUsesIt) {
   ScratchFolder folder;
   DataSet* data = DataSet::open(folder.write("t.csv", "a\n1\n")).release();
   const ProcedureDataSource source(nullptr, data);

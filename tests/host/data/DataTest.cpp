@@ -2,7 +2,7 @@
 
 namespace {
 
-TEST(KORVA_Format, packs_type_width_and_decimals_and_reads_them_back) {
+TEST(KORVA_Format, PacksTypeWidthAndDecimalsAndReadsThemBack) {
   const long packed = KORVA_Format(5, 8, 2);
   EXPECT_EQ(packed, 5L << 16 | 8L << 8 | 2);
   const KORVA_Format format(packed);
@@ -12,7 +12,7 @@ TEST(KORVA_Format, packs_type_width_and_decimals_and_reads_them_back) {
   EXPECT_EQ(KORVA_Format(1, 300, -1), KORVA_Format(1, 255, 0));
 }
 
-TEST(KORVA_ValueLabelMap, finds_the_label_of_a_number) {
+TEST(KORVA_ValueLabelMap, FindsTheLabelOfANumber) {
   KORVA_ValueLabelMap labels;
   EXPECT_TRUE(labels.add(0, "none"));
   EXPECT_TRUE(labels.add(2.5, "some"));
@@ -22,7 +22,7 @@ TEST(KORVA_ValueLabelMap, finds_the_label_of_a_number) {
   EXPECT_EQ(labels.GetLabel({.number = 1}), nullptr);
 }
 
-TEST(KORVA_ValueLabelMap, compares_texts_over_the_width_without_trailing_blanks) {
+TEST(KORVA_ValueLabelMap, ComparesTextsOverTheWidthWithoutTrailingBlanks) {
   KORVA_ValueLabelMap labels(10);
   labels.add("Gentoo", "G");
   labels.add("Adelie 1.2", "A");
@@ -35,7 +35,7 @@ TEST(KORVA_ValueLabelMap, compares_texts_over_the_width_without_trailing_blanks)
   EXPECT_EQ(labels.GetLabel(value[0]), nullptr);
 }
 
-TEST(KORVA_ValueLabelMap, walks_its_pairs_in_the_order_added) {
+TEST(KORVA_ValueLabelMap, WalksItsPairsInTheOrderAdded) {
   KORVA_ValueLabelMap labels(9);
   labels.add("b", "second letter");
   labels.add("a", "first letter");

@@ -11,7 +11,7 @@ namespace {
 using host::ValueColumn;
 using Kind = ValueColumn::Kind;
 
-TEST(ValueColumn, tells_unset_cells_from_every_number) {
+TEST(ValueColumn, TellsUnsetCellsFromEveryNumber) {
   ValueColumn column;
   const double values[] = {0.0, -0.0, std::numeric_limits<double>::infinity(),
                            std::numeric_limits<double>::lowest()};
@@ -26,7 +26,7 @@ TEST(ValueColumn, tells_unset_cells_from_every_number) {
   EXPECT_EQ(column.rowCount(), 7U);
 }
 
-TEST(ValueColumn, takes_any_nan_as_a_number_even_the_one_of_an_unset_cell) {
+TEST(ValueColumn, TakesAnyNanAsANumberEvenTheOneOfAnUnsetCell) {
   ValueColumn column;
   column.setNumber(1, 5);
   column.setNumber(0, column.number(7));
@@ -34,7 +34,7 @@ TEST(ValueColumn, takes_any_nan_as_a_number_even_the_one_of_an_unset_cell) {
   EXPECT_TRUE(std::isnan(column.number(0)));
 }
 
-TEST(ValueColumn, keeps_the_latest_of_numbers_and_texts_in_a_cell) {
+TEST(ValueColumn, KeepsTheLatestOfNumbersAndTextsInACell) {
   ValueColumn column;
   column.setNumber(0, 1);
   EXPECT_FALSE(column.hasTexts());
@@ -49,14 +49,14 @@ TEST(ValueColumn, keeps_the_latest_of_numbers_and_texts_in_a_cell) {
   EXPECT_TRUE(column.hasTexts());
 }
 
-TEST(ValueColumn, tells_an_empty_text_from_an_unset_cell) {
+TEST(ValueColumn, TellsAnEmptyTextFromAnUnsetCell) {
   ValueColumn column;
   column.setText(1, "");
   EXPECT_EQ(column.kind(0), Kind::empty);
   EXPECT_EQ(column.kind(1), Kind::text);
 }
 
-TEST(ValueColumn, loses_nothing_while_it_grows) {
+TEST(ValueColumn, LosesNothingWhileItGrows) {
   constexpr std::size_t rows = 100'000;
   ValueColumn column;
   for (std::size_t row = 0; row < rows; ++row) {
@@ -74,7 +74,7 @@ TEST(ValueColumn, loses_nothing_while_it_grows) {
   }
 }
 
-TEST(ValueColumn, refuses_rows_past_its_limit_and_the_one_before_the_first) {
+TEST(ValueColumn, RefusesRowsPastItsLimitAndTheOneBeforeTheFirst) {
   ValueColumn column;
   for (const std::size_t row :
        {std::size_t{0} - 1, std::size_t{1'000'000'000'000}, ValueColumn::maxRows}) {
@@ -88,7 +88,7 @@ TEST(ValueColumn, refuses_rows_past_its_limit_and_the_one_before_the_first) {
   EXPECT_EQ(column.kind(ValueColumn::maxRows - 2), Kind::empty);
 }
 
-TEST(ValueColumn, keeps_its_texts_when_it_is_moved) {
+TEST(ValueColumn, KeepsItsTextsWhenItIsMoved) {
   ValueColumn column;
   column.setText(0, "short");
   ValueColumn moved = std::move(column);

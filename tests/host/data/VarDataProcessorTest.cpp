@@ -2,7 +2,7 @@
 
 namespace {
 
-TEST(VarDataProcessor, counts_the_rows_of_the_longest_column_of_each_source) {
+TEST(VarDataProcessor, CountsTheRowsOfTheLongestColumnOfEachSource) {
   VarDataProcessor data;
   VarDataProcessor::_varinfo x;
   VarDataProcessor::_varinfo y;
@@ -20,7 +20,7 @@ TEST(VarDataProcessor, counts_the_rows_of_the_longest_column_of_each_source) {
   EXPECT_EQ(data.GetRowCount("source2"), 0U);
 }
 
-TEST(VarDataProcessor, shares_a_column_by_name_and_gives_an_unknown_source_the_first) {
+TEST(VarDataProcessor, SharesAColumnByNameAndGivesAnUnknownSourceTheFirst) {
   VarDataProcessor data;
   VarDataProcessor::_varinfo first;
   VarDataProcessor::_varinfo again;
@@ -37,7 +37,7 @@ TEST(VarDataProcessor, shares_a_column_by_name_and_gives_an_unknown_source_the_f
   EXPECT_EQ(data.sources().front().variables[1].column.get(), strayed.column);
 }
 
-TEST(VarDataProcessor, drops_values_without_a_source_and_refuses_the_row_before_the_first) {
+TEST(VarDataProcessor, DropsValuesWithoutASourceAndRefusesTheRowBeforeTheFirst) {
   VarDataProcessor data;
   VarDataProcessor::_varinfo info;
   EXPECT_FALSE(data.AddVariable("source0", "V1", info));

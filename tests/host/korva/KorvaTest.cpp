@@ -49,7 +49,7 @@ protected:
   double cells[8] = {};
 };
 
-TEST_F(Korva, reads_the_rows_of_an_open_data_set) {
+TEST_F(Korva, ReadsTheRowsOfAnOpenDataSet) {
   ASSERT_EQ(open(folder.write("t.csv", "a,name,b\n1,Torgersen,\n")), 0);
   EXPECT_EQ(korva_rowcount_(&dictionary), 1);
   EXPECT_EQ(korva_columncount_(&dictionary), 3);
@@ -67,7 +67,7 @@ TEST_F(Korva, reads_the_rows_of_an_open_data_set) {
   EXPECT_EQ(error(), "0");
 }
 
-TEST_F(Korva, refuses_what_the_data_set_does_not_have) {
+TEST_F(Korva, RefusesWhatTheDataSetDoesNotHave) {
   ASSERT_EQ(open(folder.write("t.csv", "a,b\n1,2\n")), 0);
   const std::pair<int64_t, const char*> refused[] = {
       {find("c"), "no column has the name \"c\""},
@@ -84,14 +84,14 @@ TEST_F(Korva, refuses_what_the_data_set_does_not_have) {
   }
 }
 
-TEST_F(Korva, reports_a_data_set_that_cannot_be_opened) {
+TEST_F(Korva, ReportsADataSetThatCannotBeOpened) {
   dictionary = this;
   EXPECT_EQ(open(folder.path() / "none.csv"), -1);
   EXPECT_EQ(dictionary, nullptr);
   EXPECT_EQ(error(), (folder.path() / "none.csv").string() + ": No such file or directory");
 }
 
-TEST_F(Korva, refuses_null_arguments_and_wrong_lengths_by_name) {
+TEST_F(Korva, RefusesNullArgumentsAndWrongLengthsByName) {
   const int64_t five = 5;
   const int64_t negative = -1;
   const int64_t huge = int64_t{1} << 40;
@@ -120,7 +120,7 @@ TEST_F(Korva, refuses_null_arguments_and_wrong_lengths_by_name) {
   EXPECT_EQ(error(), "the argument columns is null");
 }
 
-TEST_F(Korva, closes_twice_and_refuses_a_closed_data_set) {
+TEST_F(Korva, ClosesTwiceAndRefusesAClosedDataSet) {
   ASSERT_EQ(open(folder.write("t.csv", "a\n1\n")), 0);
   void* copy = dictionary;
   {
@@ -137,7 +137,7 @@ TEST_F(Korva, closes_twice_and_refuses_a_closed_data_set) {
   EXPECT_EQ(error(), "not an open data set");
 }
 
-TEST_F(Korva, gives_each_error_once_oldest_first_and_cuts_it_at_a_character) {
+TEST_F(Korva, GivesEachErrorOnceOldestFirstAndCutsItAtACharacter) {
   host::reportError("caf\xC3\xA9");
   host::reportError("second");
   EXPECT_EQ(error(4), "caf");
@@ -145,7 +145,7 @@ TEST_F(Korva, gives_each_error_once_oldest_first_and_cuts_it_at_a_character) {
   EXPECT_EQ(error(), "0");
 }
 
-TEST_F(Korva, sets_the_services_of_the_host) {
+TEST_F(Korva, SetsTheServicesOfTheHost) {
   const int64_t two = 2;
   const int64_t on = 1;
   const int64_t off = 0;

@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <fmt/format.h>
-#include <host/ChartError.h>
 #include <host/OutputText.h>
 
 #include "OutputTest.h"
@@ -15,16 +14,6 @@
 namespace {
 
 using Names = std::vector<std::string>;
-
-template <class Action> std::string refusalOf(Action action) {
-  try {
-    action();
-    return "nothing refused";
-  } catch (const ChartException& exception) {
-    return exception.what();
-  }
-}
-
 using Process = pid_t;
 
 /// Runs the action in a process of its own, which succeeds when it gives true.

@@ -2,6 +2,7 @@
 
 #include <host/ChartError.h>
 #include <host/Missing.h>
+#include <nlohmann/json.hpp>
 
 #include "OutputTest.h"
 
@@ -11,100 +12,73 @@ using Names = std::vector<std::string>;
 
 class FolderSink : public OutputTest {};
 
+CTVariableType variable(const std::string& id, const std::string& source,
+                        const std::string& sourceName) {
+  CTVariableType made;
+  made.id = id;
+  made.source = source;
+  made.sourceName = sourceName;
+  made.label = "Label \"of\" " + id;
+  made.shortLabel = id;
+  made.categorical = sourceName == "V2" ? "true" : "false";
+  return made;
+}
+
 TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
   VarDataProcessor columns;
-  VarDataProcessor::_varinfo x, text;
+  VarDataProcessor::_varinfo number;
+  VarDataProcessor::_varinfo text;
   columns.AddDataSource("source0", 0);
   columns.AddDataSource("source1", 0);
-  columns.AddVariable("source0", "V1", x);
+  columns.AddVariable("source0", "V1", number);
   columns.AddVariable("source0", "V2", text);
-  columns.SetVariableValue(x, 0, 0.1);
+  columns.SetVariableValue(number, 0, 0.1);
   columns.SetStringVariableValue(text, 0, "a\"b,c\nd");
   columns.SetStringVariableValue(text, 2, "ä");
-  columns.SetVariableValue(x, 2, host::systemMissing);
+  columns.SetVariableValue(number, 2, host::systemMissing);
 
   auto& variables = visualization.getSourceVariables();
-  variables.resize(3);
-  variables[0].id = "variable1", variables[0].source = "source0", variables[0].sourceName = "V1";
-  variables[0].label = "Bill \"length\"", variables[0].shortLabel = "bill";
-  variables[0].categorical = "false";
-  variables[1].id = "variable2", variables[1].source = "variable1", variables[1].sourceName = "V1";
+  variables.push_back(variable("x", "source0", "V1"));
+  variables.push_back(variable("aggregate", "x", "V1"));
+  variables.push_back(variable("group", "source0", "V2"));
+  variables[1].addExtension().setAttribute("statistic", "mean");
   variables[1].addExtension().setAttribute("statistic", "range");
-  variables[1].getExtension()->setMin(1);
-  variables[1].getExtension()->setMax(host::systemMissing);
-  variables[2].id = "variable3", variables[2].source = "source0", variables[2].sourceName = "V2";
-  variables[2].categorical = "true";
+  variables[1].addExtension().setMin(1);
+  variables[1].addExtension().setMax(host::systemMissing);
   customizeCharts(visualization).customizeIciclePlots(true, 3);
 
-  const std::string name = "Größe & Gewicht", xml(200000, 'x'), description = "a\xFF\"",
-                    header = "h", look = "t", language = "de";
+  const std::string name = "Größe & Gewicht";
+  const std::string xml(200000, 'x');
+  const std::string description = "a\xFF\"";
+  const std::string empty;
+  const std::string language = "de";
   host::FolderSink sink({});
-  sink.send({name, xml, description, header, look, language, visualization, &columns});
-  sink.send({name, xml, description, header, look, language, visualization, &columns});
+  for (int i = 0; i < 2; ++i)
+    sink.send({name, xml, description, empty, empty, language, visualization, &columns});
 
   EXPECT_EQ(names(output), (Names{".lock", "0001-gr-e-gewicht", "0002-gr-e-gewicht"}));
-  for (const char* folder : {"0001-gr-e-gewicht", "0002-gr-e-gewicht"}) {
-    EXPECT_EQ(names(output / folder), (Names{"chart.xml", "manifest.json", "source0.csv"}));
-    EXPECT_TRUE(read(output / folder / "chart.xml") == xml);
-    EXPECT_EQ(read(output / folder / "source0.csv"), "V1,V2\n0.1,\"a\"\"b,c\nd\"\n,\n,ä\n");
-    EXPECT_EQ(read(output / folder / "manifest.json"), R"({
-  "name": "Größe & Gewicht",
-  "description": "a�\"",
-  "splitHeader": "h",
-  "template": "t",
-  "language": "de",
-  "type": "icicle",
-  "icicle": {
-    "orientation": "horizontal",
-    "rows": 3
-  },
-  "sources": [
-    {
-      "name": "source0",
-      "file": "source0.csv",
-      "rows": 3,
-      "columns": [
-        {
-          "name": "V1",
-          "variables": [
-            "variable1",
-            "variable2"
-          ],
-          "label": "Bill \"length\"",
-          "shortLabel": "bill",
-          "kind": "number",
-          "categorical": false
-        },
-        {
-          "name": "V2",
-          "variables": [
-            "variable3"
-          ],
-          "label": "",
-          "shortLabel": "",
-          "kind": "string",
-          "categorical": true
-        }
-      ]
-    },
-    {
-      "name": "source1",
-      "file": "",
-      "rows": 0,
-      "columns": []
-    }
-  ],
-  "statistics": {
-    "variable2": {
-      "statistic": "range",
-      "min": 1.0,
-      "max": null
-    }
-  },
-  "errors": []
-}
-)");
-  }
+  const auto folder = output / "0001-gr-e-gewicht";
+  const Names files = {"chart.xml", "manifest.json", "source0.csv"};
+  EXPECT_EQ(names(folder), files);
+  for (const std::string& file : files)
+    EXPECT_TRUE(read(folder / file) == read(output / "0002-gr-e-gewicht" / file)) << file;
+  EXPECT_TRUE(read(folder / "chart.xml") == xml);
+  EXPECT_EQ(read(folder / "source0.csv"), "V1,V2\n0.1,\"a\"\"b,c\nd\"\n,\n,ä\n");
+  const auto manifest = nlohmann::ordered_json::parse(read(folder / "manifest.json"));
+  EXPECT_EQ(read(folder / "manifest.json"), manifest.dump(2) + "\n");
+  EXPECT_EQ(manifest.dump(), R"({"name":"Größe & Gewicht","description":"a�\"",)"
+                             R"("splitHeader":"","template":"","language":"de",)"
+                             R"("type":"icicle","icicle":{"orientation":"horizontal","rows":3},)"
+                             R"("sources":[{"name":"source0","file":"source0.csv","rows":3,)"
+                             R"("columns":[{"name":"V1","variables":["x","aggregate"],)"
+                             R"("label":"Label \"of\" x","shortLabel":"x",)"
+                             R"("kind":"number","categorical":false},)"
+                             R"({"name":"V2","variables":["group"],)"
+                             R"("label":"Label \"of\" group","shortLabel":"group",)"
+                             R"("kind":"string","categorical":true}]},)"
+                             R"({"name":"source1","file":"","rows":0,"columns":[]}],)"
+                             R"("statistics":{"aggregate":)"
+                             R"({"statistic":"range","min":1.0,"max":null}},"errors":[]})");
   EXPECT_EQ(reports, Names{});
 }
 
@@ -158,15 +132,14 @@ TEST_F(FolderSink, lets_the_pages_be_written_before_and_after_the_chart_appears)
   host::PageWriter pages;
   pages.writeChart = [&](const std::filesystem::path& folder) {
     if (seen.empty()) {
-      seen.push_back("chart");
+      seen.emplace_back("chart");
       send("inner"); // finds the outer chart unfinished, and leaves it alone
     }
     EXPECT_EQ(names(folder), (Names{"chart.xml", "manifest.json"}));
     std::ofstream(folder / "chart.html") << "page";
   };
   pages.writeGallery = [&](const std::filesystem::path& folder) {
-    for (const auto& name : names(folder))
-      seen.push_back(name);
+    std::ranges::copy(names(folder), std::back_inserter(seen));
   };
   send("outer", pages);
   EXPECT_EQ(seen, (Names{"chart", ".lock", "0001-inner", "0002-outer"}));

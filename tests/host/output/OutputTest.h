@@ -7,28 +7,43 @@
 #include <string>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <host/ChartError.h>
 #include <host/ChartSink.h>
 #include <host/ErrorLog.h>
 
 #include "../data/ScratchFolder.h"
 
+/// The message with which an action is refused.
+template <class Action> std::string refusalOf(Action action) {
+  try {
+    action();
+    return "nothing refused";
+  } catch (const ChartException& exception) {
+    return exception.what();
+  }
+}
+
 /// An output folder of its own, a folder sink without pages, and the reports made.
 class OutputTest : public testing::Test {
 protected:
-  OutputTest() {
+  void SetUp() override {
     host::setOutputFolder(output);
     host::setErrorCallback(
         [this](const host::ErrorReport& report) { reports.push_back(report.message); });
   }
-  ~OutputTest() override {
+  void TearDown() override {
+    host::setChartSink(nullptr);
     host::setErrorCallback({});
     host::setOutputFolder({});
   }
 
   void send(const std::string& name, host::PageWriter pages = {}) {
-    const std::string empty, xml = "<graph/>", language = "en";
+    const std::string empty;
+    const std::string xml = "<graph/>";
+    const std::string language = "en";
     host::FolderSink(std::move(pages))
         .send({name, xml, empty, empty, empty, language, visualization, data});
   }

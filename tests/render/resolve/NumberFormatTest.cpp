@@ -30,28 +30,34 @@ TEST_P(NumberTextTest, GivesAnExpressionForTheText) {
 INSTANTIATE_TEST_SUITE_P(
     Formats, NumberTextTest,
     testing::Values(
-        Shown{"plain", {{"minimumFractionDigits", "0"}, {"useGrouping", "false"}},
+        Shown{"plain",
+              {{"minimumFractionDigits", "0"}, {"useGrouping", "false"}},
               R"(format(v,".3~f"))"},
         Shown{"comma", {{"minimumFractionDigits", "2"}}, R"(format(v,",.2f"))"},
-        Shown{"dollar", {{"minimumFractionDigits", "2"}, {"prefix", "$"}},
-              R"("$"+format(v,",.2f"))"},
+        Shown{
+            "dollar", {{"minimumFractionDigits", "2"}, {"prefix", "$"}}, R"("$"+format(v,",.2f"))"},
         Shown{"percent",
               {{"minimumFractionDigits", "1"}, {"suffix", "%"}, {"useGrouping", "false"}},
               R"(format(v,".1f")+"%")"},
-        Shown{"most", {{"minimumFractionDigits", "4"}, {"maximumFractionDigits", "1"}},
+        Shown{"most",
+              {{"minimumFractionDigits", "4"}, {"maximumFractionDigits", "1"}},
               R"(format(v,",.1f"))"},
-        Shown{"none", {{"minimumFractionDigits", "0"}, {"maximumFractionDigits", "0"}},
+        Shown{"none",
+              {{"minimumFractionDigits", "0"}, {"maximumFractionDigits", "0"}},
               R"(format(v,",.0f"))"},
         Shown{"scientific", {{"scientific", "always"}}, R"(format(v,"~e"))"},
         Shown{"automatic", {{"scientific", "auto"}}, R"(format(v,".6~g"))"},
         Shown{"outside",
-              {{"minimumFractionDigits", "0"}, {"maximumFractionDigits", "0"}, {"prefix", "€"},
+              {{"minimumFractionDigits", "0"},
+               {"maximumFractionDigits", "0"},
+               {"prefix", "€"},
                {"negativesOutside", "true"}},
               R"((v < 0 ? "\u2212" : "")+"\u20ac"+format(abs(v),",.0f"))"},
         Shown{"parentheses",
               {{"minimumFractionDigits", "2"}, {"prefix", "$"}, {"negativesInParentheses", "true"}},
               R"e((v < 0 ? "("+"$"+format(abs(v),",.2f")+")" : "$"+format(abs(v),",.2f")))e"},
-        Shown{"hostile", {{"minimumFractionDigits", "2"}, {"suffix", "\"+x\xE2\x80\xA8"}},
+        Shown{"hostile",
+              {{"minimumFractionDigits", "2"}, {"suffix", "\"+x\xE2\x80\xA8"}},
               R"(format(v,",.2f")+"\"+x\u2028")"}),
     [](const auto& test) { return test.param.name; });
 
@@ -75,10 +81,11 @@ TEST(TickText, IsScientificWhereThePlainTextWouldCrowdTheAxis) {
 
 TEST(NumberFormat, NotesDigitsThatAreNoNumber) {
   render::Notes notes;
-  NumberFormat::read(
-      Node{.kind = "numberFormat", .attributes = {{"minimumFractionDigits", "two"}}}, notes);
-  EXPECT_THAT(notes.all(), testing::ElementsAre(
-                               "numberFormat: minimumFractionDigits=\"two\" is not a number of digits"));
+  NumberFormat::read(Node{.kind = "numberFormat", .attributes = {{"minimumFractionDigits", "two"}}},
+                     notes);
+  EXPECT_THAT(notes.all(),
+              testing::ElementsAre(
+                  "numberFormat: minimumFractionDigits=\"two\" is not a number of digits"));
 }
 
 } // namespace

@@ -8,13 +8,15 @@ using nlohmann::json;
 
 class TranslateTest : public testing::Test {
 protected:
-  json spec(std::string_view plot, std::string_view rest = "", std::string_view table = smallTable) {
+  json spec(std::string_view plot, std::string_view rest = "",
+            std::string_view table = smallTable) {
     return folder_.write("chart.xml", document(plot, rest)).write("source0.csv", table).spec();
   }
   json plotOf(std::string_view plot, std::string_view rest = "") {
     return spec(plot, rest)["marks"][0];
   }
-  json notes(std::string_view plot, std::string_view rest = "", std::string_view table = smallTable) {
+  json notes(std::string_view plot, std::string_view rest = "",
+             std::string_view table = smallTable) {
     return spec(plot, rest, table)["usermeta"]["notes"];
   }
 

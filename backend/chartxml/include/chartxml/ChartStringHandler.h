@@ -89,9 +89,28 @@ public:
   int VariableLabel(int index);
   /// A value in its variable's format; -1, silently, for the system-missing value.
   int Value(int index, const OBS& value);
+  /// The same with two more decimals, at most 16.
+  int MeanValue(int index, const OBS& value);
+  /// The value label of a value without its leading blanks; empty when there is
+  /// none.
+  std::string valueLabel(int index, const OBS& value) const;
+  /// A value's label, or the value in its format when it has none, shortened to
+  /// `maxLength` bytes when that is positive and put into `pattern` as "^1" when
+  /// that is not empty. The missing-value label for the system-missing value.
+  int ValueObjectLabel(int index, const OBS& value, const std::string& pattern, int maxLength);
   /// A number in a packed display format, or, with format -1, as for machines;
   /// -1 for the system-missing value and for an empty text.
   int LRValue(const double& value, int format);
+
+  // The data source's split variables; `values` are the cells of their values, one
+  // after the other
+
+  /// One text of all split variables with the parts asked for,
+  /// "name label = value value label; ..."; its handle, or -1.
+  int SplitList(const OBS* values, bool name, bool label, bool value, bool valueLabel);
+  /// Adds label and value label of each split variable to an open composite, as one
+  /// repeat list. Returns -1 in every case.
+  int SplitListByPattern(const OBS* values, int composite);
 
   /// Moves `begin` and `end` (the last character) past blanks; how many
   /// characters are left.
@@ -110,6 +129,10 @@ private:
   template <class Operation> bool changeComposite(int handle, const char* failure,
                                                   std::source_location where, Operation operation);
   int addComposite(OmStringCell pattern);
+  std::string variableLabel(const KORVA_Variable& variable) const;
+  std::string formatted(int index, const OBS& value, int moreDecimals,
+                        const std::string& separator) const;
+  template <class Visit> void visitSplits(const OBS* values, Visit visit) const;
   void report(const std::string& message, std::source_location where) const;
 
   int nextHandle_ = 0;

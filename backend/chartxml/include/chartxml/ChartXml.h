@@ -103,6 +103,14 @@ public:
   int VariableName(int variable);
   int VariableLabel(int variable);
   int Value(int variable, const OBS& value);
+  int MeanValue(int variable, const OBS& value);
+  /// The value's label or text, at most `maxLength` bytes unless that is -1.
+  int ValueLabel(int variable, const OBS& value, int maxLength);
+  /// The value's label or text in the translated pattern of objects.
+  int ObjectLabel(int variable, const OBS& value);
+  /// "label: value, label: value" of the data source's split variables.
+  int SplitHeader(const OBS* values, bool);
+  int SplitList(const OBS* values, bool name, bool label, bool value, bool valueLabel);
   /// The label of a variable of another data source, which stays the caller's.
   int VariableLabelFromDataSource(KORVA_DataSource* source, int variable);
   int VariableLabelFromDataSource(void* procedureHandle, KORVA_FortranDictionary* const& dictionary,

@@ -170,6 +170,37 @@ CHARTXML_API int64_t cx_lrvalue_(const int64_t* ignored, const double* number,
  *  data. */
 CHARTXML_API int64_t cx_value_(const int64_t* variableNumber, const void* cells);
 
+/** Registers a mean in its variable's display format with two more decimals. Returns the new
+ *  string handle, or -1 for the system-missing value, silently. Reports a variable number out of
+ *  range; that there are no data. */
+CHARTXML_API int64_t cx_meanvalue_(const int64_t* variableNumber, const void* cells);
+
+/** Registers a value's label, or the value in its display format when it has none. Returns the
+ *  new string handle; the missing-value label for the system-missing value. Reports a variable
+ *  number out of range; that there are no data. */
+CHARTXML_API int64_t cx_valuelabel_(const int64_t* ignored1, const int64_t* variableNumber,
+                                    const void* cells);
+
+/** The same, shortened at a character. Returns the new string handle. Reports a variable number
+ *  out of range; that there are no data. */
+CHARTXML_API int64_t cx_valuelabelshort_(const int64_t* variableNumber, const void* cells,
+                                         const int64_t* maxLength);
+
+/** Registers a value's label in the string table's pattern for objects. Returns the new string
+ *  handle. Reports a variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_objectlabel_(const int64_t* variableNumber, const void* cells);
+
+/** Registers one text of all split variables and their values. Returns the new string handle.
+ *  Reports that there are no data. */
+CHARTXML_API int64_t cx_splitlist_(const int64_t* ignored1, const void* splitCells,
+                                   const int64_t* ignored2, const int64_t* showName,
+                                   const int64_t* showLabel, const int64_t* showValue,
+                                   const int64_t* showValueLabel);
+
+/** Registers "label: value, label: value" of the split variables. Returns the new string handle.
+ *  Reports that there are no data. */
+CHARTXML_API int64_t cx_splitheader_(const void* splitCells, const int64_t* ignored1);
+
 /** Registers a variable's name. Returns the new string handle. Reports a variable number out of
  *  range; that there are no data. */
 CHARTXML_API int64_t cx_variablename_(const int64_t* ignored1, const int64_t* ignored2,
@@ -221,9 +252,8 @@ CHARTXML_API int64_t cx_createlogvar_(const int64_t* chart, const int64_t* varia
 CHARTXML_API int64_t cx_addrelabel_(const int64_t* chart, const int64_t* variable,
                                     const int64_t* from, const int64_t* to);
 
-/** Shows the values of a variable under their value labels. Returns a node handle or another
- *  non-negative number. Reports a node that is no variable; a variable number out of range; that
- *  there are no data. */
+/** Shows the values of a variable under their value labels. Returns the variable. Reports a node
+ *  that is no variable; a variable number out of range; that there are no data. */
 CHARTXML_API int64_t cx_addrelabels_(const int64_t* chart, const int64_t* variable,
                                      const int64_t* variableNumber);
 

@@ -1,10 +1,30 @@
 #include <chartxml/ChartStringHandler.h>
 
+#include <algorithm>
 #include <cstring>
 
 #include <chartxml/ChartXml.h>
+#include <host/CodePages.h>
 #include <host/Formatter.h>
 #include <host/Missing.h>
+#include <host/Settings.h>
+
+namespace {
+
+constexpr int maxDecimals = 16;
+constexpr int meanDecimals = 2;
+constexpr auto missingValueKey = "E60712";
+
+// What the system groups digits with: nothing, a comma, or the locale's separator,
+// whose no-break space would keep a label from being wrapped.
+std::string groupingSeparator() {
+  if (!CmnSys::shared().digitGrouping()) return {};
+  const auto& locale = CmnLoc::shared();
+  if (!locale) return ",";
+  return locale->groupingSeparator == "\u00A0" ? " " : locale->groupingSeparator;
+}
+
+} // namespace
 
 int ChartStringHandler::VariableName(int index) {
   if (!validDataSource() || !validVariable(index)) return -1;
@@ -13,26 +33,69 @@ int ChartStringHandler::VariableName(int index) {
 
 int ChartStringHandler::VariableLabel(int index) {
   if (!validDataSource() || !validVariable(index)) return -1;
-  const char* begin = dataSource_->GetVariable(index).GetLabel();
-  if (begin && *begin) {
-    const char* end = begin + std::strlen(begin) - 1;
-    if (const int length = trim(begin, end)) {
-      return ChartXml::GetInstance()->NStringNoTranslate(
-          std::string(begin, static_cast<std::size_t>(length)));
-    }
-  }
-  return VariableName(index);
+  const KORVA_Variable& variable = dataSource_->GetVariable(index);
+  const std::string label = variableLabel(variable);
+  return ChartXml::GetInstance()->NStringNoTranslate(label.empty() ? variable.GetName() : label);
+}
+
+// Without the blanks at either end.
+std::string ChartStringHandler::variableLabel(const KORVA_Variable& variable) const {
+  const char* begin = variable.GetLabel();
+  if (!begin || !*begin) return {};
+  const char* end = begin + std::strlen(begin) - 1;
+  const int length = trim(begin, end);
+  return {begin, static_cast<std::size_t>(length)};
+}
+
+std::string ChartStringHandler::formatted(int index, const OBS& value, int moreDecimals,
+                                          const std::string& separator) const {
+  int type = 0;
+  int width = 0;
+  int decimals = 0;
+  dataSource_->GetVariable(index).GetFormatEx(type, width, decimals);
+  if (moreDecimals > 0) decimals = std::min(decimals + moreDecimals, maxDecimals);
+  return formatter::formattedValue(value, type, width, decimals, separator);
 }
 
 int ChartStringHandler::Value(int index, const OBS& value) {
   if (value.number == host::systemMissing) return -1;
   if (!validDataSource() || !validVariable(index)) return -1;
-  int type = 0;
-  int width = 0;
-  int decimals = 0;
-  dataSource_->GetVariable(index).GetFormatEx(type, width, decimals);
-  return ChartXml::GetInstance()->NStringNoTranslate(
-      formatter::formattedValue(value, type, width, decimals));
+  return ChartXml::GetInstance()->NStringNoTranslate(formatted(index, value, 0, {}));
+}
+
+int ChartStringHandler::MeanValue(int index, const OBS& value) {
+  if (value.number == host::systemMissing) return -1;
+  if (!validDataSource() || !validVariable(index)) return -1;
+  return ChartXml::GetInstance()->NStringNoTranslate(formatted(index, value, meanDecimals, {}));
+}
+
+// Trailing blanks stay: a label may be followed by another text.
+std::string ChartStringHandler::valueLabel(int index, const OBS& value) const {
+  if (!validVariable(index)) return {};
+  const KORVA_ValueLabelMap& labels = dataSource_->GetVariable(index).GetValueLabels();
+  if (labels.Size() == 0) return {};
+  const char* label = labels.GetLabel(value);
+  if (!label || !*label) return {};
+  const char* last = label + std::strlen(label) - 1;
+  return trim(label, last) == 0 ? std::string() : std::string(label);
+}
+
+int ChartStringHandler::ValueObjectLabel(int index, const OBS& value, const std::string& pattern,
+                                         int maxLength) {
+  if (value.number == host::systemMissing) {
+    return ChartXml::GetInstance()->NString(missingValueKey);
+  }
+  if (!validDataSource() || !validVariable(index)) return -1;
+  std::string text = valueLabel(index, value);
+  if (text.empty()) text = formatted(index, value, 0, groupingSeparator());
+  if (maxLength > 0 && text.size() > static_cast<std::size_t>(maxLength)) {
+    text = KORVAMBStringTruncate_A(text, maxLength);
+  }
+  const int label = ChartXml::GetInstance()->NStringNoTranslate(text);
+  if (pattern.empty()) return label;
+  const int composite = CompositeString(pattern);
+  AddParameter(composite, label);
+  return EndCompositeString(composite);
 }
 
 int ChartStringHandler::LRValue(const double& value, int format) {
@@ -40,4 +103,54 @@ int ChartStringHandler::LRValue(const double& value, int format) {
   if (format == -1) return Double(value);
   const std::string text = formatter::AsString(value, KORVA_Format(format));
   return text.empty() ? -1 : ChartXml::GetInstance()->NStringNoTranslate(text);
+}
+
+// Split variables
+
+// Calls `visit` with column and value of each split variable that has one in the
+// row; one that has none takes no cells either.
+template <class Visit> void ChartStringHandler::visitSplits(const OBS* values, Visit visit) const {
+  if (!values) return;
+  for (int i = 0; i < dataSource_->SplitVariableCount(); ++i) {
+    const int index = dataSource_->SplitVariableIndex(i);
+    if (index < 0) continue;
+    visit(i, index, *values);
+    const int type = dataSource_->GetVariable(index).GetType();
+    values += type <= 8 ? 1 : (type + 7) / 8;
+  }
+}
+
+int ChartStringHandler::SplitList(const OBS* values, bool name, bool label, bool value,
+                                  bool valueLabel) {
+  if (!validDataSource()) return -1;
+  std::string list;
+  visitSplits(values, [&](int i, int index, const OBS& cell) {
+    const KORVA_Variable& variable = dataSource_->GetVariable(index);
+    const std::string itsLabel = variableLabel(variable);
+    const std::string itsValue = formatted(index, cell, 0, {});
+    const std::string itsValueLabel = this->valueLabel(index, cell);
+    if (i > 0) list += "; ";
+    if (name) list += variable.GetName();
+    if (label && !itsLabel.empty()) list.append(name ? " " : "").append(itsLabel);
+    if (label && itsLabel.empty() && !name) list += variable.GetName();
+    list += " = ";
+    if (value) list += itsValue;
+    if (valueLabel && !itsValueLabel.empty()) list.append(value ? " " : "").append(itsValueLabel);
+    if (valueLabel && itsValueLabel.empty() && !value) list += itsValue;
+  });
+  return ChartXml::GetInstance()->NStringNoTranslate(list);
+}
+
+int ChartStringHandler::SplitListByPattern(const OBS* values, int composite) {
+  if (!validDataSource() || dataSource_->SplitVariableCount() == 0) return -1;
+  BeginRepeat(composite);
+  visitSplits(values, [&](int, int index, const OBS& cell) {
+    const int label = VariableLabel(index);
+    const int value = ValueObjectLabel(index, cell, {}, -1);
+    if (label == -1 || value == -1) return;
+    AddParameter(composite, label);
+    AddParameter(composite, value);
+  });
+  EndRepeat(composite);
+  return -1;
 }

@@ -55,6 +55,10 @@ template <> struct Argument<const OBS&> {
   }
 };
 
+template <> struct Argument<const OBS*> {
+  static const OBS* read(const void* cells) { return static_cast<const OBS*>(cells); }
+};
+
 /// Reports the exception being handled, with the entry point that met it.
 void reportException(const char* entryPoint);
 

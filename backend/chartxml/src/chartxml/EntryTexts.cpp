@@ -5,6 +5,13 @@
 
 using namespace entry;
 
+namespace {
+
+/// The length of a label that is not to be shortened.
+constexpr int64_t whole = -1;
+
+} // namespace
+
 int64_t cx_nstring_(const int64_t*, const char* key, const int64_t* keyLength) {
   return call(__func__, &ChartXml::NString, Text{key, keyLength});
 }
@@ -43,6 +50,25 @@ int64_t cx_variablename_(const int64_t*, const int64_t*, const int64_t* variable
 }
 int64_t cx_value_(const int64_t* variable, const void* value) {
   return call(__func__, &ChartXml::Value, variable, value);
+}
+int64_t cx_meanvalue_(const int64_t* variable, const void* value) {
+  return call(__func__, &ChartXml::MeanValue, variable, value);
+}
+int64_t cx_valuelabel_(const int64_t*, const int64_t* variable, const void* value) {
+  return call(__func__, &ChartXml::ValueLabel, variable, value, &whole);
+}
+int64_t cx_valuelabelshort_(const int64_t* variable, const void* value, const int64_t* maxLength) {
+  return call(__func__, &ChartXml::ValueLabel, variable, value, maxLength);
+}
+int64_t cx_objectlabel_(const int64_t* variable, const void* value) {
+  return call(__func__, &ChartXml::ObjectLabel, variable, value);
+}
+int64_t cx_splitlist_(const int64_t*, const void* values, const int64_t*, const int64_t* name,
+                      const int64_t* label, const int64_t* value, const int64_t* valueLabel) {
+  return call(__func__, &ChartXml::SplitList, values, name, label, value, valueLabel);
+}
+int64_t cx_splitheader_(const void* values, const int64_t* unused) {
+  return call(__func__, &ChartXml::SplitHeader, values, unused);
 }
 int64_t cx_double_(const double* number) { return call(__func__, &ChartXml::Double, number); }
 int64_t cx_lrvalue_(const int64_t*, const double* number, const int64_t* format) {

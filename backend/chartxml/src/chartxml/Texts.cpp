@@ -87,6 +87,26 @@ int ChartXml::Value(int variable, const OBS& value) {
   return stringHandler_->Value(getVariableIndex(variable), value);
 }
 
+int ChartXml::MeanValue(int variable, const OBS& value) {
+  return stringHandler_->MeanValue(getVariableIndex(variable), value);
+}
+int ChartXml::ValueLabel(int variable, const OBS& value, int maxLength) {
+  return stringHandler_->ValueObjectLabel(getVariableIndex(variable), value, {}, maxLength);
+}
+int ChartXml::ObjectLabel(int variable, const OBS& value) {
+  const std::string pattern = translate("E65039^1").toUTF8();
+  return stringHandler_->ValueObjectLabel(getVariableIndex(variable), value, pattern, -1);
+}
+
+int ChartXml::SplitHeader(const OBS* values, bool) {
+  const int header = stringHandler_->CompositeString("[%1\\: %2:, ^1\\: ^2:]1");
+  stringHandler_->SplitListByPattern(values, header);
+  return stringHandler_->EndCompositeString(header);
+}
+int ChartXml::SplitList(const OBS* values, bool name, bool label, bool value, bool valueLabel) {
+  return stringHandler_->SplitList(values, name, label, value, valueLabel);
+}
+
 // The string handler looks at the other source for the time of one label.
 int ChartXml::VariableLabelFromDataSource(KORVA_DataSource* source, int variable) {
   if (!dataSource_) return -1;
