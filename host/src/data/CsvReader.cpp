@@ -1,4 +1,4 @@
-#include "data/CsvReader.h"
+#include <host/CsvReader.h>
 
 #include <algorithm>
 #include <exception>

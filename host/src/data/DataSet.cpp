@@ -8,11 +8,11 @@
 
 #include <fmt/format.h>
 
-#include "data/CsvReader.h"
 #include "data/DataColumn.h"
 #include "data/FieldInference.h"
 #include "data/PackageDescriptor.h"
 #include "data/Refusal.h"
+#include <host/CsvReader.h>
 
 namespace host {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "data/CellText.h"
-#include "data/CsvReader.h"
+#include <host/CsvReader.h>
 
 namespace host {
 namespace {

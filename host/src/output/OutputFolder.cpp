@@ -20,17 +20,12 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view draftPrefix = ".tmp-";
 
-/// The names in a folder that `wanted` takes.
-template <class Wanted> std::vector<std::string> namesIn(const fs::path& folder, Wanted wanted) {
-  std::vector<std::string> names;
+template <class Take> void forEachName(const fs::path& folder, Take take) {
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    std::string name = entry->path().filename().native();
-    if (wanted(name)) names.push_back(std::move(name));
-  }
+       entry.increment(error))
+    take(entry->path().filename().native());
   if (error) fail("read", folder, error);
-  return names;
 }
 
 void makeFolder(const fs::path& folder) {
@@ -39,21 +34,27 @@ void makeFolder(const fs::path& folder) {
   if (error) fail("make the folder", folder, error);
 }
 
-/// The lock tells a draft in work from a leftover, whichever machine or container
-/// its process runs in; a process number alone would not.
+/// A draft's process holds a lock on it: that tells a draft in work from a
+/// leftover whichever machine or container the process runs in, which its number
+/// does not.
 Descriptor signOf(const fs::path& draft) {
   return Descriptor(open(draft.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
 /// A leftover that can't be removed harms nobody.
+void removeIfLeftOver(const fs::path& draft) {
+  const Descriptor sign = signOf(draft);
+  if (!sign || flock(sign.get(), LOCK_EX | LOCK_NB) != 0) return;
+  std::error_code ignored;
+  fs::remove_all(draft, ignored);
+}
+
 void removeLeftovers(const fs::path& outputFolder) {
-  const auto isDraft = [](std::string_view name) { return name.starts_with(draftPrefix); };
-  for (const std::string& name : namesIn(outputFolder, isDraft)) {
-    const Descriptor sign = signOf(outputFolder / name);
-    if (!sign || flock(sign.get(), LOCK_EX | LOCK_NB) != 0) continue;
-    std::error_code ignored;
-    fs::remove_all(outputFolder / name, ignored);
-  }
+  std::vector<fs::path> drafts;
+  forEachName(outputFolder, [&](const std::string& name) {
+    if (name.starts_with(draftPrefix)) drafts.push_back(outputFolder / name);
+  });
+  std::ranges::for_each(drafts, removeIfLeftOver);
 }
 
 fs::path makeDraftFolder(const fs::path& outputFolder) {
@@ -76,10 +77,8 @@ std::uint64_t numberOf(std::string_view name) {
 
 std::uint64_t nextNumber(const fs::path& outputFolder) {
   std::uint64_t highest = 0;
-  namesIn(outputFolder, [&](std::string_view name) {
-    highest = std::max(highest, numberOf(name));
-    return false;
-  });
+  forEachName(outputFolder,
+              [&](std::string_view name) { highest = std::max(highest, numberOf(name)); });
   return highest + 1;
 }
 

