@@ -39,6 +39,3 @@ done
 
 say "drawing the pictures"
 build/bin/chartxml render "$gallery" --svg --png
-
-say "done; open this file in a browser:"
-printf '%s\n' "$gallery/index.html"

@@ -36,14 +36,15 @@ install_debian() {
   "${as_root[@]}" "${install[@]}" -o DPkg::Lock::Timeout=300 || fail "apt-get could not install them"
 }
 
-# The npm packages, at the versions of the lock file; their Node comes first on
-# the PATH from here on, since Debian's may be too old for them.
+# The npm packages, at the versions of the lock file. None of them needs its
+# install script, so none is run. Their Node comes first on the PATH from here on,
+# since Debian's may be too old for them.
 npm_packages() {
   local hash record=node_modules/.package-lock-hash
   hash=$(sha256sum <package-lock.json)
   if [[ ! -f $record || $(<"$record") != "$hash" ]]; then
     say "npm packages, as package-lock.json lists them"
-    npm ci --no-audit --no-fund --no-update-notifier
+    npm ci --ignore-scripts --no-audit --no-fund --no-update-notifier
     printf '%s\n' "$hash" >"$record"
   fi
   export PATH=$root/node_modules/.bin:$PATH

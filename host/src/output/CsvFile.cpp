@@ -1,7 +1,8 @@
 #include "output/CsvFile.h"
 
-#include <charconv>
 #include <cmath>
+
+#include <fmt/compile.h>
 
 #include <host/Missing.h>
 
@@ -33,11 +34,12 @@ void writeText(FileWriter& file, std::string_view text) {
     file.write(text);
 }
 
+/// As ChartBase::asString writes it, so that relabels meet the values.
 void writeNumber(FileWriter& file, double value) {
   constexpr std::size_t longest = 32;
   if (std::isnan(value)) return file.write("NaN");
   if (std::isinf(value)) return file.write(value > 0 ? "INF" : "-INF");
-  file.print(longest, [=](char* at) { return std::to_chars(at, at + longest, value).ptr; });
+  file.print(longest, [=](char* at) { return fmt::format_to(at, FMT_COMPILE("{}"), value); });
 }
 
 /// False, and nothing written, for a cell without value.
