@@ -23,9 +23,10 @@
 ! Ownership. The library copies texts and cells during the call and keeps no address of them. The
 ! dictionary stays the procedure's; keep its data set open until the charts are ended.
 !
-! The value -1 means "absent" where an integer is optional, and failure where it is returned. A call
-! that fails changes nothing; an entry point of several steps ends at the first that fails, keeps
-! the nodes of the others, and leaves the outputs of later steps alone.
+! The value -1 means "absent" where an integer is optional, and failure where it is returned. A
+! check that fails changes nothing, but for strings made on the way; an entry point of several steps
+! ends at the first that fails, keeps the nodes of the others, and leaves the outputs of later steps
+! alone. Ending a chart consumes it also when it cannot be sent.
 !
 ! Errors. Nothing is thrown or raised. What is refused is reported in one line, with the reason, to
 ! the host's error log: a bad chart, node or string handle by every entry point, the rest as told

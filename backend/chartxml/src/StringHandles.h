@@ -3,16 +3,7 @@
 /// Predefined string handles that the builder itself uses.
 namespace strings {
 
-inline constexpr int line = 21;
-inline constexpr int inside = 32;
-inline constexpr int referenceLine = 50;
-inline constexpr int none = 86;
-inline constexpr int stack = 87;
-inline constexpr int log = 116;
-inline constexpr int base = 117;
-inline constexpr int exponent = 118;
-inline constexpr int noMethod = 124;
-inline constexpr int x = 128;
+inline constexpr int legend = 15;
 inline constexpr int y = 129;
 inline constexpr int casenum = 135;
 inline constexpr int countname = 140;
@@ -20,7 +11,5 @@ inline constexpr int percentname = 141;
 inline constexpr int yFunctionOfX = 142;
 inline constexpr int function = 143;
 inline constexpr int numPoints = 144;
-inline constexpr int yAxisLabel = 148;
-inline constexpr int xAxisLabel = 155;
 
 } // namespace strings

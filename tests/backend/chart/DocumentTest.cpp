@@ -1,5 +1,8 @@
 #include "../support/BuilderTest.h"
 
+#include <functional>
+#include <limits>
+
 #include <fmt/format.h>
 #include <rapidcheck.h>
 #include <xercesc/dom/DOM.hpp>
@@ -32,7 +35,9 @@ TEST_F(Document, NumbersNodesFrom1AndHoldsTheGraphUnder0) {
   EXPECT_EQ(made.getHandle(made.getElement(2)), 2);
   EXPECT_EQ(made.getHandle(&loose("x")), -1);
   EXPECT_EQ(made.getElement(3), nullptr);
-  EXPECT_EQ(made.getElement(-1), nullptr);
+  for (const int none : {-1, (1 << 30) - 1, 2'000'000'000, std::numeric_limits<int>::max()}) {
+    EXPECT_EQ(made.getElement(none), nullptr);
+  }
 }
 
 TEST_F(Document, LetsTheNextHandlePassTheCheckButChangesNothingForIt) {
@@ -197,7 +202,7 @@ TEST_F(Document, KeepsChildrenInOneOrderWhateverTheOrderOfCalls) {
   made.AddStyleByColorAndPattern(element, v);
   for (auto add :
        {&Chart::AddZ, &Chart::AddR, &Chart::AddTheta, &Chart::AddPhi, &Chart::AddY, &Chart::AddX}) {
-    (made.*add)(position, v);
+    std::invoke(add, made, position, v);
   }
   made.AddStatistic(position, 44);
   EXPECT_EQ(

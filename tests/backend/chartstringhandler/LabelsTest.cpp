@@ -48,7 +48,8 @@ TEST_F(Labels, ShowValueLabelsElseValues) {
   EXPECT_EQ(read(r.ValueLabel(1, female, 0)), "female  ");
   EXPECT_EQ(read(r.ObjectLabel(1, other)), "3");
   EXPECT_EQ(read(r.MeanValue(1, other)), "3.00");
-  EXPECT_EQ(read(r.MeanValue(3, OBS{.number = 0.5})), "0.5000000000000000") << "16 decimals at most";
+  EXPECT_EQ(read(r.MeanValue(3, OBS{.number = 0.5})), "0.5000000000000000")
+      << "16 decimals at most";
   EXPECT_EQ(read(r.MeanValue(1, missing)), "-1");
   EXPECT_EQ(read(r.ValueLabel(2, row[1], -1)), "Torgersen");
   EXPECT_THAT(takeReports(), IsEmpty());
@@ -71,12 +72,11 @@ TEST_F(Labels, GroupDigitsAsSystemAndLocaleSay) {
 }
 
 TEST_F(Labels, ListSplitVariablesWithThePartsAskedFor) {
-  const std::pair<int, const char*> cases[] = {
-      {0b1111, "sex Sex = 1 female  ; isle = Torgersen"},
-      {0b0000, " = ;  = "},
-      {0b0100, "Sex = ; isle = "},
-      {0b0001, " = female  ;  = Torgersen"},
-      {0b1010, "sex = 1; isle = Torgersen"}};
+  const std::pair<int, const char*> cases[] = {{0b1111, "sex Sex = 1 female  ; isle = Torgersen"},
+                                               {0b0000, " = ;  = "},
+                                               {0b0100, "Sex = ; isle = "},
+                                               {0b0001, " = female  ;  = Torgersen"},
+                                               {0b1010, "sex = 1; isle = Torgersen"}};
   for (const auto& [parts, expected] : cases) {
     const int list = registry().SplitList(row, (parts & 8) != 0, (parts & 4) != 0, (parts & 2) != 0,
                                           (parts & 1) != 0);

@@ -10,15 +10,13 @@ using testing::IsEmpty;
 
 class Strings : public BuilderTest {
 protected:
-  static ChartStringHandler& fresh() {
-    static std::unique_ptr<ChartStringHandler> handler;
-    ChartXml::GetInstance();
-    handler = std::make_unique<ChartStringHandler>();
-    return *handler;
-  }
+  ChartStringHandler& fresh() { return *handler_; }
   static int add(ChartStringHandler& handler, const char* bytes) {
     return handler.AddChartString(ChartString(host::utf16(bytes)));
   }
+
+private:
+  std::unique_ptr<ChartStringHandler> handler_ = std::make_unique<ChartStringHandler>();
 };
 
 TEST_F(Strings, HoldsTheVocabularyUnderHandles1To156) {
@@ -78,11 +76,15 @@ TEST_F(Strings, LetsTheNextHandlePassTheCheckThoughItHoldsNoText) {
   EXPECT_FALSE(handler.validString(-1, "prefix"));
   EXPECT_TRUE(handler.getXMLString(157).empty());
   EXPECT_TRUE(handler.getXMLString(-5).empty());
-  EXPECT_TRUE(handler.getXMLString(std::numeric_limits<int>::min()).empty());
+  for (const int far : {(1 << 30) - 1, 2'000'000'000, std::numeric_limits<int>::max()}) {
+    EXPECT_TRUE(handler.getXMLString(far).empty());
+  }
   EXPECT_THAT(takeReports(),
               ElementsAre("label handle out of range", "prefix handle out of range",
                           "String not found for handle 157", "String not found for handle -5",
-                          "String not found for handle -2147483648"));
+                          "String not found for handle 1073741823",
+                          "String not found for handle 2000000000",
+                          "String not found for handle 2147483647"));
 }
 
 TEST_F(Strings, ReportsAMissingTextFromThePlaceOfTheLookUp) {
@@ -128,7 +130,11 @@ TEST_F(Strings, AssemblesACompositeOnceAndKeepsItsText) {
   EXPECT_EQ(resolved.toUTF8ForEng(), "title out of all\n\ncases");
   EXPECT_EQ(&handler.getXMLString(composite), &resolved);
   EXPECT_EQ(handler.AddParameter(composite, 17), -1) << "it is closed";
-  EXPECT_THAT(takeReports(), ElementsAre("add parameter failed"));
+  EXPECT_EQ(handler.BeginRepeat(composite), -1);
+  EXPECT_EQ(handler.EndRepeat(composite), -1);
+  EXPECT_EQ(handler.EndCompositeString(composite), -1);
+  EXPECT_THAT(takeReports(), ElementsAre("add parameter failed", "begin repeat list failed",
+                                         "end repeat list failed", "end composite string failed"));
 }
 
 TEST_F(Strings, ReadsAnOpenCompositeThatIsItsOwnParameterWithoutLooping) {

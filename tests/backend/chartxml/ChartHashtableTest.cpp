@@ -145,10 +145,10 @@ TEST(ChartHashtable, ReleasesValuesOnlyWhenItOwnsThem) {
 
 TEST(ChartHashtable, AgreesWithAMapUnderAnySequenceOfCalls) {
   EXPECT_TRUE(rc::check([](const std::vector<std::pair<bool, std::uint16_t>>& calls) {
-    Table table(89);
+    Table table(3);
     std::map<int, int> model;
     for (const auto& [adds, wide] : calls) {
-      const int handle = wide % 500;
+      const int handle = wide % 200;
       if (adds) {
         RC_ASSERT(put(table, handle) == model.emplace(handle, handle).second);
       } else {
@@ -161,6 +161,9 @@ TEST(ChartHashtable, AgreesWithAMapUnderAnySequenceOfCalls) {
     for (const auto& [handle, value] : model)
       expected.push_back(value);
     RC_ASSERT(found == expected);
+    for (int handle = 0; handle < 200; ++handle) {
+      RC_ASSERT((get(table, handle) != nullptr) == model.contains(handle));
+    }
     RC_ASSERT(table.getSize() == static_cast<int>(model.size()));
   }));
 }

@@ -111,6 +111,7 @@ template <class T> using const_HashIterator = HashIteratorOf<T, const ChartHasht
 /// grows; it never shrinks. Keys must have hashes that read as non-negative.
 template <class T> class ChartHashtable {
 public:
+  /// A table of `size` buckets, at least 1.
   explicit ChartHashtable(int size)
       : buckets_(std::make_unique<PairNode<T>*[]>(static_cast<std::size_t>(size))), capacity_(size),
         threshold_(thresholdOf(size)) {}
@@ -118,7 +119,8 @@ public:
   ChartHashtable& operator=(const ChartHashtable&) = delete;
   ~ChartHashtable() { clearDeep(); }
 
-  /// The entry of an equal key, or null. The pair stays the table's.
+  /// The entry of an equal key, or null. The pair stays the table's; it stays where
+  /// it is until its key, or another key of its bucket, is removed.
   ChartPair<T>* get(const ChartKey* key) const {
     return findInBucket(buckets_[hashedKey(key)], key);
   }
@@ -192,10 +194,10 @@ private:
   }
 
   void rehash() {
-    const std::int32_t oldCapacity = capacity_;
-    capacity_ = 2 * oldCapacity + 1;
-    auto old = std::exchange(buckets_,
-                             std::make_unique<PairNode<T>*[]>(static_cast<std::size_t>(capacity_)));
+    const std::int32_t grown = 2 * capacity_ + 1;
+    auto old = std::make_unique<PairNode<T>*[]>(static_cast<std::size_t>(grown));
+    std::swap(old, buckets_);
+    const std::int32_t oldCapacity = std::exchange(capacity_, grown);
     ++rehashCount_;
     threshold_ = thresholdOf(capacity_);
     for (std::int32_t i = 0; i < oldCapacity; ++i) {
@@ -239,3 +241,12 @@ private:
   std::int32_t rehashCount_ = 0;
   PairNodeStack<T> freeNodes_;
 };
+
+/// Stores a value under a handle; false, and the value stays the caller's, when the
+/// handle is taken.
+template <class T> bool putUnderHandle(ChartHashtable<T>& table, int handle, T* value) {
+  auto key = std::make_unique<ChartKey>(ChartKey::ofHandle(handle));
+  if (!table.put(key.get(), value)) return false;
+  static_cast<void>(key.release());
+  return true;
+}

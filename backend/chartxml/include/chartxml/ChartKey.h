@@ -9,7 +9,7 @@
 class ChartKey {
 public:
   /// Multipliers of the hash, by position: the first 49 primes. Small ones keep
-  /// the hash of any handle below 2^30 readable as a non-negative number, which
+  /// the hash of any handle below 2^30 - 1 readable as a non-negative number, which
   /// the table's signed remainder relies on; the first is 2, and since every
   /// capacity is odd, sequential handles fall into buckets of their own.
   static constexpr std::array<std::uint32_t, 49> PRIME_FACTOR{

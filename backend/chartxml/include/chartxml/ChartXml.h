@@ -26,8 +26,9 @@ XERCES_CPP_NAMESPACE_END
 /// In initialized mode (Initialize was called) texts and data source live until
 /// Terminate; else they go with the last chart. Every operation returns a handle
 /// or another non-negative number, or -1; a bad chart handle is reported and
-/// answered with -1, except where an operation says otherwise. Nothing is thrown
-/// but KorvaGoToCaller, when the program's error callback throws it. One thread.
+/// answered with -1, except where an operation says otherwise. Refusals are not
+/// thrown; only KorvaGoToCaller, when the program's error callback throws it, and
+/// what runs out, such as memory, leave an operation. One thread.
 class CHARTXML_API ChartXml {
 public:
   // Life
@@ -206,6 +207,8 @@ private:
   using Where = std::source_location;
   struct At;
 
+  struct XmlPlatform;
+
   ChartXml();
   ~ChartXml();
 
@@ -228,6 +231,7 @@ private:
   static bool _initialized;
 
   int nextHandle_ = 0;
+  std::unique_ptr<XmlPlatform> platform_;
   std::unique_ptr<xercesc::SchemaValidator> validator_;
   std::unique_ptr<ChartStringHandler> stringHandler_;
   ChartHashtable<Chart> charts_;

@@ -59,7 +59,7 @@ bool Chart::CreateChart() {
   document_ = createDocument(_utf8);
   if (!document_) return false;
 
-  elements_.put(new ChartKey(ChartKey::ofHandle(0)), document_->getDocumentElement());
+  putUnderHandle(elements_, 0, document_->getDocumentElement());
   styleContainer_ = &makeElement(ZephUni::_style);
   AddID(*styleContainer_, _container);
   repositoryStyleCycle_ = addNamedCycle(_styleCycleRepository);
@@ -70,12 +70,12 @@ bool Chart::CreateChart() {
 // Handles
 
 int Chart::mapElement(DOMElement* element) {
-  elements_.put(new ChartKey(ChartKey::ofHandle(nextHandle_)), element);
+  putUnderHandle(elements_, nextHandle_, element);
   return nextHandle_++;
 }
 
 DOMElement* Chart::getElement(int handle) const {
-  if (handle < 0) return nullptr;
+  if (handle < 0 || handle >= nextHandle_) return nullptr;
   const ChartKey key = ChartKey::ofHandle(handle);
   const auto* pair = elements_.get(&key);
   return pair ? pair->getValue() : nullptr;

@@ -8,6 +8,7 @@
 #include <host/Formatter.h>
 #include <host/Missing.h>
 #include <host/Settings.h>
+#include <host/Text.h>
 
 namespace {
 
@@ -21,7 +22,8 @@ std::string groupingSeparator() {
   if (!CmnSys::shared().digitGrouping()) return {};
   const auto& locale = CmnLoc::shared();
   if (!locale) return ",";
-  return locale->groupingSeparator == "\u00A0" ? " " : locale->groupingSeparator;
+  if (locale->groupingSeparator == "\u00A0") return " ";
+  return KORVAMBTranscodeGeneric(host::utf16(locale->groupingSeparator));
 }
 
 } // namespace
@@ -115,8 +117,7 @@ template <class Visit> void ChartStringHandler::visitSplits(const OBS* values, V
     const int index = dataSource_->SplitVariableIndex(i);
     if (index < 0) continue;
     visit(i, index, *values);
-    const int type = dataSource_->GetVariable(index).GetType();
-    values += type <= 8 ? 1 : (type + 7) / 8;
+    values += host::cellsOfWidth(dataSource_->GetVariable(index).GetType());
   }
 }
 

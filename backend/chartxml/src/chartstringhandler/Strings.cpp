@@ -52,18 +52,13 @@ int ChartStringHandler::AddChartString(ChartString&& text) {
   return nextHandle_++;
 }
 
-// A handle that holds a text keeps it; the new copy is freed then.
 void ChartStringHandler::insertChartString(int handle, ChartString text) {
-  auto key = std::make_unique<ChartKey>(ChartKey::ofHandle(handle));
   auto copy = std::make_unique<ChartString>(std::move(text));
-  if (strings_->put(key.get(), copy.get())) {
-    static_cast<void>(key.release());
-    static_cast<void>(copy.release());
-  }
+  if (putUnderHandle(*strings_, handle, copy.get())) static_cast<void>(copy.release());
 }
 
 const ChartString* ChartStringHandler::findString(int handle) const {
-  if (handle < 0) return nullptr;
+  if (handle < 0 || handle >= nextHandle_) return nullptr;
   const ChartKey key = ChartKey::ofHandle(handle);
   const auto* pair = strings_->get(&key);
   return pair ? pair->getValue() : nullptr;

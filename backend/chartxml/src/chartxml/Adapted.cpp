@@ -19,8 +19,6 @@ int ChartXml::SetChartDescription(int chart, const std::string& text) {
   return found ? found->CreateChartDescription(NStringNoTranslate(text)) : -1;
 }
 
-Chart* ChartXml::findSilently(int chart) const { return getValidChart(chart, "", 0, false); }
-
 // A chart that lost a value would show a wrong picture: it goes as a whole.
 int ChartXml::AddDataValue(int chart, int source, int variable, int value) {
   if (value == -1) return -1;

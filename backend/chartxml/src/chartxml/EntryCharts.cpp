@@ -61,8 +61,8 @@ int64_t cx_adddoubledatavalue_(const int64_t* chart, const int64_t* source, cons
 
 int64_t cx_init_(void* procedure, void* const* dictionary, const char* name,
                  const int64_t* nameLength) {
-  ChartXml::Initialize();
   return guarded(__func__, [&](ChartXml& registry) {
+    ChartXml::Initialize();
     registry.SetProcedure(-1, Text{name, nameLength}.read());
     registry.SetDataSource(-1, procedure, dictionaryAt(dictionary));
     return 0;
@@ -74,8 +74,13 @@ int64_t cx_createchart_(void* procedure, void* const* dictionary, const char* na
   return guarded(__func__, [&](ChartXml& registry) {
     const int chart = registry.CreateChart();
     if (chart < 0) return chart;
-    registry.SetProcedure(chart, Text{name, nameLength}.read());
-    registry.SetDataSource(chart, procedure, dictionaryAt(dictionary));
+    try {
+      registry.SetProcedure(chart, Text{name, nameLength}.read());
+      registry.SetDataSource(chart, procedure, dictionaryAt(dictionary));
+    } catch (...) {
+      registry.KillChart(chart); // nobody will learn its handle
+      throw;
+    }
     return chart;
   });
 }

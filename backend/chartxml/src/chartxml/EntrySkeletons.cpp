@@ -3,15 +3,14 @@
 #include "EntryCall.h"
 
 #include <array>
+#include <optional>
 
+#include "StringHandles.h"
 #include <chartxml/EntryPoints.h>
 
 using namespace entry;
 
 namespace {
-
-// Predefined strings: kinds of style names.
-constexpr int legendKind = 15;
 
 // Dimensions with an axis play the roles x, y and z: 1 to 3.
 constexpr int64_t lastAxisRole = 3;
@@ -60,27 +59,33 @@ int64_t addNamedFrame(ChartXml& registry, const int64_t* chart, const int64_t* p
   return frame < 0 ? frame : fill(frame, style);
 }
 
-/// The two frames of a chart skeleton, and how they clip: nothing said leaves a
-/// frame as it is.
-int64_t createSkeleton(void* procedure, void* const* dictionary, const char* name,
-                       const int64_t* nameLength, const char* innerName, bool clipOuter,
-                       bool clipInner, int64_t* chartOut, int64_t* sourceOut, int64_t* outerOut,
+/// What differs between chart skeletons: the inner frame's name, and how the frames
+/// clip; nothing said leaves the outer frame as it is.
+struct Skeleton {
+  const char* innerName;
+  std::optional<bool> clipOuter;
+  bool clipInner;
+};
+
+int64_t createSkeleton(const char* entryPoint, const Skeleton& skeleton, void* procedure,
+                       void* const* dictionary, const char* name, const int64_t* nameLength,
+                       int64_t* chartOut, int64_t* sourceOut, int64_t* outerOut,
                        int64_t* innerOut) {
   const int64_t made = cx_createchart_(procedure, dictionary, name, nameLength);
   if (store(chartOut, made) < 0) return made;
-  return guarded(__func__, [&](ChartXml& registry) -> int64_t {
+  return guarded(entryPoint, [&](ChartXml& registry) -> int64_t {
     const int chart = static_cast<int>(made);
     const int source = registry.AddSource(chart);
     if (store(sourceOut, source) < 0) return source;
     int outer = registry.AddFrame(chart, 0, registry.NStringNoTranslate("graph_1"));
     if (store(outerOut, outer) < 0) return outer;
-    int inner = registry.AddFrame(chart, outer, registry.NStringNoTranslate(innerName));
+    int inner = registry.AddFrame(chart, outer, registry.NStringNoTranslate(skeleton.innerName));
     if (store(innerOut, inner) < 0) return inner;
-    if (clipOuter) {
-      outer = registry.SetFrameClipping(chart, outer, true);
+    if (skeleton.clipOuter) {
+      outer = registry.SetFrameClipping(chart, outer, *skeleton.clipOuter);
       if (store(outerOut, outer) < 0) return outer;
     }
-    inner = registry.SetFrameClipping(chart, inner, clipInner);
+    inner = registry.SetFrameClipping(chart, inner, skeleton.clipInner);
     return store(innerOut, inner) < 0 ? inner : made;
   });
 }
@@ -90,15 +95,15 @@ int64_t createSkeleton(void* procedure, void* const* dictionary, const char* nam
 int64_t cx_createchartex_(void* procedure, void* const* dictionary, const char* name,
                           const int64_t* nameLength, int64_t* chart, int64_t* source,
                           int64_t* graphFrame, int64_t* dataFrame) {
-  return createSkeleton(procedure, dictionary, name, nameLength, "data_1", true, false, chart,
-                        source, graphFrame, dataFrame);
+  return createSkeleton(__func__, {"data_1", true, false}, procedure, dictionary, name, nameLength,
+                        chart, source, graphFrame, dataFrame);
 }
 
 int64_t cx_createpiechart_(void* procedure, void* const* dictionary, const char* name,
                            const int64_t* nameLength, int64_t* chart, int64_t* source,
                            int64_t* graphFrame, int64_t* pieFrame) {
-  return createSkeleton(procedure, dictionary, name, nameLength, "pie_1", false, true, chart,
-                        source, graphFrame, pieFrame);
+  return createSkeleton(__func__, {"pie_1", std::nullopt, true}, procedure, dictionary, name,
+                        nameLength, chart, source, graphFrame, pieFrame);
 }
 
 int64_t cx_adddimensionaxis_(const int64_t* chart, const int64_t* parent, const int64_t* index,
@@ -170,7 +175,7 @@ int64_t cx_addlegendframe_(const int64_t* chart, const int64_t* parent, const in
                            const int64_t* styleArgument, const int64_t* aesthetic, const int64_t*,
                            int64_t* style, int64_t* legend) {
   return guarded(__func__, [&](ChartXml& registry) {
-    return addNamedFrame(registry, chart, parent, legendKind, styleArgument, style,
+    return addNamedFrame(registry, chart, parent, strings::legend, styleArgument, style,
                          [&](int frame, int name) -> int64_t {
                            const int made = registry.AddLegend(integer(chart), frame, name);
                            if (store(legend, made) < 0) return made;

@@ -76,10 +76,11 @@ int64_t cx_lrvalue_(const int64_t*, const double* number, const int64_t* format)
 }
 
 int64_t cx_integer_(const int64_t*, const int64_t* number) {
-  return call(__func__, &ChartXml::Integer, number);
+  return number ? call(__func__, &ChartXml::Integer, number) : -1;
 }
 
 int64_t cx_ivalue_(const int64_t*, const int64_t* number, const int64_t* format) {
+  if (!number) return -1;
   return guarded(__func__, [&](ChartXml& registry) {
     return registry.LRValue(integer(number), integer(format));
   });

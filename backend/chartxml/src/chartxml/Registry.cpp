@@ -1,9 +1,12 @@
 #include "Call.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/validators/schema/SchemaValidator.hpp>
 
+#include "../AtEnd.h"
 #include "../Report.h"
 #include <host/CodePages.h>
 
@@ -21,14 +24,47 @@ bool ChartXml::_initialized = false;
 
 // Life
 
+/// The registry's hold on the XML platform.
+struct ChartXml::XmlPlatform {
+  XmlPlatform() {
+    try {
+      XMLPlatformUtils::Initialize();
+    } catch (const xercesc::XMLException& exception) {
+      ChartErrorHandler::error(exception);
+    }
+  }
+  ~XmlPlatform() {
+    try {
+      XMLPlatformUtils::Terminate();
+    } catch (const xercesc::XMLException& exception) {
+      reportQuietly(exception);
+    }
+  }
+
+private:
+  // Nothing may leave a destructor, not even on the way back to the caller.
+  static void reportQuietly(const xercesc::XMLException& exception) noexcept {
+    try {
+      ChartErrorHandler::error(exception);
+    } catch (...) { // NOLINT(bugprone-empty-catch): it was reported
+    }
+  }
+};
+
 ChartXml* ChartXml::GetInstance() {
-  if (!_instance) new ChartXml;
-  return _instance;
+  if (_instance) return _instance;
+  try {
+    return new ChartXml; // becomes _instance
+  } catch (...) {
+    _instance = nullptr;
+    throw;
+  }
 }
 
 ChartXml* ChartXml::Initialize() {
+  GetInstance();
   _initialized = true;
-  return GetInstance();
+  return _instance;
 }
 
 ChartXml* ChartXml::Terminate() {
@@ -46,11 +82,7 @@ ChartXml::ChartXml() : charts_(chartTableSize) {
   _instance = this;
   dictionary_ = std::make_unique<FacSTDictionary>(
       PathFactory::getPathInstance(stringTables).stringTablePath());
-  try {
-    XMLPlatformUtils::Initialize();
-  } catch (const xercesc::XMLException& exception) {
-    ChartErrorHandler::error(exception);
-  }
+  platform_ = std::make_unique<XmlPlatform>();
   errorHandler_ = std::make_unique<ChartErrorHandler>();
   validator_ =
       std::make_unique<xercesc::SchemaValidator>(nullptr, XMLPlatformUtils::fgMemoryManager);
@@ -67,11 +99,7 @@ ChartXml::~ChartXml() {
   errorHandler_.reset();
   outputTranscoder_.reset();
   localTranscoder_.reset();
-  try {
-    XMLPlatformUtils::Terminate();
-  } catch (const xercesc::XMLException& exception) {
-    ChartErrorHandler::error(exception);
-  }
+  platform_.reset();
   dictionary_.reset();
   dataSource_.reset();
   charts_.clearDeep();
@@ -101,12 +129,12 @@ Chart* ChartXml::findChart(At chart) const {
   return getValidChart(chart.handle, chart.where.file_name(), chart.where.line(), true);
 }
 
+Chart* ChartXml::findSilently(int chart) const { return getValidChart(chart, "", 0, false); }
+
 int ChartXml::CreateChart() {
   auto chart = std::make_unique<Chart>(nextHandle_, stringHandler_.get());
   if (!chart->CreateChart()) return -1;
-  auto key = std::make_unique<ChartKey>(ChartKey::ofHandle(nextHandle_));
-  charts_.put(key.get(), chart.get());
-  static_cast<void>(key.release());
+  if (!putUnderHandle(charts_, nextHandle_, chart.get())) return -1;
   static_cast<void>(chart.release());
   return nextHandle_++;
 }
@@ -130,14 +158,12 @@ std::string ChartXml::GetXmlBuffer(int chart) const {
 int ChartXml::EndChart(int chart) {
   Chart* found = findChart(chart);
   if (!found) return -1;
-  const int result = found->EndChart();
-  removeChart(chart);
-  return result;
+  const AtEnd remove([this, chart] { removeChart(chart); });
+  return found->EndChart();
 }
 
 int ChartXml::KillChart(int chart) {
-  const Where here = Where::current();
-  if (getValidChart(chart, here.file_name(), here.line(), false)) removeChart(chart);
+  if (findSilently(chart)) removeChart(chart);
   return 0;
 }
 
@@ -213,7 +239,12 @@ int ChartXml::SetProcedure(int chart, const std::string& procedureName) {
   SetGlobalStringTable(PathFactory::getPathInstance(stringTables).stringTablePath());
   const int result = dictionary_->SetProcedure(procedureName);
   if (chart == -1) return result;
-  if (Chart* found = findChart(chart)) found->AddGraphName(transcode(procedureName).c_str());
+  if (Chart* found = findChart(chart)) {
+    // A name ends at its length, not at a zero character.
+    std::u16string name = transcode(procedureName).text();
+    std::ranges::replace(name, u'\0', u'\uFFFD');
+    found->AddGraphName(name.c_str());
+  }
   return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "../AtEnd.h"
 #include <host/OutputText.h>
 
 ChartString ChartXml::translate(const std::string& key) const {
@@ -110,10 +111,9 @@ int ChartXml::SplitList(const OBS* values, bool name, bool label, bool value, bo
 // The string handler looks at the other source for the time of one label.
 int ChartXml::VariableLabelFromDataSource(KORVA_DataSource* source, int variable) {
   if (!dataSource_) return -1;
+  const AtEnd restore([this] { stringHandler_->SetDataSource(dataSource_.get()); });
   stringHandler_->SetDataSource(source);
-  const int label = VariableLabel(variable);
-  stringHandler_->SetDataSource(dataSource_.get());
-  return label;
+  return VariableLabel(variable);
 }
 
 int ChartXml::VariableLabelFromDataSource(void* procedureHandle,
