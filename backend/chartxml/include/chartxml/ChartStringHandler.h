@@ -4,7 +4,6 @@
 #include <memory>
 #include <source_location>
 #include <string>
-#include <string_view>
 
 #include <chartxml/ChartHashtable.h>
 #include <host/ChartBase.h>
@@ -130,8 +129,6 @@ private:
                                                   std::source_location where, Operation operation);
   int addComposite(OmStringCell pattern);
   std::string variableLabel(const KORVA_Variable& variable) const;
-  std::string formatted(int index, const OBS& value, int moreDecimals,
-                        const std::string& separator) const;
   template <class Visit> void visitSplits(const OBS* values, Visit visit) const;
   void report(const std::string& message, std::source_location where) const;
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ChildOrder.h"
 #include "Nodes.h"
 #include "Placement.h"
 #include <chartxml/Role.h>
@@ -38,14 +39,14 @@ int Chart::addRole(int parent, int variable, const RoleRule& rule, Where where) 
     return -1;
   }
   const std::string role = Role::getString(rule.role);
-  DOMElement* target = acceptedParent(
-      parent, roleParents, "can't add " + role + " to anything but element or position - ", where);
-  if (!target) return -1;
+  DOMElement* target = getElement(parent);
+  if (!target || !isNamedAmong(*target, roleParents)) {
+    report("can't add " + role + " to anything but element or position - " + nameOf(target), where);
+    return -1;
+  }
   DOMElement* bound = getElement(variable);
   if (!bound || !isNamed(*bound, ZephUni::_variable)) {
-    report(role + " requires a variable id reference " +
-               (bound ? host::utf8(bound->getNodeName()) : std::string()),
-           where);
+    report(role + " requires a variable id reference " + nameOf(bound), where);
     return -1;
   }
   DOMElement& node = makeElement(host::utf16(role).c_str());
@@ -137,7 +138,7 @@ int Chart::addStyleByCycle(int element, int variable, const XMLCh* cycle, Where 
   const int handle =
       addStyleBy(element, variable, "can't add styleBy to anything but element ", cycle, where);
   if (handle != -1 && !document_->getElementById(cycle)) {
-    document_->getDocumentElement()->appendChild(addNamedCycle(cycle));
+    childOrder_->append(*document_->getDocumentElement(), *addNamedCycle(cycle));
   }
   return handle;
 }

@@ -1,9 +1,6 @@
 #include <chartxml/Chart.h>
 
-#include <algorithm>
-
 #include <fmt/format.h>
-#include <xercesc/util/XMLString.hpp>
 
 #include "../Report.h"
 #include "Nodes.h"
@@ -12,7 +9,6 @@
 #include <host/Text.h>
 
 using xercesc::DOMElement;
-using xercesc::XMLString;
 
 // The next handle passes too, though no element has it yet: operations meet it as
 // a missing element.
@@ -43,15 +39,16 @@ bool Chart::validDataSource(Where where) const {
 // Reports its own place, not its caller's. A data source that fails to answer
 // must not stop the chart: the index counts as good then.
 bool Chart::validVariable(int index) const {
+  bool valid = false;
   try {
-    if (index >= 0 && validDataSource() && index < dataSource_->ColumnCount()) return true;
-    report(fmt::format("invalid variable index {}", index), Where::current());
-    return false;
+    valid = index >= 0 && validDataSource() && index < dataSource_->ColumnCount();
   } catch (const KorvaGoToCaller&) {
     throw;
   } catch (...) {
-    return true;
+    valid = index >= 0 && dataSource_;
   }
+  if (!valid) report(fmt::format("invalid variable index {}", index), Where::current());
+  return valid;
 }
 
 bool Chart::validVariableList(int list) const {
@@ -73,11 +70,8 @@ bool Chart::validOptionalString(int string, const char* what, Where where) const
 DOMElement* Chart::acceptedParent(int handle, ConstChartStringSet kinds, std::string_view refusal,
                                   Where where) const {
   DOMElement* parent = getElement(handle);
-  const XMLCh* name = parent ? parent->getNodeName() : u"";
-  const bool accepted = std::ranges::any_of(
-      kinds, [name](const XMLCh* kind) { return XMLString::equals(name, kind); });
-  if (accepted) return parent;
-  report(std::string(refusal) + host::utf8(name), where);
+  if (parent && isNamedAmong(*parent, kinds)) return parent;
+  report(std::string(refusal) + nameOf(parent), where);
   return nullptr;
 }
 

@@ -12,10 +12,6 @@ namespace {
 // A scan this short costs less than a look-up.
 constexpr int scanLimit = 12;
 
-bool isIn(const DOMNode& node, ConstChartStringSet names) {
-  return std::ranges::any_of(names, [&](const XMLCh* name) { return isNamed(node, name); });
-}
-
 DOMElement* asElement(DOMNode* node) {
   return node && node->getNodeType() == DOMNode::ELEMENT_NODE ? static_cast<DOMElement*>(node)
                                                               : nullptr;
@@ -27,18 +23,19 @@ void ChildOrder::insert(DOMElement& parent, DOMElement& child, ConstChartStringS
   Firsts* firsts = known(parent);
   if (!firsts) {
     DOMNode* sibling = parent.getFirstChild();
-    for (int seen = 0; sibling && seen < scanLimit; ++seen) {
-      if (isIn(*sibling, before)) break;
+    int seen = 0;
+    while (sibling && seen < scanLimit && !isNamedAmong(*sibling, before)) {
       sibling = sibling->getNextSibling();
+      ++seen;
     }
-    if (!sibling || isIn(*sibling, before)) {
+    if (seen < scanLimit) {
       parent.insertBefore(&child, sibling);
       return;
     }
     firsts = &remember(parent);
   }
   const auto at = std::ranges::find_if(
-      *firsts, [&](const FirstOfName& first) { return isIn(*first.child, before); });
+      *firsts, [&](const FirstOfName& first) { return isNamedAmong(*first.child, before); });
   parent.insertBefore(&child, at == firsts->end() ? nullptr : at->child);
   noteInserted(*firsts, child, at);
 }
@@ -52,7 +49,9 @@ void ChildOrder::remove(DOMElement& child) {
   auto* parent = static_cast<DOMElement*>(child.getParentNode());
   if (Firsts* firsts = known(*parent)) {
     const auto own = findName(*firsts, child.getNodeName());
-    if (--own->count == 0) {
+    if (own == firsts->end()) {
+      firsts_.erase(parent); // it came past this class: told anew on next use
+    } else if (--own->count == 0) {
       firsts->erase(own);
     } else if (own->child == &child) {
       // Rare, and its place in the order may change: told anew on next use.
@@ -60,11 +59,6 @@ void ChildOrder::remove(DOMElement& child) {
     }
   }
   parent->removeChild(&child);
-}
-
-void ChildOrder::removeAll(DOMElement& parent) {
-  firsts_.erase(&parent);
-  ChartBase::removeAllChildren(parent);
 }
 
 DOMElement* ChildOrder::first(const DOMElement& parent, const XMLCh* name) {

@@ -21,7 +21,6 @@ public:
   void insert(xercesc::DOMElement& parent, xercesc::DOMElement& child, ConstChartStringSet before);
   void append(xercesc::DOMElement& parent, xercesc::DOMElement& child);
   void remove(xercesc::DOMElement& child);
-  void removeAll(xercesc::DOMElement& parent);
   /// The first child of that name, or null.
   xercesc::DOMElement* first(const xercesc::DOMElement& parent, const XMLCh* name);
 

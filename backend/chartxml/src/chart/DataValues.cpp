@@ -51,11 +51,11 @@ const VarDataProcessor::_varinfo* Chart::storeOf(int variable) {
   return latestStore_;
 }
 
-void Chart::noteRow(bool stored) {
+void Chart::noteRow(bool stored, Where where) {
   if (stored || lostRowTold_) return;
   lostRowTold_ = true;
   report(fmt::format("a data value outside the rows of chart {} was not stored; the first row "
                      "must be added before the first value",
                      chartHandle_),
-         Where::current());
+         where);
 }

@@ -113,8 +113,8 @@ int Chart::CopyAttributes(int from, int to) {
 }
 
 xercesc::DOMNode* Chart::findNodeById(const xercesc::DOMNodeList& nodes, const XMLCh* id) {
-  for (XMLSize_t i = 0; i < nodes.getLength(); ++i) {
-    xercesc::DOMNode* node = nodes.item(i);
+  // Along the siblings: asking the list for each of its items is quadratic.
+  for (xercesc::DOMNode* node = nodes.item(0); node; node = node->getNextSibling()) {
     if (node->getNodeType() != xercesc::DOMNode::ELEMENT_NODE) continue;
     if (hasValue(*static_cast<DOMElement*>(node), ZephUni::_id, id)) return node;
   }

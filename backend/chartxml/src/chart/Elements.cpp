@@ -41,10 +41,17 @@ int Chart::AddElement(int parent, int type, int suffix) {
 void Chart::appendToStyle(const DOMElement& element, std::u16string_view text) {
   DOMElement* style = document_->getElementById(element.getAttribute(ZephUni::_style));
   if (!style) return;
-  std::u16string value = style->getAttribute(ZephUni::_value);
+  std::u16string& value = styleValues_[style];
   if (!value.empty()) value += _semicolon;
   value += text;
-  style->setAttribute(ZephUni::_value, value.c_str());
+}
+
+// The values grow beside the document and are written when it is read: a style that
+// thousands of elements share would else be copied by each.
+void Chart::writeStyleValues() const {
+  for (const auto& [style, value] : styleValues_) {
+    style->setAttribute(ZephUni::_value, value.c_str());
+  }
 }
 
 int Chart::AddElementGroup(int frame, int suffix) {

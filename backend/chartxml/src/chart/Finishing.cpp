@@ -1,5 +1,6 @@
 #include <chartxml/Chart.h>
 
+#include <algorithm>
 #include <sstream>
 #include <vector>
 
@@ -87,6 +88,7 @@ int Chart::send() {
 
 int Chart::AddStyles() {
   try {
+    writeStyleValues();
     DOMElement& root = *document_->getDocumentElement();
     for (DOMElement* part : {styleContainer_, defaultStyleCycle_, repositoryStyleCycle_}) {
       if (part) childOrder_->append(root, *part);
@@ -124,6 +126,7 @@ void Chart::updateVariableStatistics(ZephVisualization& chart) const {
 }
 
 void Chart::GetXmlBuffer(std::string& buffer, bool printWhiteSpace) const {
+  writeStyleValues();
   ChartPrinter printer;
   printer.setPrintWhiteSpace(printWhiteSpace);
   std::ostringstream text;

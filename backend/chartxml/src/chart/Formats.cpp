@@ -36,8 +36,10 @@ bool isAmong(std::span<const int> types, int type) {
 
 } // namespace
 
-// The variable's meta, made when it has none: there is never more than one.
+// The variable's meta, made when it has none: there is never more than one, and a
+// meta is its own.
 DOMElement& Chart::metaOf(DOMElement& variable) {
+  if (isNamed(variable, _meta)) return variable;
   if (DOMElement* known = childOrder_->first(variable, _meta)) return *known;
   DOMElement& meta = makeElement(_meta);
   place(variable, meta, placement::meta);
@@ -63,16 +65,21 @@ int Chart::AddMetaFormat(DOMElement& variable, int column) {
 }
 
 int Chart::AddMetaFormatFromCode(DOMElement& variable, long packed) {
+  return formatMeta(variable, packed) ? getHandle(&metaOf(variable)) : -1;
+}
+
+bool Chart::formatMeta(DOMElement& variable, long packed) {
   const KORVA_Format format(packed);
   const int type = format.TypeEx();
   if (isAmong(numberTypes, type)) {
-    return AddNumberMeta(variable, type, format.Width(), format.Decimals());
+    addNumberFormat(metaOf(variable), type, format.Decimals());
+    return true;
   }
   if (isAmong(dateTypes, type)) {
     report(fmt::format("display formats of dates and times are not built yet - type {}", type),
            Where::current());
   }
-  return -1;
+  return false;
 }
 
 int Chart::AddNumberMeta(DOMElement& variable, int type, int /*width*/, int decimals) {

@@ -19,7 +19,8 @@ constexpr std::array<const XMLCh*, 6> unstyled{ZephUni::_domain,   ZephUni::_sou
 } // namespace
 
 int Chart::AddIDAttribute(DOMElement& element, const XMLCh* id, bool sharedStyle, Where where) {
-  return validID(id, where) ? giveId(element, id, sharedStyle, where) : -1;
+  const XMLCh* legal = legalText(id, xercesc::XMLString::stringLen(id));
+  return validID(legal, where) ? giveId(element, legal, sharedStyle, where) : -1;
 }
 
 int Chart::AddIDAttribute(DOMElement& element, int stringHandle, Where where) {

@@ -1,10 +1,25 @@
 #pragma once
 
+#include <algorithm>
+#include <span>
+#include <string>
+
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/util/XMLString.hpp>
 
+#include <host/Text.h>
+
 inline bool isNamed(const xercesc::DOMNode& node, const XMLCh* name) {
   return xercesc::XMLString::equals(node.getNodeName(), name);
+}
+
+inline bool isNamedAmong(const xercesc::DOMNode& node, std::span<const XMLCh* const> names) {
+  return std::ranges::any_of(names, [&](const XMLCh* name) { return isNamed(node, name); });
+}
+
+/// The node's name, empty when there is no node.
+inline std::string nameOf(const xercesc::DOMNode* node) {
+  return node ? host::utf8(node->getNodeName()) : std::string();
 }
 
 inline bool hasValue(const xercesc::DOMElement& element, const XMLCh* attribute,
@@ -13,13 +28,21 @@ inline bool hasValue(const xercesc::DOMElement& element, const XMLCh* attribute,
 }
 
 /// Calls `visit` for every element of that name below `root`, in document order,
-/// until it answers true.
+/// until it answers true. However deep the tree, the stack stays flat.
 template <class Visit>
 bool visitDescendants(const xercesc::DOMElement& root, const XMLCh* name, Visit visit) {
-  for (xercesc::DOMElement* child = root.getFirstElementChild(); child;
-       child = child->getNextElementSibling()) {
-    if (isNamed(*child, name) && visit(*child)) return true;
-    if (visitDescendants(*child, name, visit)) return true;
+  const xercesc::DOMElement* const end = &root;
+  xercesc::DOMElement* at = root.getFirstElementChild();
+  while (at) {
+    if (isNamed(*at, name) && visit(*at)) return true;
+    if (xercesc::DOMElement* child = at->getFirstElementChild()) {
+      at = child;
+      continue;
+    }
+    while (at != end && !at->getNextElementSibling()) {
+      at = static_cast<xercesc::DOMElement*>(at->getParentNode());
+    }
+    at = at == end ? nullptr : at->getNextElementSibling();
   }
   return false;
 }

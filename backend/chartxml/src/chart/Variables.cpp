@@ -2,11 +2,12 @@
 
 #include <fmt/format.h>
 
+#include "ChildOrder.h"
+#include "DisplayText.h"
 #include "Nodes.h"
 #include "Placement.h"
 #include "StringHandles.h"
 #include <chartxml/ChartXml.h>
-#include <host/Formatter.h>
 #include <host/Missing.h>
 #include <host/Text.h>
 #include <host/ZephUni.h>
@@ -31,11 +32,9 @@ int Chart::AddVariable(int source, int column, bool categorical) {
   AddIDAttribute(variable, -1);
   AddIDREFAttribute(variable, source, ZephUni::_source);
 
-  DOMElement* meta = nullptr;
-  AddMeta(variable, meta);
-  setCreator(*meta, _external_, _datasource);
+  setCreator(metaOf(variable), _external_, _datasource);
   setFlag(variable, ZephUni::_categorical, categorical);
-  if (!categorical) AddMetaFormat(variable, column);
+  if (!categorical) formatMeta(variable, dataSource_->GetVariable(column).GetFormat());
 
   const int handle = place(*document_->getDocumentElement(), variable, placement::variable);
   variableColumns_.emplace(handle, column);
@@ -115,12 +114,11 @@ int Chart::AddAggregate(int source, int name, bool categorical, int label, int s
   if (domain != -1) AddIDREFAttribute(variable, domain, ZephUni::_domain);
   setFlag(variable, ZephUni::_categorical, categorical);
 
-  DOMElement* meta = nullptr;
-  AddMeta(variable, meta);
+  DOMElement& meta = metaOf(variable);
   if (sourceName == _casenum) {
-    setCreator(*meta, _external_, _system);
+    setCreator(meta, _external_, _system);
   } else if (sourceName != _countname) {
-    setCreator(*meta, _internal_, _aggregate);
+    setCreator(meta, _internal_, _aggregate);
   }
   const int handle = place(*document_->getDocumentElement(), variable, placement::variable);
   mapSourceName(handle, sourceIdOf(*sourceNode), sourceName);
@@ -165,10 +163,6 @@ int Chart::AddRelabels(int variable, int column) {
   if (!target) return -1;
 
   const KORVA_Variable& described = dataSource_->GetVariable(column);
-  int type = 0;
-  int width = 0;
-  int decimals = 0;
-  described.GetFormatEx(type, width, decimals);
   const KORVA_ValueLabelMap& labels = described.GetValueLabels();
   int position = 0;
   const OBS* value = nullptr;
@@ -177,9 +171,10 @@ int Chart::AddRelabels(int variable, int column) {
     if (!label || !*label) continue;
     if (described.GetType() == 0 && value->number == host::systemMissing) continue;
     const ChartString to = ChartXml::GetInstance()->transcode(label);
-    ChartString from = ChartXml::GetInstance()->transcode(
-        formatter::formattedValue(*value, type, width, decimals));
-    if (described.GetType() == 0 && from.isNumber()) from.assignUTF8(asString(value->number));
+    ChartString from = ChartXml::GetInstance()->transcode(displayText(described, *value));
+    if (from.isNumber()) {
+      from.assignUTF8(asString(described.GetType() == 0 ? value->number : from.convertToDouble()));
+    }
     if (isValidXMLString(from) && isValidXMLString(to))
       addRelabel(*target, from.c_str(), to.c_str());
   }
@@ -191,11 +186,8 @@ int Chart::CreateLogVar(int variable) {
   if (!validHandle(variable, "variable")) return -1;
   DOMElement* target = getElement(variable);
   if (!target) return -1;
-  DOMElement* meta = getChildByTagName(*target, _meta);
-  if (!meta) {
-    meta = &makeElement(_meta);
-    append(*target, *meta);
-  }
+  DOMElement* meta = childOrder_->first(*target, _meta);
+  if (!meta) meta = &appendElement(*target, _meta);
   if (!*meta->getAttribute(ZephUni::_description)) {
     meta->setAttribute(ZephUni::_description, ZephUni::_log);
   }

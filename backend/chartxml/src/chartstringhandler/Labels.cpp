@@ -1,8 +1,8 @@
 #include <chartxml/ChartStringHandler.h>
 
-#include <algorithm>
 #include <cstring>
 
+#include "../DisplayText.h"
 #include <chartxml/ChartXml.h>
 #include <host/CodePages.h>
 #include <host/Formatter.h>
@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int maxDecimals = 16;
 constexpr int meanDecimals = 2;
 constexpr auto missingValueKey = "E60712";
 
@@ -49,26 +48,18 @@ std::string ChartStringHandler::variableLabel(const KORVA_Variable& variable) co
   return {begin, static_cast<std::size_t>(length)};
 }
 
-std::string ChartStringHandler::formatted(int index, const OBS& value, int moreDecimals,
-                                          const std::string& separator) const {
-  int type = 0;
-  int width = 0;
-  int decimals = 0;
-  dataSource_->GetVariable(index).GetFormatEx(type, width, decimals);
-  if (moreDecimals > 0) decimals = std::min(decimals + moreDecimals, maxDecimals);
-  return formatter::formattedValue(value, type, width, decimals, separator);
-}
-
 int ChartStringHandler::Value(int index, const OBS& value) {
   if (value.number == host::systemMissing) return -1;
   if (!validDataSource() || !validVariable(index)) return -1;
-  return ChartXml::GetInstance()->NStringNoTranslate(formatted(index, value, 0, {}));
+  return ChartXml::GetInstance()->NStringNoTranslate(
+      displayText(dataSource_->GetVariable(index), value));
 }
 
 int ChartStringHandler::MeanValue(int index, const OBS& value) {
   if (value.number == host::systemMissing) return -1;
   if (!validDataSource() || !validVariable(index)) return -1;
-  return ChartXml::GetInstance()->NStringNoTranslate(formatted(index, value, meanDecimals, {}));
+  return ChartXml::GetInstance()->NStringNoTranslate(
+      displayText(dataSource_->GetVariable(index), value, meanDecimals));
 }
 
 // Trailing blanks stay: a label may be followed by another text.
@@ -89,7 +80,8 @@ int ChartStringHandler::ValueObjectLabel(int index, const OBS& value, const std:
   }
   if (!validDataSource() || !validVariable(index)) return -1;
   std::string text = valueLabel(index, value);
-  if (text.empty()) text = formatted(index, value, 0, groupingSeparator());
+  if (text.empty())
+    text = displayText(dataSource_->GetVariable(index), value, 0, groupingSeparator());
   if (maxLength > 0 && text.size() > static_cast<std::size_t>(maxLength)) {
     text = KORVAMBStringTruncate_A(text, maxLength);
   }
@@ -128,7 +120,7 @@ int ChartStringHandler::SplitList(const OBS* values, bool name, bool label, bool
   visitSplits(values, [&](int i, int index, const OBS& cell) {
     const KORVA_Variable& variable = dataSource_->GetVariable(index);
     const std::string itsLabel = variableLabel(variable);
-    const std::string itsValue = formatted(index, cell, 0, {});
+    const std::string itsValue = displayText(dataSource_->GetVariable(index), cell);
     const std::string itsValueLabel = this->valueLabel(index, cell);
     if (i > 0) list += "; ";
     if (name) list += variable.GetName();
