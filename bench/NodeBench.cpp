@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr std::int64_t point = 23;
 constexpr std::int64_t none = -1;
 
 /// An open chart with one frame, and its end.

@@ -92,6 +92,7 @@ void textsCopied(benchmark::State& state) {
   const std::u16string text(label.begin(), label.end());
   for (auto _ : state) {
     std::vector<std::u16string> copies;
+    copies.reserve(10000);
     for (int i = 0; i < 10000; ++i)
       copies.push_back(text);
     state.PauseTiming();

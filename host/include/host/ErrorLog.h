@@ -21,7 +21,7 @@ using ErrorCallback = std::function<void(const ErrorReport&)>;
 /// on standard error, or hands it to the callback when one is set, and keeps it
 /// for takeError. Control characters are shown as "\n", "\x01" on that line. A
 /// report made while the callback runs goes to standard error.
-void reportError(ErrorReport report);
+void reportError(const ErrorReport& report);
 
 /// A report of the host itself, from the caller's place in the code.
 void reportError(std::string message, std::source_location where = std::source_location::current());

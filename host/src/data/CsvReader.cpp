@@ -73,9 +73,8 @@ private:
   }
 
   static void onCell(void* text, std::size_t length, void* self) {
-    static_cast<CsvReader*>(self)->guard([=](CsvReader& reader) {
-      reader.takeCell({static_cast<const char*>(text), length});
-    });
+    static_cast<CsvReader*>(self)->guard(
+        [=](CsvReader& reader) { reader.takeCell({static_cast<const char*>(text), length}); });
   }
   static void onRowEnd(int terminator, void* self) {
     static_cast<CsvReader*>(self)->guard([=](CsvReader& reader) { reader.endLine(terminator); });

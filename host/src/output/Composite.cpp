@@ -29,7 +29,7 @@ struct OmComposite::State {
         where.file_name(), where.line());
   }
 
-  std::string assembled(std::string host::Wording::*wording) const {
+  std::string assembled(std::string host::Wording::* wording) const {
     if (phase == Phase::substituted) return text.*wording;
     return host::assemble(pattern.*wording, parameters, wording);
   }

@@ -78,7 +78,7 @@ std::optional<RepeatList> findRepeatList(std::string_view pattern) {
 
 class Assembler {
 public:
-  explicit Assembler(std::string Wording::*wording) : wording_(wording) {}
+  explicit Assembler(std::string Wording::* wording) : wording_(wording) {}
 
   void append(std::string_view pattern, char sign, Texts parameters) {
     walk(
@@ -113,14 +113,14 @@ private:
     return highest;
   }
 
-  std::string Wording::*wording_;
+  std::string Wording::* wording_;
   std::string text_;
 };
 
 } // namespace
 
 std::string assemble(std::string_view pattern, const PatternParameters& parameters,
-                     std::string Wording::*wording) {
+                     std::string Wording::* wording) {
   Assembler assembler(wording);
   while (const auto list = findRepeatList(pattern)) {
     assembler.append(pattern.substr(0, list->begin), plainSign, parameters.plain);

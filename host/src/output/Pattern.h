@@ -22,6 +22,6 @@ struct PatternParameters {
 /// The text that a pattern makes of its parameters, in the wording named; the
 /// grammar stands with OmComposite. Every pattern makes some text.
 std::string assemble(std::string_view pattern, const PatternParameters& parameters,
-                     std::string Wording::*wording);
+                     std::string Wording::* wording);
 
 } // namespace host

@@ -70,7 +70,7 @@ void appendVisible(std::string& line, char c) {
 
 } // namespace
 
-void reportError(ErrorReport report) {
+void reportError(const ErrorReport& report) {
   keep(report);
   // A report from within the callback must not call it again.
   if (log().callback && !log().inCallback)

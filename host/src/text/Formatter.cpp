@@ -131,7 +131,8 @@ std::string numberText(double value, int code, int width, int decimals,
                        std::string_view separator) {
   if (value == host::systemMissing) return {};
   if (!std::isfinite(value)) {
-    const std::string_view name = std::isnan(value) ? "NaN" : value < 0 ? "-Inf" : "Inf";
+    const std::string_view infinity = value < 0 ? "-Inf" : "Inf";
+    const std::string_view name = std::isnan(value) ? "NaN" : infinity;
     return fits(name, width) ? std::string(name)
                              : std::string(static_cast<std::size_t>(width), '*');
   }

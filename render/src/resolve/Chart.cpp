@@ -117,7 +117,8 @@ const Element* Chart::find(const Node& node) const {
 }
 
 const Dimension* Chart::dimension(std::string_view role) const {
-  return role == "x" ? &x : role == "y" ? &y : nullptr;
+  if (role == "x") return &x;
+  return role == "y" ? &y : nullptr;
 }
 
 Chart resolve(const ChartFolder& folder, Notes& notes) {

@@ -40,7 +40,7 @@ void fitCategories(Dimension& dimension) {
       if (known.insert(category.key).second) dimension.categories.push_back(category);
 }
 
-void fitRange(Dimension& dimension, const Variable* Element::*position, const Chart& chart,
+void fitRange(Dimension& dimension, const Variable* Element::* position, const Chart& chart,
               Notes& notes) {
   double low = std::numeric_limits<double>::infinity();
   double high = -low;
@@ -71,7 +71,7 @@ void fitRange(Dimension& dimension, const Variable* Element::*position, const Ch
 
 } // namespace
 
-void fitDimension(Dimension& dimension, const Variable* Element::*position, Chart& chart,
+void fitDimension(Dimension& dimension, const Variable* Element::* position, Chart& chart,
                   Notes& notes) {
   if (!chart.elements.empty())
     dimension.categorical = (chart.elements.front().*position)->categorical;

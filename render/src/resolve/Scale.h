@@ -8,7 +8,7 @@ namespace render {
 /// variable that `position` names), with the margins of its node. Elements of
 /// another kind of scale than the first cannot share it: they are noted and taken
 /// out of the chart.
-void fitDimension(Dimension& dimension, const Variable* Element::*position, Chart& chart,
+void fitDimension(Dimension& dimension, const Variable* Element::* position, Chart& chart,
                   Notes& notes);
 
 } // namespace render

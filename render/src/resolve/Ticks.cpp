@@ -9,10 +9,10 @@ Ticks ticksWithin(double low, double high, int count) {
   const int power = static_cast<int>(std::floor(std::log10(rough)));
   const double mantissa = rough / std::pow(10.0, power);
   // Between two candidates the geometric mean decides.
-  const double factor = mantissa >= std::sqrt(50.0)   ? 10
-                        : mantissa >= std::sqrt(10.0) ? 5
-                        : mantissa >= std::sqrt(2.0)  ? 2
-                                                      : 1;
+  double factor = 1;
+  if (mantissa >= std::sqrt(2.0)) factor = 2;
+  if (mantissa >= std::sqrt(10.0)) factor = 5;
+  if (mantissa >= std::sqrt(50.0)) factor = 10;
   const int stepPower = factor == 10 ? power + 1 : power;
   const double digit = factor == 10 ? 1 : factor;
 

@@ -58,9 +58,12 @@ void labelCategories(Json& axis, const Dimension& dimension) {
 Json axisOf(const Node& axis, const Dimension& dimension) {
   const bool alongX = dimension.role == "x";
   const bool opposite = axis.attribute("opposite") == "true";
+  const char* nearSide = alongX ? "bottom" : "left";
+  const char* farSide = alongX ? "top" : "right";
+  const char* side = opposite ? farSide : nearSide;
   const Node* ticks = axis.child("majorTicks");
   Json json{{"scale", dimension.role},
-            {"orient", alongX ? (opposite ? "top" : "bottom") : (opposite ? "right" : "left")},
+            {"orient", side},
             {"title",
              wrap(titleOf(axis, dimension), {.width = alongX ? theme::plotWidth : theme::plotHeight,
                                              .fontSize = theme::axisTitleSize,

@@ -119,8 +119,9 @@ private:
                 &second, &used);
     const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month),
                                            std::chrono::day(day)};
-    if (text.empty() || static_cast<std::size_t>(used) != text.size() || !date.ok() || hour > 24 ||
-        minute > 59 || !(second >= 0 && second < 61))
+    const bool isWhole = !text.empty() && static_cast<std::size_t>(used) == text.size();
+    const bool isInMinute = second >= 0 && second < 61;
+    if (!isWhole || !date.ok() || hour > 24 || minute > 59 || !isInMinute)
       fail("a date like 1582-10-14T00:00:00.000");
     at_ = end;
     need("\"");

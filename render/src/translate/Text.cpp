@@ -7,7 +7,7 @@ namespace {
 
 struct Place {
   std::string_view word; ///< in the label's id
-  std::vector<std::string> Parts::*texts;
+  std::vector<std::string> Parts::* texts;
 };
 
 /// In this order: "title" is part of "subtitle".

@@ -35,11 +35,11 @@ struct Context {
 using Translator = void (*)(const Node& node, Context& context);
 
 // One translator a kind of node, each in a file of its own.
-void translateDimension(const Node& dimension, Context& context);
+void translateDimension(const Node& node, Context& context);
 void translateFunction(const Node& guide, Context& context);
 void translateLegend(const Node& legend, Context& context);
-void translateLine(const Node& element, Context& context);
-void translatePoint(const Node& element, Context& context);
+void translateLine(const Node& node, Context& context);
+void translatePoint(const Node& node, Context& context);
 void translateStyle(const Node& style, Context& context);
 void translateText(const Node& label, Context& context);
 

@@ -132,3 +132,70 @@ TEST_F(EntryPoints, AnswerLifeCycleCalls) {
   EXPECT_EQ(cx_terminate_(), 0);
   EXPECT_EQ(cx_terminate_(), 0);
 }
+
+// Arguments of one type are easily swapped: every one here has a value of its own.
+TEST_F(EntryPoints, PassTheirArgumentsInOrder) {
+  Dictionary* dictionary = described({Column("v", "", 0, {5, 8, 0})}, {0});
+  KORVA_FortranDictionary* address = dictionary;
+  void* const* run = reinterpret_cast<void* const*>(&address);
+  const Int c = cx_createchart_(nullptr, run, "p", Int(1));
+  const auto word = [](const char* bytes) { return Int(text(bytes)); };
+  const Int source = cx_addsource_(c);
+  const Int frame = cx_addframe_(c, Int(0), word("f"));
+  const Int v = cx_addvariable_(c, source, Int(1), Int(0));
+  cx_addrelabel_(c, v, word("from"), word("to"));
+  const Int computed =
+      cx_addaggregate_(c, source, Int(17), Int(1), word("label"), word("short"), frame);
+  cx_createlogvar_(c, computed);
+  const Int element = cx_addelement_(c, frame, Int(21), word("e"));
+  const Int position = cx_addposition_(c, element);
+  cx_addx_(c, position, v);
+  cx_addy_(c, position, computed);
+  cx_addz_(c, position, v);
+  cx_addtheta_(c, position, computed);
+  cx_addcolor_(c, element, v);
+  cx_setelementname_(c, element, word("n"));
+  cx_addparam_(c, Int(cx_addstatistic_(c, element, word("m"))), word("name"), word("value"));
+  const Int y = cx_adddimension_(c, frame, Int(2), v);
+  cx_setdimensionupper_(c, y, word("up"));
+  cx_setdimensionlowermapping_(c, y, word("low"));
+  cx_setdimensionuppermargin_(c, y, word("1%"));
+  cx_setdimensionlowermargin_(c, y, word("2%"));
+  const Int axis = cx_addaxis_(c, y, word("a"), Int(1));
+  cx_addmajorticks_(c, axis, word("pos"), Int(0), word("len"), word("angle"), Int(1),
+                    word("delta"));
+  cx_addlabel_(c, axis, word("l"), word("content"));
+  cx_addguide_(c, frame, word("type"), word("g"));
+  cx_addyfunctionofx_(c, frame, word("2*x"), Int(7));
+  const Int labeling = cx_addfacetlabeling_(c, frame);
+  cx_setfacetlabelcellstyle_(c, Int(cx_addfacetlabel_(c, labeling, word("fl"), Int(3), Int(1))),
+                             word("cell"));
+  EXPECT_THAT(takeReports(), IsEmpty());
+  EXPECT_EQ(cx_getdimension_(c, frame, Int(2)), y.value);
+  EXPECT_EQ(cx_getvariableformat_(c, Int(1)), 5 << 16 | 8 << 8);
+  EXPECT_EQ(fragment(0, 0),
+            R"(<graph name="p"><source id="source0"><otherAccess type="object"/></source>)"
+            R"(<variable categorical="false" id="variable2" shortLabel="v" source="source0" )"
+            R"(sourceName="V2"><meta creator="external_datasource"><numberFormat )"
+            R"(minimumFractionDigits="0" minimumIntegerDigits="1" useGrouping="false"/></meta>)"
+            R"(<relabel from="from" to="to"/></variable><variable categorical="true" )"
+            R"(domain="frame_f" id="variable3" label="label" shortLabel="short" source="source0" )"
+            R"(sourceName="V3"><meta creator="internal_aggregate" description="log"/></variable>)"
+            R"(<frame id="frame_f" style="frame_fdefault_style"><facetLabeling><facetLabel )"
+            R"(cellStyle="facetLabel_celldefault_style" id="facetLabel_fl" level="3" )"
+            R"(reverse="true"/></facetLabeling><dimension domain="variable2" )"
+            R"(facetsShareScale="true" lowerMapping="low" lowerMargin="2%" role="y" )"
+            R"(upperMapping="up" upperMargin="1%"><axis baselineStyle="axis_abaselineStyle" )"
+            R"(combineAxisLabels="true" id="axis_a" opposite="true" style="axis_adefault_style">)"
+            R"(<label id="label_l" style="label_ldefault_style">content</label><majorTicks )"
+            R"(delta="delta" labelAngle="angle" length="len" markStyle="axis_amarkStyle" )"
+            R"(position="pos" stagger="true" tickLabelStyle="axis_atickLabelStyle"/></axis>)"
+            R"(</dimension><element id="element_e" name="n" showCollidingLabels="true" )"
+            R"(style="element_edefault_style" type="line"><position><x variable="variable2"/>)"
+            R"(<y variable="variable3"/><theta variable="variable3"/><z variable="variable2"/>)"
+            R"(</position><color variable="variable2"/><statistic method="m"><parameter )"
+            R"(name="name" value="value"/></statistic></element><guide id="guide_g" )"
+            R"(style="guide_gdefault_style" type="type"/><guide id="guide_yFunctionOfX_7" )"
+            R"(style="guide_yFunctionOfX_7default_style" type="function"><parameter name="y" )"
+            R"(value="2*x"/><parameter name="numPoints" value="1000"/></guide></frame></graph>)");
+}

@@ -13,7 +13,7 @@
 namespace {
 
 // The last one is longer than a block of output.
-const std::string texts[] = {"  leading", "trailing  ", "\n",       "a\nb\t\tc",
+const std::string texts[] = {"  leading", "trailing  ", "\n",        "a\nb\t\tc",
                              "a\r\nb\rc", "<&>\"']]>",  "é 日本 😀", std::string(100'000, 'x')};
 
 class ChartPrinterTest : public testing::Test {

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <host/DataSet.h>
 
 #include <fmt/format.h>

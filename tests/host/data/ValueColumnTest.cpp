@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include <gtest/gtest.h>
+
 #include <fmt/format.h>
 
 namespace {

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <host/VarDataProcessor.h>
 
 namespace {

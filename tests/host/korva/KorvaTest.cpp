@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <host/Korva.h>
 
 #include <fmt/format.h>

@@ -2,6 +2,8 @@
 #include <tuple>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include <host/OutputText.h>
 
 #include "OutputTest.h"

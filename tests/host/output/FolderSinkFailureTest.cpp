@@ -1,6 +1,9 @@
 #include <csignal>
 #include <map>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>

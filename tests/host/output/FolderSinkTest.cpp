@@ -1,5 +1,8 @@
 #include <limits>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include <host/ChartError.h>
 #include <host/Missing.h>
 #include <nlohmann/json.hpp>

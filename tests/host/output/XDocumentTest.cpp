@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <host/ChartError.h>
 #include <host/OutputText.h>
 

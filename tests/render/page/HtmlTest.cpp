@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "page/Html.h"
 
 #include <nlohmann/json.hpp>

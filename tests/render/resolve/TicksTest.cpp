@@ -2,6 +2,9 @@
 
 #include <cmath>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 namespace {
 
 using testing::ElementsAre;

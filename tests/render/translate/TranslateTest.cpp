@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <render/Pages.h>
 
 #include "render/support/ChartFolder.h"

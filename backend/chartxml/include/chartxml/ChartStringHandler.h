@@ -127,7 +127,7 @@ private:
   const ChartString* findString(int handle) const;
   template <class Operation> bool changeComposite(int handle, const char* failure,
                                                   std::source_location where, Operation operation);
-  int addComposite(OmStringCell pattern);
+  int addComposite(const OmStringCell& pattern);
   std::string variableLabel(const KORVA_Variable& variable) const;
   template <class Visit> void visitSplits(const OBS* values, Visit visit) const;
   void report(const std::string& message, std::source_location where) const;

@@ -11,10 +11,10 @@ int ChartStringHandler::CompositeString(const std::string& pattern,
                                         const std::string& englishPattern) {
   OmStringCell cell(pattern, 0, 0);
   cell.OriginalValue(englishPattern);
-  return addComposite(std::move(cell));
+  return addComposite(cell);
 }
 
-int ChartStringHandler::addComposite(OmStringCell pattern) {
+int ChartStringHandler::addComposite(const OmStringCell& pattern) {
   composites_.emplace(nextHandle_, std::make_unique<OmComposite>(pattern, nullptr, true));
   return nextHandle_++;
 }
