@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include <fmt/format.h>
 #include <rapidcheck.h>
 #include <xercesc/dom/DOM.hpp>
 
@@ -22,7 +23,7 @@ protected:
     std::string names;
     for (auto* child = parent.getFirstElementChild(); child;
          child = child->getNextElementSibling()) {
-      names += host::utf8(child->getNodeName()) + " ";
+      names.append(host::utf8(child->getNodeName())).append(" ");
     }
     return names;
   }
@@ -69,7 +70,7 @@ TEST_F(Placement, PutsEachNodeBeforeTheNamesOfItsSet) {
       const int added = c.add(made.mapElement(&parent));
       ASSERT_GE(added, 0) << c.parent;
       const std::string own = host::utf8(made.getElement(added)->getNodeName());
-      EXPECT_EQ(childNames(parent), "other " + own + " " + name + " other ");
+      EXPECT_EQ(childNames(parent), fmt::format("other {} {} other ", own, name));
     }
     DOMElement& parent = loose(c.parent);
     parent.appendChild(&loose("other"));

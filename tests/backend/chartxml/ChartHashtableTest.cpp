@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -158,6 +159,7 @@ TEST(ChartHashtable, AgreesWithAMapUnderAnySequenceOfCalls) {
     std::vector<int> found = walk(table);
     std::ranges::sort(found);
     std::vector<int> expected;
+    expected.reserve(model.size());
     for (const auto& [handle, value] : model)
       expected.push_back(value);
     RC_ASSERT(found == expected);

@@ -166,7 +166,7 @@ public:
   int AddMeta(xercesc::DOMElement& parent, xercesc::DOMElement*& meta);
   int AddMeta(int variable);
   int AddMetaFormat(xercesc::DOMElement& variable, int column);
-  int AddMetaFormatFromCode(xercesc::DOMElement& variable, long format);
+  int AddMetaFormatFromCode(xercesc::DOMElement& variable, long packed);
   int AddNumberMeta(xercesc::DOMElement& variable, int type, int width, int decimals);
   int AddNumberFormat(int parent);
   int AddNumberFormat(int meta, int type, int width, int decimals);

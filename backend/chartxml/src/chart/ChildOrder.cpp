@@ -49,13 +49,13 @@ void ChildOrder::remove(DOMElement& child) {
   auto* parent = static_cast<DOMElement*>(child.getParentNode());
   if (Firsts* firsts = known(*parent)) {
     const auto own = findName(*firsts, child.getNodeName());
-    if (own == firsts->end()) {
-      firsts_.erase(parent); // it came past this class: told anew on next use
-    } else if (--own->count == 0) {
+    if (own != firsts->end() && own->count == 1) {
       firsts->erase(own);
-    } else if (own->child == &child) {
-      // Rare, and its place in the order may change: told anew on next use.
+    } else if (own == firsts->end() || own->child == &child) {
+      // Rare, and the order may be another then: told anew on next use.
       firsts_.erase(parent);
+    } else {
+      --own->count;
     }
   }
   parent->removeChild(&child);

@@ -3,6 +3,7 @@
 #include <array>
 
 #include <fmt/format.h>
+#include <xercesc/dom/DOMNodeList.hpp>
 #include <xercesc/util/XMLChar.hpp>
 #include <xercesc/util/XMLString.hpp>
 

@@ -1,5 +1,7 @@
 #include <chartxml/Chart.h>
 
+#include <xercesc/dom/DOMText.hpp>
+
 #include "ChildOrder.h"
 #include "Nodes.h"
 #include "Placement.h"
