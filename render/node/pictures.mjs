@@ -1,4 +1,4 @@
-// Draws the specifications of chart folders: chart.svg and chart.png beside
+// Draws the charts of chart folders from their Vega text: chart.svg and chart.png beside
 // chart.vg.json. Reads from standard input, as JSON:
 //   {"folders": ["charts/0001-penguins", …], "svg": true, "png": true}
 // Prints a line per folder; ends with status 1 when one of them failed.

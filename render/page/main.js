@@ -1,4 +1,4 @@
-// The script of every chart page: draws the specification that the page holds.
+// The script of every chart page: draws the Vega chart that the page holds.
 
 import {parse} from 'vega';
 import {drawChart} from './chart.js';
