@@ -8,9 +8,9 @@ namespace host {
 class Converter;
 }
 
-/// Converts between a code page, by its name ("UTF-8", "CP932", ...), and
-/// UTF-16. "CP949" and its like are the Windows pages of that number. A name that
-/// is not known is reported and UTF-8 used.
+/// Converts between a code page and UTF-16. The page is named as ICU names it
+/// ("UTF-8", "ISO-8859-1", "Shift_JIS") or by its Windows number ("CP932", "932",
+/// "65001"). A name that is not known is reported and UTF-8 used.
 class ChartTranscoder {
 public:
   explicit ChartTranscoder(std::string_view codePage);

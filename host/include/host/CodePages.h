@@ -16,8 +16,9 @@ std::string KORVAMBStringTruncate_A(std::string_view text, int maxLength);
 
 namespace host {
 
-/// Sets the process code page by name. False, and no change, for a name that is
-/// not known. A registry that already runs keeps the page it started with.
+/// Sets the process code page by any name that ChartTranscoder takes. False, and no
+/// change, for a name that is not known. A registry that already runs keeps the page
+/// it started with.
 bool setProcessCodePage(std::string_view name);
 
 } // namespace host

@@ -54,11 +54,12 @@ public:
   void BeginRepeatList();
   void EndRepeatList();
   void End();
-  /// Assembles the texts for good; needs End. The parse tree and the flag are
-  /// unused.
+  /// Assembles the texts for good; needs End. Refused when the pattern and what it
+  /// shows come to more than 64 MiB. The parse tree and the flag are unused.
   void Substitute(const void* parseTree, bool);
 
-  /// The assembled text; before Substitute, what the composite has so far.
+  /// The assembled text; before Substitute, what the composite has so far, or
+  /// nothing when that is more than Substitute takes.
   std::string Text() const override;
   std::string EnglishText() const override;
 

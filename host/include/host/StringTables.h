@@ -19,13 +19,15 @@ public:
   static const PathFactory& getPathInstance(int kind);
 
   /// The folder of the compiled string tables: what CHARTXML_STRINGS names, else
-  /// share/chartxml/strings beside the library.
+  /// share/chartxml/strings beside the library. A table is a folder in it, `global` or
+  /// the name of a procedure in lower case, with a bundle of genrb for each language,
+  /// English being root.res, and beside it its checksum: `cksum <de.res >de.res.cksum`.
   std::string stringTablePath() const;
 };
 
 /// The string table: texts by key in the output language of the time when it was
-/// made, with the English text beside them. The tables are read once, a look-up
-/// goes to no file.
+/// made, with the English text beside them. The tables are read once in a process,
+/// a look-up goes to no file.
 class FacSTDictionary {
 public:
   explicit FacSTDictionary(const std::string& path);
@@ -46,7 +48,8 @@ public:
   int SetProcedure(const std::string& name);
 
   /// The folder to read tables from. A folder without tables is reported once and
-  /// changes nothing; so is a table that cannot be read, and English used.
+  /// changes nothing. A table that is missing or damaged is reported once and English
+  /// used, or the keys themselves where that is missing too.
   void SetGlobalStringTable(const std::string& path);
 
 private:

@@ -29,9 +29,19 @@ struct OmComposite::State {
         where.file_name(), where.line());
   }
 
-  std::string assembled(std::string host::Wording::* wording) const {
+  std::string shown(std::string host::Wording::* wording) const {
     if (phase == Phase::substituted) return text.*wording;
-    return host::assemble(pattern.*wording, parameters, wording);
+    return host::assemble(pattern.*wording, parameters, wording).value_or("");
+  }
+
+  std::string assembled(std::string host::Wording::* wording,
+                        std::source_location where = std::source_location::current()) const {
+    auto made = host::assemble(pattern.*wording, parameters, wording);
+    if (made) return *std::move(made);
+    throw ChartException(
+        fmt::format("can't substitute a composite that comes to more than {} bytes",
+                    host::mostAssembled),
+        where.file_name(), where.line());
   }
 };
 
@@ -82,11 +92,12 @@ void OmComposite::End() {
 
 void OmComposite::Substitute(const void* /*parseTree*/, bool) {
   state_->need(State::Phase::ended, "substitute");
-  state_->text = {Text(), EnglishText()};
+  state_->text = {state_->assembled(&host::Wording::display),
+                  state_->assembled(&host::Wording::english)};
   state_->phase = State::Phase::substituted;
   state_->parameters = {};
 }
 
-std::string OmComposite::Text() const { return state_->assembled(&host::Wording::display); }
+std::string OmComposite::Text() const { return state_->shown(&host::Wording::display); }
 
-std::string OmComposite::EnglishText() const { return state_->assembled(&host::Wording::english); }
+std::string OmComposite::EnglishText() const { return state_->shown(&host::Wording::english); }

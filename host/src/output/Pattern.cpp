@@ -4,6 +4,7 @@
 #include <charconv>
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace host {
 namespace {
@@ -81,10 +82,13 @@ public:
   explicit Assembler(std::string Wording::* wording) : wording_(wording) {}
 
   void append(std::string_view pattern, char sign, Texts parameters) {
+    if (!spend(pattern.size() + 1)) return;
     walk(
         pattern, sign, [&](char c) { text_ += c; },
         [&](std::size_t number) {
-          if (number >= 1 && number <= parameters.size()) text_ += parameters[number - 1].*wording_;
+          if (number < 1 || number > parameters.size()) return;
+          const std::string& parameter = parameters[number - 1].*wording_;
+          if (spend(parameter.size())) text_ += parameter;
         });
   }
 
@@ -92,7 +96,7 @@ public:
     const std::size_t length = groupLength(list);
     std::string_view pattern = list.first;
     char sign = firstGroupSign;
-    while (!parameters.empty()) {
+    while (!parameters.empty() && spent_ <= mostAssembled) {
       const Texts group = parameters.first(std::min(length, parameters.size()));
       append(pattern, sign, group);
       parameters = parameters.subspan(group.size());
@@ -101,9 +105,19 @@ public:
     }
   }
 
-  std::string take() { return std::move(text_); }
+  std::optional<std::string> take() {
+    if (spent_ > mostAssembled) return std::nullopt;
+    return std::move(text_);
+  }
 
 private:
+  // A text that parameters repeat can double with every composite that it goes
+  // through: work is counted, so that none takes all memory, or all time.
+  bool spend(std::size_t bytes) {
+    spent_ += bytes;
+    return spent_ <= mostAssembled;
+  }
+
   static std::size_t groupLength(const RepeatList& list) {
     std::size_t highest = 1;
     const auto ignore = [](char) {};
@@ -115,12 +129,13 @@ private:
 
   std::string Wording::* wording_;
   std::string text_;
+  std::size_t spent_ = 0;
 };
 
 } // namespace
 
-std::string assemble(std::string_view pattern, const PatternParameters& parameters,
-                     std::string Wording::* wording) {
+std::optional<std::string> assemble(std::string_view pattern, const PatternParameters& parameters,
+                                    std::string Wording::* wording) {
   Assembler assembler(wording);
   while (const auto list = findRepeatList(pattern)) {
     assembler.append(pattern.substr(0, list->begin), plainSign, parameters.plain);

@@ -4,6 +4,9 @@
 #include <vector>
 
 #include <unicode/ubrk.h>
+#include <unicode/utf16.h>
+
+#include <host/Text.h>
 
 #include "Converter.h"
 
@@ -20,8 +23,10 @@ ProcessPage& processPage() {
   return page;
 }
 
-// Where the character before or at `unit` begins, combined characters taken whole.
+// Where the character that holds `unit` begins, combined characters taken whole.
 std::int32_t characterStart(std::u16string_view text, std::int32_t unit) {
+  // ICU looks for what precedes a second half before the first half.
+  U16_SET_CP_START(text.data(), 0, unit);
   UErrorCode status = U_ZERO_ERROR;
   static const icu::LocalUBreakIteratorPointer characters(
       ubrk_open(UBRK_CHARACTER, "", nullptr, 0, &status));
@@ -65,5 +70,11 @@ bool setProcessCodePage(std::string_view name) {
 }
 
 const Converter& processConverter() { return *processPage().converter; }
+
+std::string processText(std::string utf8) {
+  const Converter& page = processConverter();
+  if (page.isUtf8()) return utf8;
+  return page.encode(utf16(utf8));
+}
 
 } // namespace host

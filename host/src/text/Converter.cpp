@@ -11,16 +11,27 @@ namespace {
 // ICU takes no more than this at a time.
 constexpr std::size_t largestPiece = 1U << 28;
 
-UConverter* openByName(const std::string& name) {
+// The number in "1252", "CP1252", "cp-1252"; nothing in a name that is no number.
+std::string_view pageNumber(std::string_view name) {
+  if (name.size() > 2 && (name[0] == 'C' || name[0] == 'c') && (name[1] == 'P' || name[1] == 'p'))
+    name.remove_prefix(name[2] == '-' || name[2] == '_' ? 3 : 2);
+  return name.find_first_not_of("0123456789") == std::string_view::npos ? name : std::string_view();
+}
+
+UConverter* openIcu(const std::string& name) {
   UErrorCode status = U_ZERO_ERROR;
+  return ucnv_open(name.c_str(), &status);
+}
+
+UConverter* openByName(std::string_view name) {
+  const std::string number(pageNumber(name));
+  if (number.empty()) return openIcu(std::string(name));
+  // The one Windows number of a common page that ICU does not have.
+  if (number == "28591") return openIcu("ISO-8859-1");
   // ICU's own reading of "CP949" and "CP950" is another maker's page, in which
   // the backslash is a won sign.
-  if (name.starts_with("CP") || name.starts_with("cp")) {
-    if (UConverter* windows = ucnv_open(("windows-" + name.substr(2)).c_str(), &status))
-      return windows;
-    status = U_ZERO_ERROR;
-  }
-  return ucnv_open(name.c_str(), &status);
+  UConverter* const windows = openIcu("windows-" + number);
+  return windows ? windows : openIcu("cp" + number);
 }
 
 bool readsAsItself(UConverter* converter, char byte) {
@@ -34,8 +45,10 @@ bool readsAsItself(UConverter* converter, char byte) {
 
 std::unique_ptr<Converter> Converter::open(std::string_view codePage) {
   if (codePage.empty()) return nullptr; // ICU would take its default page
-  icu::LocalUConverterPointer converter(openByName(std::string(codePage)));
+  icu::LocalUConverterPointer converter(openByName(codePage));
   if (converter.isNull()) return nullptr;
+  // X11's compound text takes no substitute: closing ICU's converter crashes after one.
+  if (ucnv_getType(converter.getAlias()) == UCNV_COMPOUND_TEXT) return nullptr;
   return std::unique_ptr<Converter>(new Converter(std::move(converter)));
 }
 

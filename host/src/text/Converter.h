@@ -16,8 +16,8 @@ namespace host {
 /// become U+FFFD, characters that the page does not hold become "?".
 class Converter {
 public:
-  /// The converter of a code page, or null when the name is not known. "CP949"
-  /// and its like are the Windows pages of that number.
+  /// The converter of a code page, or null when the name is not known. "CP949",
+  /// "949" and their like are the Windows pages of that number.
   static std::unique_ptr<Converter> open(std::string_view codePage);
 
   bool isUtf8() const { return isUtf8_; }
@@ -39,5 +39,8 @@ private:
 
 /// The converter of the process code page.
 const Converter& processConverter();
+
+/// A text in UTF-8 as bytes of the process code page.
+std::string processText(std::string utf8);
 
 } // namespace host

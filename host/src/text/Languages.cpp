@@ -27,6 +27,8 @@ std::string& chosenLanguage() {
   return code;
 }
 
+unsigned changes = 0;
+
 bool hasTables(std::string_view code) {
   const Language* language = findLanguage(code);
   if (!language) return false;
@@ -51,8 +53,11 @@ std::string globalTableFile(const std::string& folder, const Language& language)
 bool setOutputLanguage(const std::string& code) {
   if (!code.empty() && !hasTables(code)) return false;
   chosenLanguage() = code;
+  ++changes;
   return true;
 }
+
+unsigned languageChanges() { return changes; }
 
 std::string codePageOfLanguage(const std::string& code) {
   const Language* language = findLanguage(code);

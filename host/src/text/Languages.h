@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include <host/StringTables.h>
 
 namespace host {
 
@@ -17,6 +20,26 @@ inline constexpr std::string_view englishTable = "root";
 
 /// The language of that code, or null; codes are compared exactly.
 const Language* findLanguage(std::string_view code);
+
+/// How often the output language was set so far.
+unsigned languageChanges();
+
+/// What is made of the output language's code: once, and anew when the language was
+/// set. What CHARTXML_LANG names is looked at once.
+template <class Made> class OfOutputLanguage {
+public:
+  template <class Make> const Made& get(Make make) {
+    if (!made_ || changes_ != languageChanges()) {
+      made_.emplace(make(OLang::GetLanguageCode()));
+      changes_ = languageChanges();
+    }
+    return *made_;
+  }
+
+private:
+  std::optional<Made> made_;
+  unsigned changes_ = 0;
+};
 
 /// The compiled global table of a language below a folder of string tables.
 std::string globalTableFile(const std::string& folder, const Language& language);

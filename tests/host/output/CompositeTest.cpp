@@ -1,8 +1,12 @@
+#include <algorithm>
 #include <map>
+#include <string>
+#include <string_view>
 #include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
+#include <rapidcheck.h>
 
 #include <host/OutputText.h>
 
@@ -29,6 +33,16 @@ TEST(Composite, shows_patterns_by_their_grammar) {
       {"\\^1 \\\\ \\[ \\ä ^ ^x 5^", "^1 \\ [ ä ^ ^x 5^"},
       {"end\\", "end\\"},
       {"[%1\\: %2:, ^1\\: ^2:]1", "sex: male, age: 12, height: "},
+      {"[", "["},
+      {"]1:]^1[", "]1:]a["},
+      {"[[%1:^1:]2", "[only"},
+      {"[%1:^1:]2]2", "only]2"},
+      {"[%1:^1]2", "[%1:a]2"},
+      {"[%1:^1::]2", "[%1:a::]2"},
+      {"[%1:^1:] 2", "[%1:a:] 2"},
+      {"[%1:^1:\\]2:]2", "[%1:a:]2:]2"},
+      {"^1%1\\%1", "a%1%1"},
+      {"日[%1→:·^1:]2本", "日only→本"},
       {"(^1) [%1:; ^1:]1.", "(a) sex; male; age; 12; height."},
       {"[%2:/^2:]1", "male/12/"},
       {"[first: later:]1", "first later later later later"},
@@ -53,6 +67,113 @@ TEST(Composite, shows_patterns_by_their_grammar) {
     composite.Substitute(nullptr, true);
     EXPECT_EQ(composite.Text(), text) << pattern;
   }
+}
+
+// Every byte taken literally.
+std::string literal(const std::string& text) {
+  std::string pattern;
+  for (const char c : text)
+    (pattern += '\\') += c;
+  return pattern;
+}
+
+TEST(Composite, repeats_as_by_hand) {
+  using Groups = std::vector<std::pair<std::string, std::string>>;
+  EXPECT_TRUE(rc::check([](const std::string& before, const std::string& between,
+                           const std::string& after, const Groups& groups) {
+    OmComposite composite(cell(literal(before) + "[%1" + literal(between) + "%2:" + //
+                               literal(after) + "^1" + literal(between) + "^2:]1" + literal(after)),
+                          nullptr, true);
+    std::string byHand = before;
+    composite.BeginRepeatList();
+    for (const auto& [first, second] : groups) {
+      if (&first != &groups.front().first) byHand += after;
+      byHand.append(first).append(between).append(second);
+      composite.Add(cell(first));
+      composite.Add(cell(second));
+    }
+    composite.EndRepeatList();
+    RC_ASSERT(composite.Text() == byHand + after);
+    RC_ASSERT(composite.EnglishText() == byHand + after);
+  }));
+}
+
+TEST(Composite, makes_some_text_of_any_pattern) {
+  const auto patterns =
+      rc::gen::container<std::string>(rc::gen::elementOf(std::string("[]:%^\\1290 a[:]")));
+  EXPECT_TRUE(rc::check([&] {
+    const std::string pattern = *patterns;
+    OmComposite composite(cell(pattern), nullptr, true);
+    composite.Add(cell("x"));
+    composite.BeginRepeatList();
+    add(composite, {"y", "z", "y"});
+    composite.EndRepeatList();
+    // Nothing comes out that went in nowhere, and every "a" comes out at least once
+    // where no repeat list is there to hold it back.
+    RC_ASSERT(composite.Text().find_first_not_of(pattern + "xyz") == std::string::npos);
+    if (pattern.find(']') == std::string::npos)
+      RC_ASSERT(std::ranges::count(composite.Text(), 'a') == std::ranges::count(pattern, 'a'));
+  }));
+}
+
+std::string times(std::size_t count, std::string_view text) {
+  std::string all;
+  while (count-- > 0)
+    all += text;
+  return all;
+}
+
+// By the square of the length these would take minutes, and the test be stopped.
+TEST(Composite, takes_time_by_the_length_of_pattern_and_list) {
+  constexpr std::size_t many = 400'000;
+  const struct {
+    std::string pattern, text;
+    std::size_t items = 0;
+  } cases[] = {
+      {times(many, "["), times(many, "[")},
+      {times(many, "[:"), times(many, "[:")},
+      {times(many, "[::]"), times(many, "[::]")},
+      {times(many, "[::]2"), ""},
+      {times(many, "^1"), times(many, "x")},
+      {std::string("^").append(many, '9'), ""},
+      {"[%1:^1:]1", times(many, "y"), many},
+      {std::string("[%").append(many, '9').append(":^1:]1"), "", many},
+  };
+  for (const auto& [pattern, text, items] : cases) {
+    OmComposite composite(cell(pattern), nullptr, true);
+    composite.Add(cell("x"));
+    composite.BeginRepeatList();
+    for (std::size_t i = 0; i < items; ++i)
+      composite.Add(cell("y"));
+    composite.EndRepeatList();
+    EXPECT_TRUE(composite.Text() == text) << pattern.substr(0, 12);
+  }
+}
+
+TEST(Composite, refuses_a_text_that_grows_past_bounds) {
+  const std::pair<int, std::string> cases[] = {
+      {7, "nothing refused"},
+      {8, "can't substitute a composite that comes to more than 67108864 bytes"}};
+  for (const auto& [levels, refusal] : cases) {
+    std::string text = "x";
+    for (int level = 1; level < levels; ++level) {
+      OmComposite composite(cell("^1^1^1^1^1^1^1^1^1^1"), nullptr, true);
+      composite.Add(cell(text));
+      text = composite.Text();
+    }
+    OmComposite last(cell("^1^1^1^1^1^1^1^1^1^1"), nullptr, true);
+    last.Add(cell(text));
+    last.End();
+    EXPECT_EQ(refusalOf([&] { last.Substitute(nullptr, true); }), refusal);
+    EXPECT_EQ(last.Text().size(), refusal == "nothing refused" ? 10'000'000U : 0U);
+  }
+  OmComposite idle(cell(times(20'000, "[::]1")), nullptr, true);
+  idle.BeginRepeatList();
+  for (int i = 0; i < 20'000; ++i)
+    idle.Add(cell(""));
+  idle.EndRepeatList();
+  idle.End();
+  EXPECT_EQ(refusalOf([&] { idle.Substitute(nullptr, true); }), cases[1].second);
 }
 
 TEST(Composite, makes_the_english_text_of_english_parts_where_there_are_any) {
