@@ -9,6 +9,7 @@ module korva
   private
   public :: data_set, text_of_cells, missing_value, take_error
   public :: set_output, set_language, set_bootstrapping
+  public :: set_grouping, set_integer_digits, set_locale, clear_locale, set_currency
 
   !> Bytes of a text that one cell holds.
   integer, parameter, public :: bytes_per_cell = 8
@@ -109,6 +110,39 @@ module korva
     integer(c_int64_t) function korva_setbootstrapping(on) bind(C, name="korva_setbootstrapping_")
       import
       integer(c_int64_t), intent(in) :: on
+    end function
+
+    integer(c_int64_t) function korva_setgrouping(on) bind(C, name="korva_setgrouping_")
+      import
+      integer(c_int64_t), intent(in) :: on
+    end function
+
+    integer(c_int64_t) function korva_setintegerdigits(digits) &
+        bind(C, name="korva_setintegerdigits_")
+      import
+      integer(c_int64_t), intent(in) :: digits
+    end function
+
+    integer(c_int64_t) function korva_setlocale(decimal, decimal_length, grouping, &
+        grouping_length) bind(C, name="korva_setlocale_")
+      import
+      character(kind=c_char), intent(in) :: decimal(*), grouping(*)
+      integer(c_int64_t), intent(in) :: decimal_length, grouping_length
+    end function
+
+    integer(c_int64_t) function korva_clearlocale() bind(C, name="korva_clearlocale_")
+      import
+    end function
+
+    integer(c_int64_t) function korva_setcurrency(number, prefix, prefix_length, suffix, &
+        suffix_length, negative_prefix, negative_prefix_length, negative_suffix, &
+        negative_suffix_length) bind(C, name="korva_setcurrency_")
+      import
+      integer(c_int64_t), intent(in) :: number
+      character(kind=c_char), intent(in) :: prefix(*), suffix(*)
+      character(kind=c_char), intent(in) :: negative_prefix(*), negative_suffix(*)
+      integer(c_int64_t), intent(in) :: prefix_length, suffix_length
+      integer(c_int64_t), intent(in) :: negative_prefix_length, negative_suffix_length
     end function
 
     integer(c_int64_t) function korva_geterror(text, capacity, length) &
@@ -230,6 +264,50 @@ contains
 
     status = korva_setbootstrapping(merge(1_c_int64_t, 0_c_int64_t, on))
   end subroutine
+
+  ! How display texts write numbers
+
+  !> Whether labels of values have their digits grouped; at first they have not.
+  subroutine set_grouping(on)
+    logical, intent(in) :: on
+    integer(c_int64_t) :: status
+
+    status = korva_setgrouping(merge(1_c_int64_t, 0_c_int64_t, on))
+  end subroutine
+
+  !> The digits before the decimal sign at least, 0 to 40; at first 1.
+  logical function set_integer_digits(digits) result(done)
+    integer, intent(in) :: digits
+
+    done = korva_setintegerdigits(int(digits, c_int64_t)) >= 0
+  end function
+
+  !> The signs of numbers, one character each; the grouping sign may be empty. Both
+  !> empty: those of the output language, as at first.
+  logical function set_locale(decimal, grouping) result(done)
+    character(*), intent(in) :: decimal, grouping
+
+    done = korva_setlocale(decimal, length_of(decimal), grouping, length_of(grouping)) >= 0
+  end function
+
+  !> No locale at all: a point, and a comma where digits are grouped.
+  subroutine clear_locale()
+    integer(c_int64_t) :: status
+
+    status = korva_clearlocale()
+  end subroutine
+
+  !> What stands around amounts of custom currency 0 to 4, of display format 33 to 37;
+  !> around one below zero the negative texts stand outside of the others. Blanks count.
+  logical function set_currency(number, prefix, suffix, negative_prefix, negative_suffix) &
+      result(done)
+    integer, intent(in) :: number
+    character(*), intent(in) :: prefix, suffix, negative_prefix, negative_suffix
+
+    done = korva_setcurrency(int(number, c_int64_t), prefix, length_of(prefix), &
+      suffix, length_of(suffix), negative_prefix, length_of(negative_prefix), &
+      negative_suffix, length_of(negative_suffix)) >= 0
+  end function
 
   ! Errors
 

@@ -14,6 +14,7 @@ program data_sets
   call test_refusals
   call test_rows
   call test_closing
+  call test_number_settings
   call finish
 
 contains
@@ -65,6 +66,20 @@ contains
     call expect('a copy does not outlive it', copy%row_count() == -1)
     call expect_error('and that is told', 'not an open data set')
     call copy%close()
+  end subroutine
+
+  subroutine test_number_settings
+    call set_grouping(.true.)
+    call set_grouping(.false.)
+    call expect('integer digits are set', set_integer_digits(1))
+    call expect('too many are refused', .not. set_integer_digits(41))
+    call expect_error('with the reason', 'at least 41 integer digits: it can be 0 to 40')
+    call expect('signs are set', set_locale(',', ''))
+    call clear_locale
+    call expect('signs of the language come back', set_locale('', ''))
+    call expect('a currency is set', set_currency(4, '', ' kr', '-', ''))
+    call expect('a sixth is refused', .not. set_currency(5, '', ' kr', '-', ''))
+    call expect_error('with the reason', 'custom currency 5 out of range (0-4)')
   end subroutine
 
 end program

@@ -28,8 +28,12 @@ public:
 class DataSet final : public KORVA_FortranDictionary {
 public:
   /// Opens a data package (its folder, or its datapackage.json), of which the
-  /// first resource is read, or a CSV file. Of a CSV file without description a
-  /// column is a number when all its cells are numbers, empty or NA.
+  /// first resource is read, or a CSV file. Of a folder datapackage.<language>.json
+  /// is read when there is one for the output language: the same CSV with labels in
+  /// that language. Of a CSV file without description a
+  /// column is a number when all its cells are numbers, empty or NA, and a date when
+  /// all are dates like 2000-01-05, empty or NA. Dates and times are seconds since
+  /// 14 October 1582.
   /// Throws DataError with file, line and field of what is wrong.
   static std::unique_ptr<DataSet> open(const std::filesystem::path& path);
 

@@ -65,6 +65,31 @@ KORVA_API int64_t korva_setlanguage_(const char* code, const int64_t* length);
 /** Any value but 0: a bootstrap run is in progress, charts are not sent. */
 KORVA_API int64_t korva_setbootstrapping_(const int64_t* on);
 
+/* How display texts write numbers, from the call on. */
+
+/** Any value but 0: labels of values have their digits grouped. They have not at
+ *  first, because that would group years too. */
+KORVA_API int64_t korva_setgrouping_(const int64_t* on);
+/** The digits that a number has before its decimal sign at least, 0 to 40; at first
+ *  1. */
+KORVA_API int64_t korva_setintegerdigits_(const int64_t* digits);
+/** The signs of numbers: one printable character each, no digit, not the same; the
+ *  grouping sign may be empty. Both empty: those of the output language, as at
+ *  first. */
+KORVA_API int64_t korva_setlocale_(const char* decimal, const int64_t* decimalLength,
+                                   const char* grouping, const int64_t* groupingLength);
+/** No locale at all: a point, and a comma where digits are grouped. */
+KORVA_API int64_t korva_clearlocale_(void);
+/** What stands around amounts of custom currency `number`, 0 to 4, which display
+ *  formats 33 to 37 show. Around an amount below zero the negative texts stand
+ *  outside of the others; without either of them it has a minus sign. */
+KORVA_API int64_t korva_setcurrency_(const int64_t* number, const char* prefix,
+                                     const int64_t* prefixLength, const char* suffix,
+                                     const int64_t* suffixLength, const char* negativePrefix,
+                                     const int64_t* negativePrefixLength,
+                                     const char* negativeSuffix,
+                                     const int64_t* negativeSuffixLength);
+
 /** Takes the oldest error not yet taken: writes at most `capacity` bytes of its
  *  message, cut at a character, sets `length` to the bytes written and returns 1; 0 when
  *  there is none. */

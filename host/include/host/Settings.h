@@ -1,28 +1,45 @@
 #pragma once
 
 #include <array>
-#include <optional>
+#include <cstdint>
 #include <string>
+#include <utility>
 
-/// System settings shared with the engine.
+/// System settings shared with the engine; the host program may set them at any time.
 struct CmnSys {
-  unsigned optionFlags = 0; ///< bit 0: digit grouping
-  int minimumIntegerDigits = 1;
+  unsigned optionFlags = 0;     ///< bit 0: digit grouping
+  int minimumIntegerDigits = 1; ///< 0 to mostIntegerDigits, the nearer end beyond
+
+  static constexpr int mostIntegerDigits = 40;
 
   bool digitGrouping() const { return (optionFlags & 1U) != 0; }
+  void setDigitGrouping(bool on) { optionFlags = on ? optionFlags | 1U : optionFlags & ~1U; }
 
   static CmnSys& shared();
 };
 
-/// Locale settings shared with the engine; absent until the host program sets
-/// them.
+/// Locale settings shared with the engine: the signs of numbers in display texts.
+/// Texts for machines never follow them.
 struct CmnLoc {
-  std::string groupingSeparator; ///< one character, UTF-8
+  std::string decimalSeparator = "."; ///< one character, UTF-8
+  std::string groupingSeparator;      ///< one character, UTF-8, or empty
 
-  static std::optional<CmnLoc>& shared();
+  /// What set() gave, else the signs of the output language, changing with it; null
+  /// after remove(). The pointer is good until the next call of either.
+  static const CmnLoc* shared();
+
+  /// Sets the program's own signs, whatever the output language. False, and no
+  /// change, unless each is one printable character, no digit, and they differ; the
+  /// grouping sign may be empty.
+  static bool set(CmnLoc own);
+  /// Makes the settings absent: numbers have a point, and a comma where digits are
+  /// grouped.
+  static void remove();
+  /// Goes back to the signs of the output language.
+  static void followLanguage();
 };
 
-/// One of the five custom currencies, 0 to 4.
+/// One of the five custom currencies, 0 to 4; texts in the process code page.
 class customCurrency {
 public:
   customCurrency() = default;
@@ -46,9 +63,10 @@ private:
 class currencyFormat {
 public:
   /// The record of currency `number`, 0 to 4; another number is reported, and the
-  /// record of no currency given or nothing set.
-  static const customCurrency& GetCCX(int number);
-  static void SetCCX(int number, customCurrency currency);
+  /// record of no currency given.
+  static const customCurrency& GetCCX(std::int64_t number);
+  /// Sets the record; another number is reported, false, and nothing set.
+  static bool SetCCX(std::int64_t number, customCurrency currency);
 };
 
 extern "C" {

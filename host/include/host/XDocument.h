@@ -37,11 +37,21 @@ private:
   std::optional<double> value_, min_, max_;
 };
 
-/// One variable of the parsed chart: its attributes, empty when absent, and the
-/// description of its meta.
+/// How the values of a variable are shown: an element of its meta with all that is
+/// in it.
+struct CTFormatType {
+  std::string kind;
+  std::vector<std::pair<std::string, std::string>> attributes;
+  std::vector<CTFormatType> parts;
+};
+
+/// One variable of the parsed chart: its attributes, empty when absent, its value
+/// labels as pairs of value and label, the formats and the description of its meta.
 class CTVariableType {
 public:
   std::string id, sourceName, source, label, shortLabel, categorical;
+  std::vector<std::pair<std::string, std::string>> categories;
+  std::vector<CTFormatType> formats;
 
   const std::string& getDescription() const { return description_; }
   void setDescription(std::string text) { description_ = std::move(text); }

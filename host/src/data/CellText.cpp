@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <charconv>
 
-#include <host/CodePages.h>
-#include <host/Text.h>
-
 namespace host {
 
 std::string_view withoutBlanks(std::string_view text) {
@@ -35,12 +32,6 @@ int decimalsOf(std::string_view number) {
   if (point == std::string_view::npos) return 0;
   const auto end = number.find_first_not_of("0123456789", point + 1);
   return static_cast<int>(std::min(end, number.size()) - point - 1);
-}
-
-bool needsTranscoding() { return KORVAMBDefaultCodePage() != std::string_view("UTF-8"); }
-
-std::string processText(std::string_view utf8) {
-  return needsTranscoding() ? KORVAMBTranscodeGeneric(utf16(utf8)) : std::string(utf8);
 }
 
 } // namespace host

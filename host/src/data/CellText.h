@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -16,11 +15,5 @@ std::errc readNumber(std::string_view text, double& value);
 
 /// The digits after the decimal point of a text that readNumber takes.
 int decimalsOf(std::string_view number);
-
-/// Whether texts of the data side have to be converted on their way in: files
-/// are UTF-8, the process code page may be another one.
-bool needsTranscoding();
-/// A text of a file as bytes of the process code page.
-std::string processText(std::string_view utf8);
 
 } // namespace host

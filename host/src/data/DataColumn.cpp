@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include <fmt/format.h>
 #include <host/Missing.h>
 
 #include "data/CellText.h"
+#include "data/IsoDate.h"
 #include "data/Refusal.h"
+#include "text/Converter.h"
 
 namespace host {
 namespace {
@@ -35,22 +38,37 @@ double booleanOf(std::string_view text) {
   throw Refusal(fmt::format("{} is neither true nor false", shown(text)));
 }
 
+double whatReads(std::optional<double> read, std::string_view text, std::string_view what) {
+  if (!read) throw Refusal(fmt::format("{} is not {}", shown(text), what));
+  return *read;
+}
+
+} // namespace
+
 double valueOf(Field::Type type, std::string_view text) {
   switch (type) {
   case Field::Type::integer:
     return integerOf(text);
   case Field::Type::boolean:
     return booleanOf(text);
+  case Field::Type::date:
+    return whatReads(readDate(text), text, "a date (yyyy-mm-dd)");
+  case Field::Type::dateTime:
+    return whatReads(readDateTime(text), text, "a date and time (yyyy-mm-ddThh:mm:ss)");
+  case Field::Type::time:
+    return whatReads(readTime(text), text, "a time (hh:mm:ss)");
+  case Field::Type::year:
+    return whatReads(readYear(text), text, "a year (yyyy)");
+  case Field::Type::yearMonth:
+    return whatReads(readYearMonth(text), text, "a year and month (yyyy-mm)");
   default:
     return numberOf(text);
   }
 }
 
-} // namespace
-
 DataColumn::DataColumn(Field field)
     : field_(std::move(field)), name_(processText(field_.name)), label_(processText(field_.label)),
-      transcodes_(needsTranscoding()), width_(isText() ? field_.format.width : 0) {}
+      transcodes_(!processConverter().isUtf8()), width_(isText() ? field_.format.width : 0) {}
 
 bool DataColumn::isMissing(std::string_view text) const {
   return std::ranges::find(field_.missingValues, text) != field_.missingValues.end();
@@ -60,7 +78,7 @@ void DataColumn::setCell(std::size_t row, std::string_view utf8) {
   bool stored = false;
   if (isText()) {
     const std::string_view text = isMissing(utf8) ? std::string_view() : utf8;
-    const std::string converted = transcodes_ ? processText(text) : std::string();
+    const std::string converted = transcodes_ ? processText(std::string(text)) : std::string();
     const std::string_view value = transcodes_ ? converted : text;
     width_ = std::max(width_, static_cast<int>(value.size()));
     stored = values_.setText(row, value);

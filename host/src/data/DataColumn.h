@@ -1,6 +1,8 @@
 #pragma once
 
 #include <span>
+#include <string>
+#include <string_view>
 
 #include <host/Data.h>
 #include <host/ValueColumn.h>
@@ -8,6 +10,10 @@
 #include "data/Field.h"
 
 namespace host {
+
+/// The number that a cell of a field of this type, not a text's, stands for. Throws
+/// Refusal.
+double valueOf(Field::Type type, std::string_view text);
 
 /// A column of an open data set: its description and its values.
 class DataColumn final : public KORVA_Variable {

@@ -13,6 +13,7 @@
 #include "data/PackageDescriptor.h"
 #include "data/Refusal.h"
 #include <host/CsvReader.h>
+#include <host/StringTables.h>
 
 namespace host {
 
@@ -67,8 +68,11 @@ private:
 
 PackagedTable locate(const std::filesystem::path& path) {
   std::error_code unknown; // opening the file tells why
-  if (std::filesystem::is_directory(path, unknown))
-    return readDescriptor(path / "datapackage.json");
+  if (std::filesystem::is_directory(path, unknown)) {
+    const auto translated = path / fmt::format("datapackage.{}.json", OLang::GetLanguageCode());
+    const bool isTranslated = std::filesystem::exists(translated, unknown);
+    return readDescriptor(isTranslated ? translated : path / "datapackage.json");
+  }
   if (path.extension() == ".json") return readDescriptor(path);
   return {.csv = path, .fields = {}};
 }

@@ -15,7 +15,7 @@ struct Category {
 
 /// One field as a data package describes it; its texts are UTF-8.
 struct Field {
-  enum class Type { string, number, integer, boolean };
+  enum class Type { string, number, integer, boolean, date, dateTime, time, year, yearMonth };
 
   std::string name;
   std::string label;

@@ -3,42 +3,48 @@
 #include <algorithm>
 
 #include "data/CellText.h"
+#include "data/IsoDate.h"
 #include <host/CsvReader.h>
 
 namespace host {
 namespace {
 
 constexpr int usualWidth = 8; ///< of a number's display
-const std::vector<std::string> missingNumbers = {"", "NA"};
+const std::vector<std::string> missingTexts = {"", "NA"};
 
 /// What the cells of one column have in common so far.
 struct Seen {
   std::string name;
   bool numbers = true;
+  bool dates = true;
   int longest = 0;
   int decimals = 0;
 
   void take(std::string_view cell) {
     longest = std::max(longest, static_cast<int>(cell.size()));
-    if (!numbers) return;
+    if (!numbers && !dates) return;
     const std::string_view text = withoutBlanks(cell);
-    if (std::ranges::find(missingNumbers, text) != missingNumbers.end()) return;
+    if (std::ranges::find(missingTexts, text) != missingTexts.end()) return;
     double value = 0;
-    numbers = readNumber(text, value) == std::errc();
+    numbers = numbers && readNumber(text, value) == std::errc();
+    dates = dates && readDate(text);
     decimals = std::max(decimals, decimalsOf(text));
   }
 
   Field field() const {
-    Field field{.name = name, .label = name};
-    if (numbers) {
-      field.type = Field::Type::number;
-      field.format = {numberFormat, std::clamp(longest, usualWidth, widestNumber),
-                      std::min(decimals, mostDecimals)};
-      field.missingValues = missingNumbers;
-    } else {
-      field.format = {textFormat, longest, 0};
-    }
-    return field;
+    if (numbers)
+      return described(Field::Type::number,
+                       {numberFormat, std::clamp(longest, usualWidth, widestNumber),
+                        std::min(decimals, mostDecimals)},
+                       missingTexts);
+    if (dates) return described(Field::Type::date, usualDate, missingTexts);
+    return described(Field::Type::string, {textFormat, longest, 0}, {""});
+  }
+
+private:
+  Field described(Field::Type type, DisplayFormat format,
+                  const std::vector<std::string>& missing) const {
+    return {.name = name, .label = name, .type = type, .format = format, .missingValues = missing};
   }
 };
 

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "data/DataColumn.h"
 #include "data/JsonFile.h"
 #include "data/Refusal.h"
 
@@ -26,14 +27,25 @@ constexpr TypeRule types[] = {
     {"number", Field::Type::number, {numberFormat, 8, 2}},
     {"integer", Field::Type::integer, {numberFormat, 8, 0}},
     {"boolean", Field::Type::boolean, {numberFormat, 8, 0}},
+    {"date", Field::Type::date, usualDate},
+    {"datetime", Field::Type::dateTime, {22, 20, 0}},
+    {"time", Field::Type::time, {21, 8, 0}},
+    {"year", Field::Type::year, {numberFormat, 8, 0}},
+    {"yearmonth", Field::Type::yearMonth, {28, 8, 0}},
 };
+
+bool isOfDates(Field::Type type) {
+  constexpr Field::Type ofDates[] = {Field::Type::date, Field::Type::dateTime, Field::Type::time,
+                                     Field::Type::year, Field::Type::yearMonth};
+  return std::ranges::find(ofDates, type) != std::end(ofDates);
+}
 
 const TypeRule& typeOf(const json& field) {
   const std::string name = textMember(field, "type", "string");
   const auto* rule = std::ranges::find(types, name, &TypeRule::name);
   if (rule == std::end(types))
-    throw Refusal(fmt::format("the type {} is not supported, only string, number, integer and "
-                              "boolean",
+    throw Refusal(fmt::format("the type {} is not supported, only string, number, integer, "
+                              "boolean, date, datetime, time, year and yearmonth",
                               shown(name)));
   return *rule;
 }
@@ -47,6 +59,9 @@ DisplayFormat formatOf(const json& field, const TypeRule& rule) {
     name = textMember(field, "format", "");
     if (name.empty() || std::ranges::find(standardNames, name) != std::end(standardNames))
       return rule.format;
+    if (isOfDates(rule.type) && (name == "any" || name.find('%') != std::string::npos))
+      throw Refusal(fmt::format("a {} is read in the standard's default form only, not as {}",
+                                rule.name, shown(name)));
   }
   const DisplayFormat format = parseDisplayFormat(name);
   if ((format.type == textFormat) != (rule.type == Field::Type::string))
@@ -66,6 +81,10 @@ Value categoryValue(const json& value, const TypeRule& rule) {
   if (rule.type == Field::Type::boolean && value.is_boolean()) return value.get<bool>() ? 1.0 : 0.0;
   const bool takesNumbers = rule.type == Field::Type::number || rule.type == Field::Type::integer;
   if (takesNumbers && value.is_number()) return value.get<double>();
+  if (rule.type == Field::Type::year && value.is_number_integer())
+    return valueOf(rule.type, value.dump());
+  if (isOfDates(rule.type) && value.is_string())
+    return valueOf(rule.type, value.get<std::string>());
   throw Refusal(fmt::format("the category {} does not go with the type {}", shownJson(value),
                             shown(rule.name)));
 }

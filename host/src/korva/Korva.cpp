@@ -7,17 +7,20 @@
 #include <source_location>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
 #include <host/ChartError.h>
 #include <host/ChartSink.h>
+#include <host/ChartTranscoder.h>
 #include <host/CodePages.h>
 #include <host/DataSet.h>
 #include <host/ErrorLog.h>
 #include <host/Missing.h>
 #include <host/Settings.h>
 #include <host/StringTables.h>
+#include <host/Text.h>
 
 namespace {
 
@@ -59,6 +62,12 @@ std::filesystem::path pathText(const char* characters, const int64_t* length, co
   if (path.find('\0') != std::string::npos)
     throw DataError(fmt::format("the argument {} holds a NUL character", name));
   return path;
+}
+
+/// A text argument in UTF-8, whatever the process code page.
+std::string utf8Text(const char* characters, const int64_t* length, const char* name) {
+  return host::utf8(
+      ChartTranscoder(KORVAMBDefaultCodePage()).transcode(text(characters, length, name)));
 }
 
 DataSet& openDataSet(void** dictionary) {
@@ -198,6 +207,59 @@ int64_t korva_setbootstrapping_(const int64_t* on) {
   return call([&] {
     host::setBootstrapping(argument(on, "on") != 0);
     return 0;
+  });
+}
+
+int64_t korva_setgrouping_(const int64_t* on) {
+  return call([&] {
+    CmnSys::shared().setDigitGrouping(argument(on, "on") != 0);
+    return 0;
+  });
+}
+
+int64_t korva_setintegerdigits_(const int64_t* digits) {
+  return call([&] {
+    const int64_t least = argument(digits, "digits");
+    if (least < 0 || least > CmnSys::mostIntegerDigits)
+      throw DataError(fmt::format("at least {} integer digits: it can be 0 to {}", least,
+                                  CmnSys::mostIntegerDigits));
+    CmnSys::shared().minimumIntegerDigits = static_cast<int>(least);
+    return 0;
+  });
+}
+
+int64_t korva_setlocale_(const char* decimal, const int64_t* decimalLength, const char* grouping,
+                         const int64_t* groupingLength) {
+  return call([&] {
+    const std::string decimalSign = utf8Text(decimal, decimalLength, "decimal");
+    const std::string groupingSign = utf8Text(grouping, groupingLength, "grouping");
+    if (decimalSign.empty() && groupingSign.empty()) {
+      CmnLoc::followLanguage();
+    } else if (!CmnLoc::set({decimalSign, groupingSign})) {
+      throw DataError(
+          fmt::format("the decimal sign \"{}\" and the grouping sign \"{}\": each must be one "
+                      "character, no digit, and they must differ; the grouping sign may be empty",
+                      decimalSign, groupingSign));
+    }
+    return 0;
+  });
+}
+
+int64_t korva_clearlocale_(void) {
+  CmnLoc::remove();
+  return 0;
+}
+
+int64_t korva_setcurrency_(const int64_t* number, const char* prefix, const int64_t* prefixLength,
+                           const char* suffix, const int64_t* suffixLength,
+                           const char* negativePrefix, const int64_t* negativePrefixLength,
+                           const char* negativeSuffix, const int64_t* negativeSuffixLength) {
+  return call([&] {
+    customCurrency currency(text(prefix, prefixLength, "prefix"),
+                            text(suffix, suffixLength, "suffix"),
+                            text(negativePrefix, negativePrefixLength, "negativePrefix"),
+                            text(negativeSuffix, negativeSuffixLength, "negativeSuffix"));
+    return currencyFormat::SetCCX(argument(number, "number"), std::move(currency)) ? 0 : -1;
   });
 }
 

@@ -47,8 +47,15 @@ CTVariableType variableOf(const Attributes& attributes) {
   return variable;
 }
 
-/// Variables are children of the document element, their meta is a child of
-/// theirs; everything else passes by.
+std::vector<std::pair<std::string, std::string>> allOf(const Attributes& attributes) {
+  std::vector<std::pair<std::string, std::string>> all;
+  for (XMLSize_t i = 0; i < attributes.getLength(); ++i)
+    all.emplace_back(utf8(attributes.getLocalName(i)), utf8(attributes.getValue(i)));
+  return all;
+}
+
+/// Variables are children of the document element, their value labels and meta are
+/// children of theirs, formats of the meta; everything else passes by.
 class ChartHandler final : public xercesc::DefaultHandler {
 public:
   explicit ChartHandler(ZephVisualization& chart) : variables_(chart.getSourceVariables()) {}
@@ -63,12 +70,18 @@ public:
       inVariable_ = kind == ZephUni::_variable;
       if (inVariable_) variables_.push_back(variableOf(attributes));
     }
-    if (depth_ == 2 && inVariable_ && kind == u"meta")
-      variables_.back().setDescription(attribute(attributes, ZephUni::_description));
+    if (depth_ == 2 && inVariable_) readChild(kind, attributes);
+    if (depth_ > 2 && !formats_.empty()) {
+      formats_.back()->push_back({utf8(kind), allOf(attributes), {}});
+      formats_.push_back(&formats_.back()->back().parts);
+    }
     ++depth_;
   }
 
-  void endElement(const XMLCh*, const XMLCh*, const XMLCh*) override { --depth_; }
+  void endElement(const XMLCh*, const XMLCh*, const XMLCh*) override {
+    --depth_;
+    if (!formats_.empty()) formats_.pop_back();
+  }
 
   void setDocumentLocator(const xercesc::Locator* locator) override { locator_ = locator; }
 
@@ -82,6 +95,16 @@ public:
   }
 
 private:
+  void readChild(std::u16string_view kind, const Attributes& attributes) {
+    CTVariableType& variable = variables_.back();
+    if (kind == ZephUni::_relabel)
+      variable.categories.emplace_back(attribute(attributes, ZephUni::_from),
+                                       attribute(attributes, ZephUni::_to));
+    if (kind != u"meta") return;
+    variable.setDescription(attribute(attributes, ZephUni::_description));
+    formats_.push_back(&variable.formats);
+  }
+
   template <class Place>
   [[noreturn]] static void refuseAt(const Place& place, std::u16string_view why) {
     refuse(fmt::format("line {}, column {}: {}", place.getLineNumber(), place.getColumnNumber(),
@@ -90,6 +113,7 @@ private:
 
   const xercesc::Locator* locator_ = nullptr;
   std::vector<CTVariableType>& variables_;
+  std::vector<std::vector<CTFormatType>*> formats_; ///< where parts of open elements go
   std::string name_;
   std::size_t depth_ = 0;
   bool inVariable_ = false;

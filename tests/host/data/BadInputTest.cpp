@@ -1,3 +1,7 @@
+#include <map>
+#include <string>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include <host/DataSet.h>
@@ -112,6 +116,40 @@ TEST(DataSet, RefusesCellsThatTheirDescriptionDoesNotAllow) {
   }
 }
 
+TEST(DataSet, RefusesDatesAndTimesThatAreNone) {
+  const std::pair<const char*, std::vector<const char*>> cases[] = {
+      {"date",
+       {"2000-13-01", "2001-02-29", "2000-01-00", "2000-1-05", "2000-01-05x", "20000105",
+        "2000-01-0-", "-200-01-01", "2000/01/05", "0", "2000-01-05T00:00:00"}},
+      {"datetime",
+       {"2000-01-05", "2000-01-05 13:45:30", "2000-01-05T13:45", "2000-01-05T24:00:00",
+        "2000-01-05T13:45:30+", "2000-01-05T13:45:30+25:00", "2000-01-05T13:45:30ZZ",
+        "2000-01-32T13:45:30"}},
+      {"time", {"13:45", "13:60:00", "13:45:60", "13:45:30.", "13:45:30Z", "1:45:30", "13:45:-1"}},
+      {"year", {"200", "20.00", "+2000", "2000-01", "1234567890"}},
+      {"yearmonth", {"2000-00", "2000-13", "2000-1", "2000"}},
+  };
+  const std::map<std::string, const char*> shapes = {
+      {"date", "a date (yyyy-mm-dd)"},
+      {"datetime", "a date and time (yyyy-mm-ddThh:mm:ss)"},
+      {"time", "a time (hh:mm:ss)"},
+      {"year", "a year (yyyy)"},
+      {"yearmonth", "a year and month (yyyy-mm)"},
+  };
+  ScratchFolder folder;
+  for (const auto& [type, texts] : cases) {
+    folder.write("datapackage.json",
+                 fmt::format(R"({{"resources": [{{"path": "t.csv", "schema": {{"fields": [
+                     {{"name": "n", "type": "{}"}}]}}}}]}})",
+                             type));
+    for (const char* text : texts) {
+      folder.write("t.csv", fmt::format("n\n\n{}\n", text));
+      EXPECT_EQ(messageOf(folder, folder.path()),
+                fmt::format("t.csv:3:1: field \"n\": \"{}\" is not {}", text, shapes.at(type)));
+    }
+  }
+}
+
 TEST(DataSet, RefusesADescriptorThatIsNotJsonWithLineAndColumn) {
   const BadText cases[] = {
       {"nothing", "",
@@ -160,8 +198,21 @@ TEST(DataSet, RefusesADescriptorThatDescribesNoTable) {
 TEST(DataSet, RefusesADescriptionOfAFieldWithItsName) {
   const BadText cases[] = {
       {"no name", R"({"type": "number"})", "1: the field has no \"name\""},
-      {"type", R"({"name": "a", "type": "date"})",
-       "\"a\": the type \"date\" is not supported, only string, number, integer and boolean"},
+      {"type", R"({"name": "a", "type": "duration"})",
+       "\"a\": the type \"duration\" is not supported, only string, number, integer, boolean, "
+       "date, datetime, time, year and yearmonth"},
+      {"pattern", R"({"name": "a", "type": "date", "format": "%d.%m.%Y"})",
+       "\"a\": a date is read in the standard's default form only, not as \"%d.%m.%Y\""},
+      {"any form", R"({"name": "a", "type": "time", "format": "any"})",
+       "\"a\": a time is read in the standard's default form only, not as \"any\""},
+      {"date's decimals", R"({"name": "a", "type": "number", "format": "DATE11.2"})",
+       "\"a\": the display format \"DATE11.2\" needs a width of 1 to 40 and 0 to 0 decimals"},
+      {"text by code", R"({"name": "a", "format": "FORMAT1.8"})",
+       "\"a\": the display format \"FORMAT1.8\" is not known"},
+      {"unknown code", R"({"name": "a", "type": "number", "format": "FORMAT41.8"})",
+       "\"a\": the display format \"FORMAT41.8\" is not known"},
+      {"category's date", R"({"name": "a", "type": "date", "categories": ["5"]})",
+       "\"a\": \"5\" is not a date (yyyy-mm-dd)"},
       {"format", R"({"name": "a", "type": "number", "format": "Q8"})",
        "\"a\": the display format \"Q8\" is not known"},
       {"format's shape", R"({"name": "a", "type": "number", "format": "F8.x"})",

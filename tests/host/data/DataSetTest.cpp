@@ -80,34 +80,72 @@ TEST(DataSet, KnowsTheDisplayFormatsByName) {
   ScratchFolder folder;
   std::string fields;
   std::string header;
-  for (const char* format : {"F8.2", "COMMA9.1", "DOLLAR12.2", "PCT5.0", "E12.3", "f3"}) {
+  for (const char* format :
+       {"F8.2",         "COMMA9.1",      "DOLLAR12.2", "PCT5.0",        "E12.3",        "f3",
+        "DATE11",       "TIME8",         "DATETIME20", "NumericDate10", "YEARDAY8",     "DAYTIME13",
+        "WEEKDAY9",     "MONTH9",        "MONTHYEAR8", "QUARTERYEAR8",  "WEEKYEAR10",   "MINUTE9",
+        "DATEMINUTE20", "CURRENCYA12.2", "CURRENCYE9", "FORMAT38.10",   "format40.12.3"}) {
     fields += fmt::format("{}{{\"name\": \"{}\", \"type\": \"number\", \"format\": \"{}\"}}",
                           fields.empty() ? "" : ",", format, format);
-    header += (header.empty() ? "" : ",") + std::string(format);
+    header += fmt::format("{}{}", header.empty() ? "" : ",", format);
   }
   folder.write("t.csv", header);
   const auto data = DataSet::open(folder.write(
       "p.json", R"({"resources": [{"path": "t.csv", "schema": {"fields": [)" + fields + "]}}]}"));
   EXPECT_THAT(columnsOf(*data),
-              testing::ElementsAre("F8.2||0|5:8.2|", "COMMA9.1||0|3:9.1|", "DOLLAR12.2||0|4:12.2|",
-                                   "PCT5.0||0|31:5.0|", "E12.3||0|17:12.3|", "f3||0|5:3.0|"));
+              testing::ElementsAre(
+                  "F8.2||0|5:8.2|", "COMMA9.1||0|3:9.1|", "DOLLAR12.2||0|4:12.2|",
+                  "PCT5.0||0|31:5.0|", "E12.3||0|17:12.3|", "f3||0|5:3.0|", "DATE11||0|20:11.0|",
+                  "TIME8||0|21:8.0|", "DATETIME20||0|22:20.0|", "NumericDate10||0|23:10.0|",
+                  "YEARDAY8||0|24:8.0|", "DAYTIME13||0|25:13.0|", "WEEKDAY9||0|26:9.0|",
+                  "MONTH9||0|27:9.0|", "MONTHYEAR8||0|28:8.0|", "QUARTERYEAR8||0|29:8.0|",
+                  "WEEKYEAR10||0|30:10.0|", "MINUTE9||0|85:9.0|", "DATEMINUTE20||0|86:20.0|",
+                  "CURRENCYA12.2||0|33:12.2|", "CURRENCYE9||0|37:9.0|", "FORMAT38.10||0|38:10.0|",
+                  "format40.12.3||0|40:12.3|"));
+}
+
+TEST(DataSet, ReadsDatesAndTimesAsSecondsOfTheCalendar) {
+  ScratchFolder folder;
+  folder.write("t.csv", "d,dt,t,y,ym\n"
+                        "1582-10-15, 1582-10-14T01:02:03.25Z ,23:59:59,2000,1582-11\n"
+                        "2000-02-29,1582-10-14T01:00:00+02:30,00:00:00.5,-0044,2000-01\n"
+                        ",1582-10-14T22:00:00-02:00,NA,,\n"
+                        ",1582-10-15T00:00:00,NA,,\n");
+  folder.write("datapackage.json",
+               R"({"resources": [{"path": "t.csv", "schema": {"fields": [
+      {"name": "d", "type": "date", "format": "default",
+       "categories": [{"value": "1582-10-15", "label": "first"}]},
+      {"name": "dt", "type": "datetime", "format": "DATETIME23"},
+      {"name": "t", "type": "time", "missingValues": ["NA"]},
+      {"name": "y", "type": "year", "categories": [2000]},
+      {"name": "ym", "type": "yearmonth"}]}}]})");
+  const auto data = DataSet::open(folder.path());
+  EXPECT_THAT(columnsOf(*data),
+              testing::ElementsAre("d||0|20:11.0|86400=first;", "dt||0|22:23.0|", "t||0|21:8.0|",
+                                   "y||0|5:8.0|2000=2000;", "ym||0|28:8.0|"));
+  EXPECT_EQ(rowOf(*data, 0), "(86400)(3723.25)(86399)(2000)(1555200)");
+  EXPECT_EQ(rowOf(*data, 1), "(13171161600)(-5400)(0.5)(-44)(13166064000)");
+  EXPECT_EQ(rowOf(*data, 2), ".(86400)...");
+  EXPECT_EQ(rowOf(*data, 3), ".(86400)...");
 }
 
 TEST(DataSet, InfersTheColumnsOfABareCsv) {
   ScratchFolder folder;
-  const auto data = DataSet::open(folder.write("t.csv", "\xEF\xBB\xBFwhole,part,text,code\r\n"
-                                                        "7, +2.50 ,Gr\xC3\xBC\xC3\x9F"
-                                                        "e,007\r\n"
-                                                        "NA,-1.125e3,,x\r\n"
-                                                        "\r\n"
-                                                        ",.50000000000000000000,\" a\nb\",NA"));
+  const auto data =
+      DataSet::open(folder.write("t.csv", "\xEF\xBB\xBFwhole,part,text,code,day,month\r\n"
+                                          "7, +2.50 ,Gr\xC3\xBC\xC3\x9F"
+                                          "e,007,1582-10-14,1582-10\r\n"
+                                          "NA,-1.125e3,,x,NA,NA\r\n"
+                                          "\r\n"
+                                          ",.50000000000000000000,\" a\nb\",NA, 1582-10-15 ,"));
   EXPECT_THAT(columnsOf(*data), testing::ElementsAre("whole|whole|0|5:8.0|", "part|part|0|5:21.16|",
-                                                     "text|text|7|1:7.0|", "code|code|3|1:3.0|"));
+                                                     "text|text|7|1:7.0|", "code|code|3|1:3.0|",
+                                                     "day|day|0|20:11.0|", "month|month|7|1:7.0|"));
   ASSERT_EQ(data->rowCount(), 3U);
   EXPECT_EQ(rowOf(*data, 0), "(7)(2.5)[Gr\xC3\xBC\xC3\x9F"
-                             "e ][007     ]");
-  EXPECT_EQ(rowOf(*data, 1), ".(-1125)[        ][x       ]");
-  EXPECT_EQ(rowOf(*data, 2), ".(0.5)[ a\nb    ][NA      ]");
+                             "e ][007     ](0)[1582-10 ]");
+  EXPECT_EQ(rowOf(*data, 1), ".(-1125)[        ][x       ].[NA      ]");
+  EXPECT_EQ(rowOf(*data, 2), ".(0.5)[ a\nb    ][NA      ](86400)[        ]");
 }
 
 TEST(DataSet, ReadsAFileOfManyPiecesWithQuotedLineEnds) {

@@ -3,6 +3,7 @@
 #include <host/Korva.h>
 
 #include <fmt/format.h>
+#include <host/CodePages.h>
 #include <host/Data.h>
 #include <host/ErrorLog.h>
 #include <host/Settings.h>
@@ -157,6 +158,63 @@ TEST_F(Korva, SetsTheServicesOfTheHost) {
   EXPECT_EQ(qbootstrapping_() & 1, 1);
   EXPECT_EQ(korva_setbootstrapping_(&off), 0);
   EXPECT_EQ(qbootstrapping_() & 1, 0);
+}
+
+int64_t setLocale(std::string_view decimal, std::string_view grouping) {
+  const auto lengths = std::pair<int64_t, int64_t>(decimal.size(), grouping.size());
+  return korva_setlocale_(decimal.data(), &lengths.first, grouping.data(), &lengths.second);
+}
+
+int64_t setCurrency(int64_t number) {
+  const int64_t one = 1;
+  const int64_t none = -1;
+  return korva_setcurrency_(&number, "$", &one, "", &none, "(", &one, ")", &one);
+}
+
+TEST_F(Korva, SetsHowDisplayTextsWriteNumbers) {
+  const int64_t on = 1;
+  const int64_t off = 0;
+  EXPECT_EQ(korva_setgrouping_(&on), 0);
+  EXPECT_TRUE(CmnSys::shared().digitGrouping());
+  EXPECT_EQ(korva_setgrouping_(&off), 0);
+  EXPECT_FALSE(CmnSys::shared().digitGrouping());
+  EXPECT_EQ(korva_setintegerdigits_(&off), 0);
+  EXPECT_EQ(CmnSys::shared().minimumIntegerDigits, 0);
+  CmnSys::shared() = {};
+
+  host::setProcessCodePage("CP1252");
+  EXPECT_EQ(setLocale(",", "\xA0"), 0);
+  host::setProcessCodePage("UTF-8");
+  EXPECT_EQ(CmnLoc::shared()->decimalSeparator, ",");
+  EXPECT_EQ(CmnLoc::shared()->groupingSeparator, "\u00A0");
+  EXPECT_EQ(korva_clearlocale_(), 0);
+  EXPECT_EQ(CmnLoc::shared(), nullptr);
+  EXPECT_EQ(setLocale("", ""), 0);
+  EXPECT_EQ(CmnLoc::shared()->decimalSeparator, ".");
+
+  EXPECT_EQ(setCurrency(4), 0);
+  EXPECT_EQ(currencyFormat::GetCCX(4).getPrefix(), "$");
+  EXPECT_EQ(currencyFormat::GetCCX(4).getSuffix(), "");
+  EXPECT_EQ(currencyFormat::GetCCX(4).getNegativePrefix(), "(");
+  EXPECT_EQ(currencyFormat::GetCCX(4).getNegativeSuffix(), ")");
+  currencyFormat::SetCCX(4, {});
+
+  const int64_t many = 41;
+  const std::pair<int64_t, const char*> refused[] = {
+      {korva_setintegerdigits_(&many), "at least 41 integer digits: it can be 0 to 40"},
+      {setLocale(".", "."),
+       "the decimal sign \".\" and the grouping sign \".\": each must be one character, no digit, "
+       "and they must differ; the grouping sign may be empty"},
+      {setCurrency(5), "custom currency 5 out of range (0-4)"},
+      {setCurrency(int64_t{1} << 32), "custom currency 4294967296 out of range (0-4)"},
+      {korva_setgrouping_(nullptr), "the argument on is null"},
+      {korva_setcurrency_(&on, nullptr, &on, "", &off, "", &off, "", &off),
+       "the argument prefix is null"},
+  };
+  for (const auto& [result, message] : refused) {
+    EXPECT_EQ(result, -1);
+    EXPECT_EQ(error(), message);
+  }
 }
 
 } // namespace
