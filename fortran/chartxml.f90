@@ -36,24 +36,26 @@ module chartxml
   implicit none
   private
   public :: cx_init, cx_createchart, cx_createchartex, cx_createpiechart, cx_setcharttype, &
-    cx_setcharttemplate, cx_setchartdescription, cx_createchartdescription, cx_endchart, &
-    cx_killchart, cx_killcharts, cx_terminate, cx_dumpxml, cx_statisticssummary, cx_nstring, &
-    cx_string, cx_nstringnotranslate, cx_compositestring, cx_addparameter, cx_beginrepeat, &
-    cx_endrepeat, cx_endcompositestring, cx_stylestring, cx_integer, cx_ivalue, cx_double, &
-    cx_lrvalue, cx_value, cx_meanvalue, cx_valuelabel, cx_valuelabelshort, cx_objectlabel, &
-    cx_splitlist, cx_splitheader, cx_variablename, cx_variablelabel, &
+    cx_setcharttemplate, cx_setchartdescription, cx_createchartdescription, cx_setsplitcomposite, &
+    cx_endchart, cx_killchart, cx_killcharts, cx_terminate, cx_dumpxml, cx_statisticssummary, &
+    cx_nstring, cx_string, cx_nstringnotranslate, cx_compositestring, cx_addparameter, &
+    cx_beginrepeat, cx_endrepeat, cx_endcompositestring, cx_stylestring, cx_integer, cx_ivalue, &
+    cx_ivalueasstring, cx_double, cx_lrvalue, cx_lrvalueasstring, cx_value, cx_meanvalue, &
+    cx_valuelabel, cx_valuelabelshort, cx_objectlabel, cx_splitlist, cx_splitheader, &
+    cx_splitvariableinfo, cx_weightinfo, cx_variablename, cx_variablelabel, &
     cx_variablelabelfromdictionary, cx_tosk, cx_addsource, cx_addvariable, cx_addaggregate, &
-    cx_getvariableformat, cx_createlogvar, cx_addrelabel, cx_addrelabels, cx_alldatadoubles, &
-    cx_addrow, cx_adddatavalue, cx_adddoubledatavalue, cx_addframe, cx_setframeclipping, &
-    cx_addlabel, cx_addframewithlabel, cx_addfacetlabeling, cx_addfacetlabel, &
-    cx_setfacetlabelcellstyle, cx_addelement, cx_addelementgroup, cx_addxyelementex, &
-    cx_setelementname, cx_addposition, cx_addx, cx_addy, cx_addz, cx_addtheta, cx_addcolor, &
-    cx_addstyleby, cx_addstylebycolor, cx_addstylebypattern, cx_addstylebycolorandpattern, &
-    cx_addstatistic, cx_addparam, cx_adddimension, cx_getdimension, cx_setdimensionuppermargin, &
-    cx_setdimensionlowermargin, cx_setdimensionuppermapping, cx_setdimensionupper, &
-    cx_setdimensionlowermapping, cx_addaxis, cx_addmajorticks, cx_setaxispercent, cx_setlogunsafe, &
-    cx_adddimensionaxis, cx_addxydimension, cx_addxydimensionwithaxis, cx_addguide, &
-    cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, cx_addlegendframe
+    cx_addweightaggregate, cx_getvariableformat, cx_setvariableformat, cx_createlogvar, &
+    cx_addrelabel, cx_addrelabels, cx_alldatadoubles, cx_addrow, cx_adddatavalue, &
+    cx_adddoubledatavalue, cx_addframe, cx_setframeclipping, cx_addlabel, cx_addframewithlabel, &
+    cx_addsplitheaderex, cx_addfacetlabeling, cx_addfacetlabel, cx_setfacetlabelcellstyle, &
+    cx_addelement, cx_addelementgroup, cx_addxyelementex, cx_setelementname, cx_addposition, &
+    cx_addx, cx_addy, cx_addz, cx_addtheta, cx_addcolor, cx_addstyleby, cx_addstylebycolor, &
+    cx_addstylebypattern, cx_addstylebycolorandpattern, cx_addstatistic, cx_addparam, &
+    cx_adddimension, cx_getdimension, cx_setdimensionuppermargin, cx_setdimensionlowermargin, &
+    cx_setdimensionuppermapping, cx_setdimensionupper, cx_setdimensionlowermapping, cx_addaxis, &
+    cx_addmajorticks, cx_setaxispercent, cx_setlogunsafe, cx_adddimensionaxis, cx_addxydimension, &
+    cx_addxydimensionwithaxis, cx_addguide, cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, &
+    cx_addlegendframe
 
   interface
 
@@ -139,6 +141,17 @@ module chartxml
         bind(C, name="cx_createchartdescription_")
       import
       integer(c_int64_t), intent(in) :: chart, description
+    end function
+
+    !> Says which split groups the chart stands for: "label: value, label: value" of the split
+    !> variables goes with the chart. Returns 0, or -1 for an empty text, silently. Reports that
+    !> there are no data.
+    integer(c_int64_t) function cx_setsplitcomposite(chart, split_cells, ignored1) &
+        bind(C, name="cx_setsplitcomposite_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+      type(*), intent(in) :: split_cells(*)
+      integer(c_int64_t), intent(in) :: ignored1
     end function
 
     !> Completes the chart, sends it and forgets it; it is gone also when sending failed. Returns 0.
@@ -267,6 +280,14 @@ module chartxml
       integer(c_int64_t), intent(in) :: ignored, number, format
     end function
 
+    !> Registers the text of a whole number in a display format, as cx_lrvalueasstring_ does.
+    !> Returns the new string handle, or -1 for a format that shows no numbers, silently.
+    integer(c_int64_t) function cx_ivalueasstring(number, format) &
+        bind(C, name="cx_ivalueasstring_")
+      import
+      integer(c_int64_t), intent(in) :: number, format
+    end function
+
     !> Registers the text of a number, as for machines: the shortest that reads back to the same
     !> number. Returns the new string handle, or -1 for the system-missing value, silently.
     integer(c_int64_t) function cx_double(number) bind(C, name="cx_double_")
@@ -279,6 +300,17 @@ module chartxml
     integer(c_int64_t) function cx_lrvalue(ignored, number, format) bind(C, name="cx_lrvalue_")
       import
       integer(c_int64_t), intent(in) :: ignored
+      real(c_double), intent(in) :: number
+      integer(c_int64_t), intent(in) :: format
+    end function
+
+    !> Registers the text of a number in a display format of numbers or dates. In a format of days
+    !> of the week (26) or months (27) a number of up to 86400 is a code: 1 is Sunday or January,
+    !> and codes go round. Returns the new string handle, or -1 for the system-missing value or a
+    !> format that shows no numbers, silently.
+    integer(c_int64_t) function cx_lrvalueasstring(number, format) &
+        bind(C, name="cx_lrvalueasstring_")
+      import
       real(c_double), intent(in) :: number
       integer(c_int64_t), intent(in) :: format
     end function
@@ -350,6 +382,28 @@ module chartxml
       integer(c_int64_t), intent(in) :: ignored1
     end function
 
+    !> Registers a label followed by all split variables and their values. Returns the new string
+    !> handle; the label itself when there are no split variables, or when the words of the string
+    !> table are asked for and the values are not. Reports a bad label; that there are no data.
+    integer(c_int64_t) function cx_splitvariableinfo(ignored, label, split_cells, split_count, &
+        show_name, show_label, show_value, show_value_label, show_splits, keyed) &
+        bind(C, name="cx_splitvariableinfo_")
+      import
+      integer(c_int64_t), intent(in) :: ignored, label
+      type(*), intent(in) :: split_cells(*)
+      integer(c_int64_t), intent(in) :: split_count, show_name, show_label, show_value, &
+        show_value_label, show_splits, keyed
+    end function
+
+    !> Registers the text that names the weight variable. Returns the new string handle, or -1 for a
+    !> number of 0 or less, silently. Reports a variable number out of range; that there are no
+    !> data.
+    integer(c_int64_t) function cx_weightinfo(ignored1, ignored2, weight_number, tells_cases) &
+        bind(C, name="cx_weightinfo_")
+      import
+      integer(c_int64_t), intent(in) :: ignored1, ignored2, weight_number, tells_cases
+    end function
+
     !> Registers a variable's name. Returns the new string handle. Reports a variable number out of
     !> range; that there are no data.
     integer(c_int64_t) function cx_variablename(ignored1, ignored2, variable_number) &
@@ -411,12 +465,27 @@ module chartxml
         domain
     end function
 
+    !> Adds a computed variable that weights cases. Returns the new variable.
+    integer(c_int64_t) function cx_addweightaggregate(chart, source, name, label) &
+        bind(C, name="cx_addweightaggregate_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, name, label
+    end function
+
     !> Tells a variable's display format. Returns the format, packed as type * 65536 + width * 256 +
     !> decimals. Reports a variable number out of range; that there are no data.
     integer(c_int64_t) function cx_getvariableformat(chart, variable_number) &
         bind(C, name="cx_getvariableformat_")
       import
       integer(c_int64_t), intent(in) :: chart, variable_number
+    end function
+
+    !> Replaces a variable's display format; a type that is neither of numbers nor of dates leaves
+    !> none. Returns the variable.
+    integer(c_int64_t) function cx_setvariableformat(chart, variable, packed_format) &
+        bind(C, name="cx_setvariableformat_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, packed_format
     end function
 
     !> Marks a variable for a log scale. Returns the chart argument in every case.
@@ -502,6 +571,16 @@ module chartxml
         content) bind(C, name="cx_addframewithlabel_")
       import
       integer(c_int64_t), intent(in) :: chart, parent, style_kind, style_index, content
+    end function
+
+    !> Adds a frame with the text of cx_splitheader_ as a subtitle. Returns the new frame. Reports
+    !> that there are no data.
+    integer(c_int64_t) function cx_addsplitheaderex(chart, parent, split_cells, ignored1) &
+        bind(C, name="cx_addsplitheaderex_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent
+      type(*), intent(in) :: split_cells(*)
+      integer(c_int64_t), intent(in) :: ignored1
     end function
 
     !> Gives a frame its facet labeling, at most one. Returns the frame's facet labeling, new or

@@ -4,6 +4,7 @@
 namespace strings {
 
 inline constexpr int legend = 15;
+inline constexpr int subtitle = 16;
 inline constexpr int y = 129;
 inline constexpr int casenum = 135;
 inline constexpr int countname = 140;

@@ -1,6 +1,8 @@
 #include "../support/BuilderTest.h"
 
 #include <cstring>
+#include <limits>
+#include <tuple>
 
 #include <host/Missing.h>
 #include <host/Settings.h>
@@ -24,7 +26,7 @@ protected:
   }
   ~Labels() override {
     CmnSys::shared() = {};
-    CmnLoc::shared().reset();
+    CmnLoc::followLanguage();
   }
 
   static std::string read(int string) {
@@ -60,15 +62,66 @@ TEST_F(Labels, ShowValueLabelsElseValues) {
                           "invalid variable index -1"));
 }
 
+TEST_F(Labels, ShowNumbersInAnyFormatAndCodesOfDaysAndMonthsByName) {
+  constexpr double inf = std::numeric_limits<double>::infinity();
+  const auto packed = [](int type, int width = 9) { return type << 16 | width << 8 | 2; };
+  const std::tuple<int, double, const char*> cases[] = {
+      {-1, 0.1, "0.1"},
+      {-1, host::systemMissing, "-1"},
+      {packed(5), host::systemMissing, "-1"},
+      {packed(5), 2.345, "2.35"},
+      {packed(17), 1500, "1.50E+03"},
+      {packed(5), inf, "Inf"},
+      {packed(20), 13166064000, "01-Jan-00"},
+      {packed(26), 1, "Sunday"},
+      {packed(26), 6.9, "Friday"},
+      {packed(26), 7, "Saturday"},
+      {packed(26), 8, "Sunday"},
+      {packed(26), 0, "Saturday"},
+      {packed(26), -1, "Friday"},
+      {packed(26), -7, "Saturday"},
+      {packed(26), -1e300, "Friday"},
+      {packed(26, 3), 2, "Mon"},
+      {packed(26), 86400, "Friday"},
+      {packed(26), 13166064000, "Saturday"},
+      {packed(27), 1, "January"},
+      {packed(27), 12, "December"},
+      {packed(27), 0, "December"},
+      {packed(27), 13, "January"},
+      {packed(27), -1, "November"},
+      {packed(27, 3), 2, "Feb"},
+      {packed(27), 86400, "December"},
+      {packed(27), 86401, "October"},
+      {packed(26), inf, "Inf"},
+      {packed(26), -inf, "-Inf"},
+      {packed(27), std::numeric_limits<double>::quiet_NaN(), "NaN"},
+  };
+  for (const auto& [format, value, expected] : cases) {
+    EXPECT_EQ(read(registry().LRValueAsString(value, format)), expected)
+        << (format >> 16) << " " << value;
+  }
+  for (const int type : {0, 1, 13, 14, 18, 19, 41, 84, 87, 255})
+    EXPECT_EQ(registry().LRValueAsString(1, packed(type)), -1) << type;
+  EXPECT_EQ(registry().LRValueAsString(1, -2), -1);
+  EXPECT_THAT(takeReports(), IsEmpty());
+  ChartStringHandler handler;
+  EXPECT_EQ(handler.formattedStringDate(KORVA_Format(27, 9, 0), 86401), "January")
+      << "a code, whatever its size";
+}
+
 TEST_F(Labels, GroupDigitsAsSystemAndLocaleSay) {
   dictionary->columns[2] = Column("mass", "", 0, {5, 12, 1});
   const OBS mass{.number = 1234567.25};
   EXPECT_EQ(read(registry().ValueLabel(3, mass, -1)), "1234567.2");
   CmnSys::shared().optionFlags = 3;
   EXPECT_EQ(read(registry().ValueLabel(3, mass, -1)), "1,234,567.2");
-  CmnLoc::shared() = CmnLoc{"\u00A0"};
+  CmnLoc::set({".", "\u00A0"});
   EXPECT_EQ(read(registry().ValueLabel(3, mass, -1)), "1 234 567.2");
   EXPECT_EQ(read(registry().Value(3, mass)), "1234567.2") << "values are never grouped";
+  CmnLoc::set({",", "."});
+  EXPECT_EQ(read(registry().ValueLabel(3, mass, -1)), "1.234.567,2");
+  CmnLoc::remove();
+  EXPECT_EQ(read(registry().ValueLabel(3, mass, -1)), "1,234,567.2");
 }
 
 TEST_F(Labels, ListSplitVariablesWithThePartsAskedFor) {
@@ -96,4 +149,11 @@ TEST_F(Labels, HeadSplitGroupsByLabelAndValue) {
   handler.SetDataSource(dictionary);
   EXPECT_EQ(handler.SplitListByPattern(row, composite), -1);
   EXPECT_EQ(handler.BeginRepeat(composite), 0) << "untouched: no list was opened";
+  EXPECT_EQ(read(registry().SplitList(nullptr, true, true, true, true)), "");
+  EXPECT_THAT(takeReports(), IsEmpty()) << "no split variables, no values";
+  dictionary->splits = {0, 7, 1};
+  EXPECT_EQ(read(registry().SplitHeader(row, true)), "Sex: female  ");
+  EXPECT_EQ(read(registry().SplitHeader(nullptr, true)), "");
+  EXPECT_THAT(takeReports(),
+              ElementsAre("invalid variable index 7", "no values of the split variables"));
 }

@@ -119,6 +119,103 @@ TEST_F(EntryPoints, TakeAMissingAddressAsAMissingArgument) {
   EXPECT_THAT(takeReports(), ElementsAre("chart handle (-1) out of range (0-0)"));
 }
 
+class EntryTexts : public EntryPoints {
+protected:
+  EntryTexts() {
+    dictionary->splits = {0, 1};
+    host::writeText("Torgersen", 10, row + 1);
+    chart = cx_createchart_(nullptr, run, "p", Int(1));
+  }
+  static std::string read(std::int64_t string) {
+    return string == -1 ? "-1" : registry().getUTF8String(static_cast<int>(string));
+  }
+
+  Dictionary* dictionary =
+      described({Column("sex", "Sex", 0, {5, 8, 0}), Column("isle", "", 10, {1, 10, 0})}, {0, 1});
+  KORVA_FortranDictionary* address = dictionary;
+  void* const* run = reinterpret_cast<void* const*>(&address);
+  OBS row[3] = {{.number = 2}};
+  Int chart = 0;
+};
+
+TEST_F(EntryTexts, FormatNumbersWithoutAnIgnoredFirstArgument) {
+  const double third = 1.0 / 3;
+  EXPECT_EQ(read(cx_lrvalueasstring_(&third, Int(5 << 16 | 8 << 8 | 3))), "0.333");
+  EXPECT_EQ(read(cx_ivalueasstring_(Int(-7), Int(5 << 16 | 8 << 8 | 1))), "-7.0");
+  EXPECT_EQ(read(cx_ivalueasstring_(Int(7), nullptr)), "7") << "as for machines";
+  EXPECT_EQ(read(cx_ivalue_(Int(0), Int(7), Int(5 << 16 | 8 << 8 | 2))), "7.00");
+  EXPECT_EQ(cx_ivalueasstring_(nullptr, Int(-1)), -1);
+  EXPECT_EQ(cx_lrvalueasstring_(nullptr, Int(-1)), -1);
+}
+
+TEST_F(EntryTexts, TellOfWeightsAndSplits) {
+  EXPECT_EQ(read(cx_weightinfo_(Int(0), Int(0), Int(1), Int(1))), "Cases weighted by Sex");
+  EXPECT_EQ(read(cx_weightinfo_(Int(0), Int(0), Int(2), Int(0))), "Weighted by isle");
+  EXPECT_EQ(cx_weightinfo_(nullptr, nullptr, Int(0), Int(1)), -1);
+  EXPECT_EQ(cx_weightinfo_(nullptr, nullptr, Int(-(std::int64_t{1} << 32) + 1), Int(1)), -1)
+      << "all 64 bits count";
+  EXPECT_THAT(takeReports(), IsEmpty());
+  EXPECT_EQ(cx_weightinfo_(nullptr, nullptr, Int(3), Int(1)), -1);
+
+  const int label = text("L");
+  const auto info = [&](std::int64_t of, std::int64_t count, bool show, bool keyed) {
+    return cx_splitvariableinfo_(Int(0), Int(of), row, Int(count), Int(1), Int(0), Int(1), Int(0),
+                                 Int(show), Int(keyed));
+  };
+  const std::string splits = " sex = 2; isle = Torgersen";
+  EXPECT_EQ(info(label, 0, true, true), label);
+  EXPECT_EQ(info(label, -1, true, false), label);
+  EXPECT_EQ(info(label, 2, false, true), label);
+  EXPECT_EQ(info(-1, 2, false, true), -1);
+  const auto keyed = [&](const char* key) { return registry().translate(key).toUTF8(); };
+  const std::string pattern = keyed("E61219^1");
+  const std::size_t place = pattern.find("^1");
+  EXPECT_EQ(read(info(label, 2, true, true)),
+            pattern.substr(0, place) + "L" + pattern.substr(place + 2) + splits);
+  EXPECT_EQ(read(info(label, 2, false, false)), "L ;" + splits);
+  EXPECT_EQ(read(info(-1, 2, true, true)), keyed("E61218") + splits);
+  EXPECT_EQ(read(info(-1, 1, false, false)), ";" + splits);
+  EXPECT_EQ(info(-2, 2, true, true), -1);
+  EXPECT_THAT(takeReports(),
+              ElementsAre("variable index out of range 3 2", "invalid variable index -1",
+                          "parameter handle out of range"));
+}
+
+TEST_F(EntryTexts, FormatAndWeightVariables) {
+  const Int rows = cx_addsource_(chart);
+  const std::int64_t weight = cx_addweightaggregate_(chart, rows, Int(17), Int(text("Weight")));
+  EXPECT_EQ(cx_setvariableformat_(chart, Int(weight), Int(17 << 16)), weight);
+  EXPECT_EQ(cx_setvariableformat_(chart, Int(weight), Int((1LL << 32) + (26 << 16))), weight);
+  EXPECT_EQ(
+      fragment(0, static_cast<int>(weight)),
+      R"(<variable categorical="false" id="variable1" label="Weight" source="source0" )"
+      R"(sourceName="V1"><meta creator="internal_aggregate" weight="true"><dateTimeFormat>)"
+      R"(<dateFormat><dayOfWeek/></dateFormat><timeFormat/></dateTimeFormat></meta></variable>)");
+  EXPECT_EQ(cx_setvariableformat_(chart, rows, Int(5 << 16)), rows.value) << "it has no meta";
+  EXPECT_EQ(cx_addweightaggregate_(chart, rows, Int(17), Int(-2)), -1);
+  EXPECT_EQ(cx_setvariableformat_(chart, Int(99), Int(5 << 16)), -1);
+  EXPECT_THAT(takeReports(),
+              ElementsAre("label handle out of range", "variable handle (99) out of range (0-9)"));
+}
+
+TEST_F(EntryTexts, HeadChartsBySplitGroups) {
+  const std::int64_t frame = cx_addsplitheaderex_(chart, Int(0), row, Int(1));
+  EXPECT_EQ(fragment(0, static_cast<int>(frame)),
+            R"(<frame id="frame_subtitle_1" style="frame_subtitle_1default_style"><label )"
+            R"(id="label_subtitle_1" style="label_subtitle_1default_style">)"
+            R"(Sex: 2, isle: Torgersen</label></frame>)");
+  EXPECT_EQ(cx_addsplitheaderex_(chart, Int(99), row, Int(1)), -1);
+  EXPECT_EQ(cx_setsplitcomposite_(Int(9), row, Int(0)), -1);
+  EXPECT_THAT(takeReports(), ElementsAre("parent handle (99) out of range (0-3)",
+                                         "chart handle (9) out of range (0-1)"));
+  EXPECT_EQ(cx_setsplitcomposite_(chart, nullptr, Int(0)), -1);
+  EXPECT_THAT(takeReports(), ElementsAre("no values of the split variables"));
+  EXPECT_EQ(cx_setsplitcomposite_(chart, row, Int(0)), 0);
+  EXPECT_EQ(cx_endchart_(chart), 0);
+  ASSERT_EQ(sent.size(), 1U);
+  EXPECT_EQ(sent[0].splitHeader, "Sex: 2, isle: Torgersen");
+}
+
 TEST_F(EntryPoints, AnswerLifeCycleCalls) {
   EXPECT_EQ(cx_init_(nullptr, nullptr, "p", Int(1)), 0);
   EXPECT_EQ(cx_createchart_(nullptr, nullptr, "p", Int(1)), 0);
@@ -140,12 +237,12 @@ TEST_F(EntryPoints, PassTheirArgumentsInOrder) {
   void* const* run = reinterpret_cast<void* const*>(&address);
   const Int c = cx_createchart_(nullptr, run, "p", Int(1));
   const auto word = [](const char* bytes) { return Int(text(bytes)); };
-  const Int source = cx_addsource_(c);
+  const Int rows = cx_addsource_(c);
   const Int frame = cx_addframe_(c, Int(0), word("f"));
-  const Int v = cx_addvariable_(c, source, Int(1), Int(0));
+  const Int v = cx_addvariable_(c, rows, Int(1), Int(0));
   cx_addrelabel_(c, v, word("from"), word("to"));
   const Int computed =
-      cx_addaggregate_(c, source, Int(17), Int(1), word("label"), word("short"), frame);
+      cx_addaggregate_(c, rows, Int(17), Int(1), word("label"), word("short"), frame);
   cx_createlogvar_(c, computed);
   const Int element = cx_addelement_(c, frame, Int(21), word("e"));
   const Int position = cx_addposition_(c, element);

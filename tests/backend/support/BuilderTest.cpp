@@ -12,9 +12,10 @@ struct CollectingSink : host::ChartSink {
 
   void send(const host::SentChart& chart) override {
     if (fail) throw ChartException("the sink is full", "sink", 1);
-    sent.push_back({chart.name, chart.xml, chart.description, chart.chartTemplate, {}});
+    sent.push_back(
+        {chart.name, chart.xml, chart.description, chart.splitHeader, chart.chartTemplate, {}});
   }
-  void noteError(const std::string& text) override { sent.push_back({"", "", "", "", {text}}); }
+  void noteError(const std::string& text) override { sent.push_back({.errors = {text}}); }
 
   std::vector<Sent>& sent;
   bool& fail;

@@ -65,8 +65,8 @@ struct Dictionary : KORVA_FortranDictionary {
 
 /// What a chart sent, kept.
 struct Sent {
-  std::string name, xml, description, chartTemplate;
-  std::vector<std::string> errors;
+  std::string name{}, xml{}, description{}, splitHeader{}, chartTemplate{};
+  std::vector<std::string> errors{};
 };
 
 /// A fresh registry for every test; reports and sent charts are collected.

@@ -18,6 +18,9 @@
 #include <host/XDocument.h>
 
 class ChildOrder;
+namespace dates {
+struct Part;
+}
 
 /// Element names, for accepted parents and for placement among siblings.
 using ConstChartStringSet = std::span<const XMLCh* const>;
@@ -80,8 +83,9 @@ public:
   void AddGraphName(const XMLCh* name);
   /// The chart's description, sent beside the document. 0, or -1 when empty.
   int CreateChartDescription(int string);
-  /// The split groups that the chart stands for, sent beside the document.
-  void SetSplitHeader(const ChartString& header) { splitHeader_ = header; }
+  /// The split groups that the chart stands for, sent beside the document. 0, or -1
+  /// when empty.
+  int SetSplitHeader(int string);
 
   // Handles, ids and styles
 
@@ -150,6 +154,8 @@ public:
 
   int AddVariable(int source, int column, bool categorical);
   int AddAggregate(int source, int name, bool categorical, int label, int shortLabel, int domain);
+  /// A computed variable whose meta says that it weights cases.
+  int AddWeightAggregate(int source, int name, int label);
   int AddRelabel(int variable, int from, int to);
   int AddRelabels(int variable, int column);
   int GetVariableFormat(int column) const;
@@ -161,15 +167,37 @@ public:
   int AddDataValue(int source, int variable, int string);
   int AddDoubleDataValue(int source, int variable, double value);
 
-  // Display formats
+  // Display formats; an element is a variable or its meta
 
+  /// The meta of a variable, made when it has none.
   int AddMeta(xercesc::DOMElement& parent, xercesc::DOMElement*& meta);
   int AddMeta(int variable);
+  /// Adds what the column's, or a packed, display format shows to the variable's meta;
+  /// the meta, or -1 for a type that is neither number nor date.
   int AddMetaFormat(xercesc::DOMElement& variable, int column);
   int AddMetaFormatFromCode(xercesc::DOMElement& variable, long packed);
+  /// The same in place of the formats that the meta has.
+  int SetMetaFormat(xercesc::DOMElement& meta, long packed);
+  /// The same with a variable that has a meta; the variable.
+  int SetVariableFormat(int variable, long packed);
+  /// Each answers the meta.
   int AddNumberMeta(xercesc::DOMElement& variable, int type, int width, int decimals);
+  int AddDateMeta(xercesc::DOMElement& variable, int type, int width);
+  int AddStringMeta(xercesc::DOMElement& variable);
+  /// Adds the column's display format to a meta. Returns -1 in every case.
+  int AddFormat(int meta, int column);
+  int SetMetaWeight(int meta, bool weight);
+  /// The first number format below a variable, or -1.
+  int getVariableNumFormat(int variable) const;
+  /// Number formats are added to what the node has, other formats take its place.
   int AddNumberFormat(int parent);
   int AddNumberFormat(int meta, int type, int width, int decimals);
+  int AddStringFormat(int meta);
+  /// 0 for a format of weeks, which has a prefix; -1 for any other, also when made.
+  int AddDateFormat(int meta, int type, int width);
+  /// Appends a format without parts. 0, or -1 when neither prefix nor suffix was set.
+  int AddDateTimeFormat(xercesc::DOMElement& parent, xercesc::DOMElement*& out, int prefix,
+                        int suffix);
   int SetNumberFormatMaxFractionDigits(int numberFormat, int string);
   int SetNumberFormatPrefix(int numberFormat, int string);
   int SetNumberFormatSuffix(int numberFormat, int string);
@@ -276,12 +304,17 @@ private:
   const VarDataProcessor::_varinfo* storeOf(int variable);
   void noteRow(bool stored, Where where = Where::current());
   std::size_t currentRow() const;
+  Element* knownMeta(Element& variable);
   Element& metaOf(Element& variable);
   static void setCreator(Element& meta, const XMLCh* origin, const XMLCh* kind);
   static const XMLCh* sourceIdOf(const Element& sourceOrVariable);
   int addRelabel(Element& variable, const XMLCh* from, const XMLCh* to);
   void addGridLines(Element& ticks, const Element& axis);
   int addNumberFormat(Element& meta, int type, int decimals);
+  int addStringFormat(Element& meta);
+  int addDateFormat(Element& meta, int type, int width);
+  void addDateParts(Element& format, const XMLCh* name, std::span<const dates::Part> parts,
+                    int width);
   static void addCurrency(Element& format, int number);
   int send();
 

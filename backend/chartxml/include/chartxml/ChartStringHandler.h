@@ -100,6 +100,12 @@ public:
   /// A number in a packed display format, or, with format -1, as for machines;
   /// -1 for the system-missing value and for an empty text.
   int LRValue(const double& value, int format);
+  /// The same for more types of format. In a format of days of the week or of months a
+  /// value of up to 86400 is a code: see formattedStringDate.
+  int LRValueAsString(const double& value, int format);
+  /// The name of a day of the week, 1 being Sunday, or else of a month, 1 being January,
+  /// in that format. Codes go round: 8 is Sunday again, and 0 and -7 are Saturday.
+  std::string formattedStringDate(KORVA_Format format, const double& value) const;
 
   // The data source's split variables; `values` are the cells of their values, one
   // after the other
@@ -129,7 +135,9 @@ private:
                                                   std::source_location where, Operation operation);
   int addComposite(const OmStringCell& pattern);
   std::string variableLabel(const KORVA_Variable& variable) const;
-  template <class Visit> void visitSplits(const OBS* values, Visit visit) const;
+  template <class Visit>
+  void visitSplits(const OBS* values, Visit visit,
+                   std::source_location where = std::source_location::current()) const;
   void report(const std::string& message, std::source_location where) const;
 
   int nextHandle_ = 0;

@@ -93,6 +93,7 @@ public:
   int Integer(const int& number);
   int Double(const double& number);
   int LRValue(const double& number, int format);
+  int LRValueAsString(const double& number, int format);
   std::string getUTF8String(int string) const;
   /// The text as a cell of the output system: its cell handle, or -1.
   int ToSK(int string);
@@ -122,6 +123,9 @@ public:
   /// Shows an axis in percent. Its node; also, silently, for a bad chart.
   int SetAxisPercent(int chart, int node, int formatParent);
   int SetChartDescription(int chart, const std::string& text);
+  /// The text of SplitHeader tells which split groups the chart stands for. 0, or -1 also
+  /// when there is nothing to tell.
+  int SetSplitComposite(int chart, const OBS* values, bool);
   /// A value of -1 is refused silently; a value that the chart refuses removes
   /// the whole chart.
   int AddDataValue(int chart, int source, int variable, int value);
@@ -155,13 +159,22 @@ public:
   int AddVariable(int chart, int source, int variable, bool categorical);
   int AddAggregate(int chart, int source, int name, bool categorical, int label, int shortLabel,
                    int domain);
+  int AddWeightAggregate(int chart, int source, int name, int label);
   int AddRelabel(int chart, int variable, int from, int to);
   int AddRelabels(int chart, int node, int variable);
   int GetVariableFormat(int chart, int variable);
   /// A bad chart is answered silently.
   int AddRow(int chart, int source);
 
+  int SetVariableFormat(int chart, int variable, long packed);
+  int AddMeta(int chart, int variable);
+  int AddFormat(int chart, int meta, int column);
+  int SetMetaWeight(int chart, int meta, bool weight);
+  int getVariableNumFormat(int chart, int variable);
+  int AddStringFormat(int chart, int meta);
+  int AddDateFormat(int chart, int meta, int type, int width);
   int AddNumberFormat(int chart, int parent);
+  int AddNumberFormat(int chart, int meta, int type, int width, int decimals);
   int SetNumberFormatMinFractionDigits(int chart, int numberFormat, int digits);
   int SetNumberFormatMaxFractionDigits(int chart, int numberFormat, int string);
   int SetNumberFormatPrefix(int chart, int numberFormat, int string);

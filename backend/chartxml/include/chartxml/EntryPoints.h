@@ -87,6 +87,12 @@ CHARTXML_API int64_t cx_setchartdescription_(const int64_t* chart, const char* t
  *  an empty text, silently. */
 CHARTXML_API int64_t cx_createchartdescription_(const int64_t* chart, const int64_t* description);
 
+/** Says which split groups the chart stands for: "label: value, label: value" of the split
+ *  variables goes with the chart. Returns 0, or -1 for an empty text, silently. Reports that
+ *  there are no data. */
+CHARTXML_API int64_t cx_setsplitcomposite_(const int64_t* chart, const void* splitCells,
+                                           const int64_t* ignored1);
+
 /** Completes the chart, sends it and forgets it; it is gone also when sending failed. Returns 0. */
 CHARTXML_API int64_t cx_endchart_(const int64_t* chart);
 
@@ -157,6 +163,10 @@ CHARTXML_API int64_t cx_integer_(const int64_t* ignored, const int64_t* number);
 CHARTXML_API int64_t cx_ivalue_(const int64_t* ignored, const int64_t* number,
                                 const int64_t* format);
 
+/** Registers the text of a whole number in a display format, as cx_lrvalueasstring_ does.
+ *  Returns the new string handle, or -1 for a format that shows no numbers, silently. */
+CHARTXML_API int64_t cx_ivalueasstring_(const int64_t* number, const int64_t* format);
+
 /** Registers the text of a number, as for machines: the shortest that reads back to the same
  *  number. Returns the new string handle, or -1 for the system-missing value, silently. */
 CHARTXML_API int64_t cx_double_(const double* number);
@@ -165,6 +175,12 @@ CHARTXML_API int64_t cx_double_(const double* number);
  *  the system-missing value, silently. */
 CHARTXML_API int64_t cx_lrvalue_(const int64_t* ignored, const double* number,
                                  const int64_t* format);
+
+/** Registers the text of a number in a display format of numbers or dates. In a format of days
+ *  of the week (26) or months (27) a number of up to 86400 is a code: 1 is Sunday or January,
+ *  and codes go round. Returns the new string handle, or -1 for the system-missing value or a
+ *  format that shows no numbers, silently. */
+CHARTXML_API int64_t cx_lrvalueasstring_(const double* number, const int64_t* format);
 
 /** Registers a value in its variable's display format. Returns the new string handle, or -1 for
  *  the system-missing value, silently. Reports a variable number out of range; that there are no
@@ -201,6 +217,21 @@ CHARTXML_API int64_t cx_splitlist_(const int64_t* ignored1, const void* splitCel
 /** Registers "label: value, label: value" of the split variables. Returns the new string handle.
  *  Reports that there are no data. */
 CHARTXML_API int64_t cx_splitheader_(const void* splitCells, const int64_t* ignored1);
+
+/** Registers a label followed by all split variables and their values. Returns the new string
+ *  handle; the label itself when there are no split variables, or when the words of the string
+ *  table are asked for and the values are not. Reports a bad label; that there are no data. */
+CHARTXML_API int64_t cx_splitvariableinfo_(const int64_t* ignored, const int64_t* label,
+                                           const void* splitCells, const int64_t* splitCount,
+                                           const int64_t* showName, const int64_t* showLabel,
+                                           const int64_t* showValue, const int64_t* showValueLabel,
+                                           const int64_t* showSplits, const int64_t* keyed);
+
+/** Registers the text that names the weight variable. Returns the new string handle, or -1 for a
+ *  number of 0 or less, silently. Reports a variable number out of range; that there are no
+ *  data. */
+CHARTXML_API int64_t cx_weightinfo_(const int64_t* ignored1, const int64_t* ignored2,
+                                    const int64_t* weightNumber, const int64_t* tellsCases);
 
 /** Registers a variable's name. Returns the new string handle. Reports a variable number out of
  *  range; that there are no data. */
@@ -241,9 +272,18 @@ CHARTXML_API int64_t cx_addaggregate_(const int64_t* chart, const int64_t* sourc
                                       const int64_t* label, const int64_t* shortLabel,
                                       const int64_t* domain);
 
+/** Adds a computed variable that weights cases. Returns the new variable. */
+CHARTXML_API int64_t cx_addweightaggregate_(const int64_t* chart, const int64_t* source,
+                                            const int64_t* name, const int64_t* label);
+
 /** Tells a variable's display format. Returns the format, packed as type * 65536 + width * 256 +
  *  decimals. Reports a variable number out of range; that there are no data. */
 CHARTXML_API int64_t cx_getvariableformat_(const int64_t* chart, const int64_t* variableNumber);
+
+/** Replaces a variable's display format; a type that is neither of numbers nor of dates leaves
+ *  none. Returns the variable. */
+CHARTXML_API int64_t cx_setvariableformat_(const int64_t* chart, const int64_t* variable,
+                                           const int64_t* packedFormat);
 
 /** Marks a variable for a log scale. Returns the chart argument in every case. */
 CHARTXML_API int64_t cx_createlogvar_(const int64_t* chart, const int64_t* variable);
@@ -297,6 +337,11 @@ CHARTXML_API int64_t cx_addlabel_(const int64_t* chart, const int64_t* parent,
 CHARTXML_API int64_t cx_addframewithlabel_(const int64_t* chart, const int64_t* parent,
                                            const int64_t* styleKind, const int64_t* styleIndex,
                                            const int64_t* content);
+
+/** Adds a frame with the text of cx_splitheader_ as a subtitle. Returns the new frame. Reports
+ *  that there are no data. */
+CHARTXML_API int64_t cx_addsplitheaderex_(const int64_t* chart, const int64_t* parent,
+                                          const void* splitCells, const int64_t* ignored1);
 
 /** Gives a frame its facet labeling, at most one. Returns the frame's facet labeling, new or
  *  known. Reports a node that is no frame. */

@@ -163,6 +163,11 @@ int Chart::CreateChartDescription(int string) {
   return description_.empty() ? -1 : 0;
 }
 
+int Chart::SetSplitHeader(int string) {
+  splitHeader_ = stringHandler_->getXMLString(string);
+  return splitHeader_.empty() ? -1 : 0;
+}
+
 // Making nodes
 
 DOMElement& Chart::makeElement(const XMLCh* name) { return *document_->createElement(name); }

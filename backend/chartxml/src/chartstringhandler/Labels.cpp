@@ -5,7 +5,6 @@
 #include "../DisplayText.h"
 #include <chartxml/ChartXml.h>
 #include <host/CodePages.h>
-#include <host/Formatter.h>
 #include <host/Missing.h>
 #include <host/Settings.h>
 #include <host/Text.h>
@@ -19,7 +18,7 @@ constexpr auto missingValueKey = "E60712";
 // whose no-break space would keep a label from being wrapped.
 std::string groupingSeparator() {
   if (!CmnSys::shared().digitGrouping()) return {};
-  const auto& locale = CmnLoc::shared();
+  const CmnLoc* locale = CmnLoc::shared();
   if (!locale) return ",";
   if (locale->groupingSeparator == "\u00A0") return " ";
   return KORVAMBTranscodeGeneric(host::utf16(locale->groupingSeparator));
@@ -92,22 +91,18 @@ int ChartStringHandler::ValueObjectLabel(int index, const OBS& value, const std:
   return EndCompositeString(composite);
 }
 
-int ChartStringHandler::LRValue(const double& value, int format) {
-  if (value == host::systemMissing) return -1;
-  if (format == -1) return Double(value);
-  const std::string text = formatter::AsString(value, KORVA_Format(format));
-  return text.empty() ? -1 : ChartXml::GetInstance()->NStringNoTranslate(text);
-}
-
 // Split variables
 
 // Calls `visit` with column and value of each split variable that has one in the
 // row; one that has none takes no cells either.
-template <class Visit> void ChartStringHandler::visitSplits(const OBS* values, Visit visit) const {
-  if (!values) return;
-  for (int i = 0; i < dataSource_->SplitVariableCount(); ++i) {
+template <class Visit> void ChartStringHandler::visitSplits(const OBS* values, Visit visit,
+                                                            std::source_location where) const {
+  const int count = dataSource_->SplitVariableCount();
+  if (!values && count > 0) return report("no values of the split variables", where);
+  for (int i = 0; i < count; ++i) {
     const int index = dataSource_->SplitVariableIndex(i);
     if (index < 0) continue;
+    if (!validVariable(index, where)) return; // where the next value begins is unknown
     visit(i, index, *values);
     values += host::cellsOfWidth(dataSource_->GetVariable(index).GetType());
   }
@@ -120,7 +115,7 @@ int ChartStringHandler::SplitList(const OBS* values, bool name, bool label, bool
   visitSplits(values, [&](int i, int index, const OBS& cell) {
     const KORVA_Variable& variable = dataSource_->GetVariable(index);
     const std::string itsLabel = variableLabel(variable);
-    const std::string itsValue = displayText(dataSource_->GetVariable(index), cell);
+    const std::string itsValue = displayText(variable, cell);
     const std::string itsValueLabel = this->valueLabel(index, cell);
     if (i > 0) list += "; ";
     if (name) list += variable.GetName();

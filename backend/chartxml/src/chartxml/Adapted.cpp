@@ -19,6 +19,13 @@ int ChartXml::SetChartDescription(int chart, const std::string& text) {
   return found ? found->CreateChartDescription(NStringNoTranslate(text)) : -1;
 }
 
+int ChartXml::SetSplitComposite(int chart, const OBS* values, bool unused) {
+  Chart* found = findChart(chart);
+  if (!found) return -1;
+  const int header = SplitHeader(values, unused);
+  return header < 0 ? header : found->SetSplitHeader(header);
+}
+
 // A chart that lost a value would show a wrong picture: it goes as a whole.
 int ChartXml::AddDataValue(int chart, int source, int variable, int value) {
   if (value == -1) return -1;

@@ -41,6 +41,7 @@ template <> struct Argument<bool> {
   static bool read(const std::int64_t* value) { return logical(value); }
 };
 template <> struct Argument<const int&> : Argument<int> {};
+template <> struct Argument<long> : Argument<int> {};
 template <> struct Argument<const double&> {
   static const double& read(const double* value) { return value ? *value : host::systemMissing; }
 };

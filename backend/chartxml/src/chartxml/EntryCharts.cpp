@@ -14,6 +14,9 @@ int64_t cx_setcharttype_(const int64_t* chart, const int64_t* type) {
 int64_t cx_setcharttemplate_(const int64_t* chart, const char* name, const int64_t* nameLength) {
   return call(__func__, &ChartXml::SetChartTemplate, chart, Text{name, nameLength});
 }
+int64_t cx_setsplitcomposite_(const int64_t* chart, const void* values, const int64_t* unused) {
+  return call(__func__, &ChartXml::SetSplitComposite, chart, values, unused);
+}
 int64_t cx_createchartdescription_(const int64_t* chart, const int64_t* string) {
   return call(__func__, &ChartXml::CreateChartDescription, chart, string);
 }
@@ -34,12 +37,20 @@ int64_t cx_addaggregate_(const int64_t* chart, const int64_t* source, const int6
   return call(__func__, &ChartXml::AddAggregate, chart, source, name, categorical, label,
               shortLabel, domain);
 }
+int64_t cx_addweightaggregate_(const int64_t* chart, const int64_t* source, const int64_t* name,
+                               const int64_t* label) {
+  return call(__func__, &ChartXml::AddWeightAggregate, chart, source, name, label);
+}
 int64_t cx_addrelabel_(const int64_t* chart, const int64_t* variable, const int64_t* from,
                        const int64_t* to) {
   return call(__func__, &ChartXml::AddRelabel, chart, variable, from, to);
 }
 int64_t cx_addrelabels_(const int64_t* chart, const int64_t* node, const int64_t* variable) {
   return call(__func__, &ChartXml::AddRelabels, chart, node, variable);
+}
+int64_t cx_setvariableformat_(const int64_t* chart, const int64_t* variable,
+                              const int64_t* format) {
+  return call(__func__, &ChartXml::SetVariableFormat, chart, variable, format);
 }
 int64_t cx_getvariableformat_(const int64_t* chart, const int64_t* variable) {
   return call(__func__, &ChartXml::GetVariableFormat, chart, variable);

@@ -198,6 +198,15 @@ int64_t cx_addframewithlabel_(const int64_t* chart, const int64_t* parent, const
   });
 }
 
+int64_t cx_addsplitheaderex_(const int64_t* chart, const int64_t* parent, const void* values,
+                             const int64_t* unused) {
+  const int64_t header = cx_splitheader_(values, unused);
+  if (header < 0) return header;
+  const int64_t kind = strings::subtitle;
+  const int64_t number = 1;
+  return cx_addframewithlabel_(chart, parent, &kind, &number, &header);
+}
+
 int64_t cx_addxyelementex_(const int64_t* chart, const int64_t* parent,
                            const int64_t* styleArgument, const int64_t* type,
                            const int64_t* xVariable, const int64_t* yVariable,

@@ -10,6 +10,13 @@ namespace {
 /// The length of a label that is not to be shortened.
 constexpr int64_t whole = -1;
 
+int64_t formatWholeNumber(const char* entryPoint, int (ChartXml::*operation)(const double&, int),
+                          const int64_t* number, const int64_t* format) {
+  if (!number) return -1;
+  const double value = integer(number);
+  return call(entryPoint, operation, &value, format);
+}
+
 } // namespace
 
 int64_t cx_nstring_(const int64_t*, const char* key, const int64_t* keyLength) {
@@ -74,16 +81,19 @@ int64_t cx_double_(const double* number) { return call(__func__, &ChartXml::Doub
 int64_t cx_lrvalue_(const int64_t*, const double* number, const int64_t* format) {
   return call(__func__, &ChartXml::LRValue, number, format);
 }
+int64_t cx_lrvalueasstring_(const double* number, const int64_t* format) {
+  return call(__func__, &ChartXml::LRValueAsString, number, format);
+}
 
 int64_t cx_integer_(const int64_t*, const int64_t* number) {
   return number ? call(__func__, &ChartXml::Integer, number) : -1;
 }
 
 int64_t cx_ivalue_(const int64_t*, const int64_t* number, const int64_t* format) {
-  if (!number) return -1;
-  return guarded(__func__, [&](ChartXml& registry) {
-    return registry.LRValue(integer(number), integer(format));
-  });
+  return formatWholeNumber(__func__, &ChartXml::LRValue, number, format);
+}
+int64_t cx_ivalueasstring_(const int64_t* number, const int64_t* format) {
+  return formatWholeNumber(__func__, &ChartXml::LRValueAsString, number, format);
 }
 
 int64_t cx_variablelabelfromdictionary_(void* procedure, void* const* dictionary,

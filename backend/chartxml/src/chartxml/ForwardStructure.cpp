@@ -34,6 +34,9 @@ int ChartXml::AddAggregate(int chart, int source, int name, bool categorical, in
                            int shortLabel, int domain) {
   return onChart(chart, &Chart::AddAggregate, source, name, categorical, label, shortLabel, domain);
 }
+int ChartXml::AddWeightAggregate(int chart, int source, int name, int label) {
+  return onChart(chart, &Chart::AddWeightAggregate, source, name, label);
+}
 int ChartXml::AddRelabel(int chart, int variable, int from, int to) {
   return onChart(chart, &Chart::AddRelabel, variable, from, to);
 }
@@ -42,6 +45,32 @@ int ChartXml::AddRelabels(int chart, int node, int variable) {
 }
 int ChartXml::GetVariableFormat(int chart, int variable) {
   return onChart(chart, &Chart::GetVariableFormat, getVariableIndex(variable));
+}
+
+int ChartXml::SetVariableFormat(int chart, int variable, long packed) {
+  return onChart(chart, &Chart::SetVariableFormat, variable, packed);
+}
+int ChartXml::AddMeta(int chart, int variable) {
+  return onChart(chart, static_cast<int (Chart::*)(int)>(&Chart::AddMeta), variable);
+}
+int ChartXml::AddFormat(int chart, int meta, int column) {
+  return onChart(chart, &Chart::AddFormat, meta, column);
+}
+int ChartXml::SetMetaWeight(int chart, int meta, bool weight) {
+  return onChart(chart, &Chart::SetMetaWeight, meta, weight);
+}
+int ChartXml::getVariableNumFormat(int chart, int variable) {
+  return onChart(chart, &Chart::getVariableNumFormat, variable);
+}
+int ChartXml::AddStringFormat(int chart, int meta) {
+  return onChart(chart, &Chart::AddStringFormat, meta);
+}
+int ChartXml::AddDateFormat(int chart, int meta, int type, int width) {
+  return onChart(chart, &Chart::AddDateFormat, meta, type, width);
+}
+int ChartXml::AddNumberFormat(int chart, int meta, int type, int width, int decimals) {
+  return onChart(chart, static_cast<int (Chart::*)(int, int, int, int)>(&Chart::AddNumberFormat),
+                 meta, type, width, decimals);
 }
 int ChartXml::AddNumberFormat(int chart, int parent) {
   return onChart(chart, static_cast<int (Chart::*)(int)>(&Chart::AddNumberFormat), parent);

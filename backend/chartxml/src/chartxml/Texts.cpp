@@ -51,6 +51,9 @@ int ChartXml::Double(const double& number) { return stringHandler_->LRValue(numb
 int ChartXml::LRValue(const double& number, int format) {
   return stringHandler_->LRValue(number, format);
 }
+int ChartXml::LRValueAsString(const double& number, int format) {
+  return stringHandler_->LRValueAsString(number, format);
+}
 
 std::string ChartXml::getUTF8String(int string) const {
   return stringHandler_->getXMLString(string).toUTF8();
