@@ -23,6 +23,9 @@ constexpr Comparison comparisons[] = {
     {"value/entry/1000000", "value/push_back/1000000", "row and value, against push_back"},
     {"value/entry/1000000", "value/entry/10000", "row and value at 1 000 000, against 10 000"},
     {"text/entry", "text/copy", "text registered, against a u16string copied"},
+    {"key/entry", "key/bundle", "key translated and kept, against ICU's bundle look-up"},
+    {"composite/entry", "composite/fmt", "composite of four parameters, against fmt"},
+    {"number/formatter", "number/to_chars", "number formatted for display, against to_chars"},
     {"print/chart/10000", "print/xerces/10000", "document printed, against xerces' serializer"},
 };
 

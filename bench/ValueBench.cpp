@@ -1,11 +1,9 @@
-// What a data value and a text cost, against the least that a call could do.
+// What a data value costs, against the least that a call could do.
 #include <benchmark/benchmark.h>
 
 #include <memory>
-#include <string>
 #include <vector>
 
-#include <chartxml/ChartXml.h>
 #include <chartxml/EntryPoints.h>
 #include <host/Data.h>
 
@@ -74,37 +72,7 @@ void valuesPushedBack(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-const std::string label = "Flipper length (mm)";
-
-void textsRegistered(benchmark::State& state) {
-  const auto length = static_cast<std::int64_t>(label.size());
-  for (auto _ : state) {
-    for (int i = 0; i < 10000; ++i)
-      cx_nstringnotranslate_(&zero, label.data(), &length);
-    state.PauseTiming();
-    ChartXml::GetInstance()->ResetStrings();
-    state.ResumeTiming();
-  }
-  state.SetItemsProcessed(state.iterations() * 10000);
-}
-
-void textsCopied(benchmark::State& state) {
-  const std::u16string text(label.begin(), label.end());
-  for (auto _ : state) {
-    std::vector<std::u16string> copies;
-    copies.reserve(10000);
-    for (int i = 0; i < 10000; ++i)
-      copies.push_back(text);
-    state.PauseTiming();
-    copies = {};
-    state.ResumeTiming();
-  }
-  state.SetItemsProcessed(state.iterations() * 10000);
-}
-
 BENCHMARK(valuesPushedBack)->Name("value/push_back")->Arg(1000000);
 BENCHMARK(valuesThroughEntryPoint)->Name("value/entry")->Arg(10000)->Arg(1000000);
-BENCHMARK(textsCopied)->Name("text/copy");
-BENCHMARK(textsRegistered)->Name("text/entry");
 
 } // namespace
