@@ -4,6 +4,13 @@
 namespace strings {
 
 inline constexpr int legend = 15;
+inline constexpr int line = 21;
+inline constexpr int referenceLine = 50;
+inline constexpr int log = 116;
+inline constexpr int base = 117;
+inline constexpr int exponent = 118;
+inline constexpr int naturalLog = 124; ///< has no text
+inline constexpr int x = 128;
 inline constexpr int y = 129;
 inline constexpr int casenum = 135;
 inline constexpr int countname = 140;

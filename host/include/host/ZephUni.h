@@ -28,12 +28,14 @@ struct ZephUni {
   static constexpr XMLCh _data[] = u"data";
   static constexpr XMLCh _dayOfYear[] = u"dayOfYear";
   static constexpr XMLCh _delta[] = u"delta";
+  static constexpr XMLCh _descending[] = u"descending";
   static constexpr XMLCh _description[] = u"description";
   static constexpr XMLCh _dimension[] = u"dimension";
   static constexpr XMLCh _distance[] = u"distance";
   static constexpr XMLCh _distribution[] = u"distribution";
   static constexpr XMLCh _dodge[] = u"dodge";
   static constexpr XMLCh _domain[] = u"domain";
+  static constexpr XMLCh _domainReference[] = u"domainReference";
   static constexpr XMLCh _dot[] = u"dot";
   static constexpr XMLCh _element[] = u"element";
   static constexpr XMLCh _exact[] = u"exact";
@@ -51,6 +53,7 @@ struct ZephUni {
   static constexpr XMLCh _id[] = u"id";
   static constexpr XMLCh _inside[] = u"inside";
   static constexpr XMLCh _interval[] = u"interval";
+  static constexpr XMLCh _invert[] = u"invert";
   static constexpr XMLCh _label[] = u"label";
   static constexpr XMLCh _labelAngle[] = u"labelAngle";
   static constexpr XMLCh _labelCollisionHandling[] = u"labelCollisionHandling";
@@ -90,6 +93,7 @@ struct ZephUni {
   static constexpr XMLCh _nice[] = u"nice";
   static constexpr XMLCh _none[] = u"none";
   static constexpr XMLCh _normal[] = u"normal";
+  static constexpr XMLCh _number[] = u"number";
   static constexpr XMLCh _object[] = u"object";
   static constexpr XMLCh _opposite[] = u"opposite";
   static constexpr XMLCh _otherAccess[] = u"otherAccess";
@@ -115,13 +119,17 @@ struct ZephUni {
   static constexpr XMLCh _showAMPM[] = u"showAMPM";
   static constexpr XMLCh _showCentury[] = u"showCentury";
   static constexpr XMLCh _showCollidingLabels[] = u"showCollidingLabels";
+  static constexpr XMLCh _simpleSort[] = u"simpleSort";
   static constexpr XMLCh _size[] = u"size";
   static constexpr XMLCh _source[] = u"source";
   static constexpr XMLCh _sourceName[] = u"sourceName";
+  static constexpr XMLCh _sourceVariable[] = u"sourceVariable";
   static constexpr XMLCh _split[] = u"split";
   static constexpr XMLCh _stack[] = u"stack";
   static constexpr XMLCh _stagger[] = u"stagger";
   static constexpr XMLCh _statistic[] = u"statistic";
+  static constexpr XMLCh _statisticSort[] = u"statisticSort";
+  static constexpr XMLCh _statVariable[] = u"statVariable";
   static constexpr XMLCh _style[] = u"style";
   static constexpr XMLCh _suffix[] = u"suffix";
   static constexpr XMLCh _sum[] = u"sum";
@@ -132,6 +140,7 @@ struct ZephUni {
   static constexpr XMLCh _true[] = u"true";
   static constexpr XMLCh _twentyFour[] = u"twentyFour";
   static constexpr XMLCh _type[] = u"type";
+  static constexpr XMLCh _unionDomain[] = u"unionDomain";
   static constexpr XMLCh _upperMargin[] = u"upperMargin";
   static constexpr XMLCh _useGrouping[] = u"useGrouping";
   static constexpr XMLCh _value[] = u"value";

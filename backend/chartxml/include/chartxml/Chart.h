@@ -18,6 +18,10 @@
 #include <host/XDocument.h>
 
 class ChildOrder;
+class KindsBelow;
+struct AttributeRule;
+struct ChildRule;
+struct NodeRule;
 
 /// Element names, for accepted parents and for placement among siblings.
 using ConstChartStringSet = std::span<const XMLCh* const>;
@@ -43,11 +47,16 @@ public:
   static constexpr XMLCh _lowermapping[] = u"lowerMapping";
   static constexpr XMLCh _uppermapping[] = u"upperMapping";
   static constexpr XMLCh _facetssharescale[] = u"facetsShareScale";
+  static constexpr XMLCh _sameratio[] = u"sameRatio";
+  static constexpr XMLCh _safe[] = u"safe";
+  static constexpr XMLCh _sort[] = u"sort";
   static constexpr XMLCh _gridlines[] = u"gridLines";
   static constexpr XMLCh _tablefacet[] = u"tableFacet";
   static constexpr XMLCh _coordinatefacet[] = u"coordinateFacet";
   static constexpr XMLCh _facetlabeling[] = u"facetLabeling";
   static constexpr XMLCh _facetlabel[] = u"facetLabel";
+  static constexpr XMLCh _facetvariable[] = u"facetVariable";
+  static constexpr XMLCh _facetstyle[] = u"facetStyle";
   static constexpr XMLCh _cellstyle[] = u"cellStyle";
   static constexpr XMLCh _coordinatetransform[] = u"coordinateTransform";
 
@@ -88,7 +97,7 @@ public:
   int mapElement(xercesc::DOMElement* element);
   /// The element under a handle, or null.
   xercesc::DOMElement* getElement(int handle) const;
-  /// The handle of an element, or -1. Walks the whole table: for rare use.
+  /// The handle of an element, or -1.
   int getHandle(const xercesc::DOMElement* element) const;
   int AddEmptyElement(xercesc::DOMElement& parent, const XMLCh* name, xercesc::DOMElement*& out);
   int AddDescription(int parent, int name);
@@ -137,14 +146,33 @@ public:
   bool validVariable(int index) const;
   bool validVariableList(int list) const;
 
-  // Frames, sources and facets
+  // Frames and sources
 
   int AddSource();
   int AddFrame(int parent, int suffix);
   int SetFrameClipping(int frame, bool clip);
+
+  // Facets and coordinates
+
+  /// The table facet below a frame; made when there is none.
+  int AddTableFacet(int frame);
+  /// The facet labeling below a frame; made when there is none.
   int AddFacetLabeling(int frame);
+  int AddCoordinateFacet(int frame);
+  int AddNest(int parent);
+  int AddBlend(int parent);
+  int AddCross(int parent);
+  int AddFacetVariable(int parent, int role, int variable);
   int AddFacetLabel(int facetLabeling, int suffix, int level, bool reverse);
+  /// The label of that level, or -1, silently.
+  int GetFacetLabel(int facetLabeling, int level);
+  int SetFacetLabelLevel(int facetLabel, int level);
+  /// The gap of a facet label or of a facet variable.
+  int SetFacetLabelGap(int facetLabel, int gap);
   int SetFacetLabelCellStyle(int facetLabel, int suffix);
+  int SetFacetLabelingCellAspect(int facetLabeling, double aspect);
+  int AddFacetStyle(int elementOrGridLines, int when, int suffix);
+  int AddCoordinateTransform(int frame, int method);
 
   // Variables and data
 
@@ -196,22 +224,67 @@ public:
   int AddParam(int statistic, int name, int value);
   int AddLabel(int parent, int suffix, int content);
 
-  // Dimensions, axes and guides
+  // Dimensions
 
+  /// The node below a frame that has the role; a new dimension when there is none.
   int AddDimension(int frame, int role, int domain);
+  /// The first dimension of that role anywhere below a frame, or -1, silently.
   int GetDimension(int frame, int role);
+  int SetDimensionDomain(int dimension, int domain);
+  /// Method 124 is the natural logarithm, whose value is not read.
+  int SetDimensionScale(int dimension, int method, int value, bool invert);
   int SetDimensionLowerMargin(int dimension, int margin);
   int SetDimensionUpperMargin(int dimension, int margin);
   int SetDimensionLowerMapping(int dimension, int mapping);
   int SetDimensionUpperMapping(int dimension, int mapping);
+  int SetUnionDomain(int dimension);
+  int SetFacetsDifferentScale(int dimension);
+
+  // Domains
+
+  int AddDomain(bool categorical);
+  int AddInterval(int domain, int min, int max);
+  int AddDomainReference(int domain, int domainOrVariable);
+  /// Sets the order on the domain's first sort, made when there is none.
+  int SetDomainDescending(int domain, bool descending);
+  int AddSort(int domain);
+  int AddSimpleSort(int sort);
+  int SetSimpleSortMethod(int simpleSort, int method);
+  int AddStatisticSort(int sort, int sourceVariable, int statVariable);
+  int SetSortDescending(int sort, bool descending);
+
+  // Axes
+
   int AddAxis(int parent, int suffix, bool opposite);
+  /// Grid lines have a handle of their own, the one before their ticks'.
   int AddMajorTicks(int parent, int position, bool gridLines, int length, int labelAngle,
                     bool stagger, int delta);
+  int AddMinorTicks(int axis, int position, bool gridLines, int length, int number);
+  int AddTransform(int parent, int method);
+
+  // Guides and legends
+
   int AddGuide(int frame, int type, int suffix);
+  /// A line at a value of x (role 1) or y (role 2); no place in another role.
+  int AddReferenceLine(int frame, int role, int value, int styleIndex);
   int AddYFunctionOfX(int frame, int function, int styleIndex);
   int AddLegend(int frame, int suffix);
   int AddLegendTarget(int legend, int elementOrGuide, int suffix, int aesthetic);
-  int AddTransform(int parent, int method);
+  /// The same with the styleBy node that the legend explains.
+  int AddLegendTargetEx(int legend, int elementOrGuide, int styleBy, int suffix);
+
+  // Adjustments of what is there
+
+  /// Gives the dimension its ratio, whatever its kind the node is answered, and the
+  /// chart's first facet labeling square cells.
+  int SetDimensionSameRatio(int dimension, bool same);
+  /// The bin width of every histogram. 1, or -1 when there is none or the width is
+  /// not positive, silently.
+  int SetBinWidth(double width);
+  /// An interval from -extent to extent for every domain; results alike.
+  int SetXYDimensionSameScale(double extent);
+  int SetDisplayOverlappingLabels(int element, bool display);
+  int SetLabelCollisionHandling(int element, int handling);
 
   // Finishing
 
@@ -237,6 +310,8 @@ private:
   Element* acceptedParent(int handle, ConstChartStringSet kinds, std::string_view refusal,
                           Where where) const;
   Element* elementOfKind(int handle, const XMLCh* kind) const;
+  bool valid(int handle, const NodeRule& rule, Where where) const;
+  Element* accepted(int handle, const NodeRule& rule, Where where) const;
   void report(const std::string& message, Where where) const;
 
   // Making nodes
@@ -244,6 +319,7 @@ private:
   Element& appendElement(Element& parent, const XMLCh* name);
   int append(Element& parent, Element& child);
   int place(Element& parent, Element& child, ConstChartStringSet before);
+  int addChild(int parent, const ChildRule& rule, Where where);
   void takeOut(Element& child);
 
   // Writing texts
@@ -252,7 +328,11 @@ private:
   void setText(Element& element, const XMLCh* attribute, int string);
   void setOptionalText(Element& element, const XMLCh* attribute, int string);
   static void setFlag(Element& element, const XMLCh* attribute, bool on);
+  int setAttribute(int node, const AttributeRule& rule, const XMLCh* value, Where where);
+  int setAttributeFlag(int node, const AttributeRule& rule, bool on, Where where);
+  int setAttributeText(int node, const AttributeRule& rule, int string, Where where);
   std::u16string styleName(const XMLCh* stem, int suffix);
+  void setOwnStyle(Element& element, const XMLCh* attribute, const std::u16string& style);
 
   // Shared courses of operations
   int giveId(Element& element, const XMLCh* id, bool sharedStyle, Where where);
@@ -265,8 +345,16 @@ private:
   bool formatMeta(Element& variable, long packed);
   void appendToStyle(const Element& element, std::u16string_view text);
   void labelSkeletonFrame(int frame, int suffix);
-  int setDimensionText(int dimension, int string, const XMLCh* attribute, const char* what,
-                       Where where);
+  void noteRole(const Element& node);
+  Element* childInRole(const Element& parent, int role, const XMLCh* name) const;
+  Element* firstBelow(const Element& root, const XMLCh* name, int kind,
+                      const XMLCh* role = nullptr) const;
+  int addOnce(int frame, const ChildRule& rule, int kind, Where where);
+  int addFacetPart(int parent, const XMLCh* name, Where where);
+  Element* facetWithRoom(int handle, Where where) const;
+  Element* sortOf(Element& domain);
+  int keepIfWhole(int guide, bool whole);
+  Element& makeLegendTarget(int elementOrGuide, int suffix, Where where);
   int setNumberFormatText(int numberFormat, int string, const XMLCh* attribute, const char* what,
                           Where where);
   void AddVariableLabels(Element& variable, int column);
@@ -280,7 +368,7 @@ private:
   static void setCreator(Element& meta, const XMLCh* origin, const XMLCh* kind);
   static const XMLCh* sourceIdOf(const Element& sourceOrVariable);
   int addRelabel(Element& variable, const XMLCh* from, const XMLCh* to);
-  void addGridLines(Element& ticks, const Element& axis);
+  void addGridLines(Element& ticks, const std::u16string& style);
   int addNumberFormat(Element& meta, int type, int decimals);
   static void addCurrency(Element& format, int number);
   int send();
@@ -311,6 +399,10 @@ private:
   std::unique_ptr<VarDataProcessor> dataProcessor_;
 
   std::unique_ptr<ChildOrder> childOrder_;
+  std::unique_ptr<KindsBelow> kindsBelow_;
+  // Noted when somebody asks: most charts look no handle up.
+  mutable std::unordered_map<const Element*, int> handles_;
+  mutable int handlesNoted_ = 0;
   std::unordered_map<Element*, std::u16string> styleValues_; ///< as GetXmlBuffer writes them
   std::u16string scratch_;       ///< a text on its way into the document
   std::u16string idText_;        ///< an id on its way into the document

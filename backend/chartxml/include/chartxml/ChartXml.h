@@ -145,9 +145,6 @@ public:
   int AddSource(int chart);
   int AddFrame(int chart, int parent, int suffix);
   int SetFrameClipping(int chart, int frame, bool clip);
-  int AddFacetLabeling(int chart, int frame);
-  int AddFacetLabel(int chart, int facetLabeling, int suffix, int level, bool reverse);
-  int SetFacetLabelCellStyle(int chart, int facetLabel, int suffix);
   int SetChartType(int chart, int type);
   int SetChartTemplate(int chart, const std::string& name);
   int CreateChartDescription(int chart, int string);
@@ -187,20 +184,62 @@ public:
   int AddParam(int chart, int statistic, int name, int value);
   int AddLabel(int chart, int parent, int suffix, int content);
 
+  int AddTableFacet(int chart, int frame);
+  int AddFacetLabeling(int chart, int frame);
+  int AddCoordinateFacet(int chart, int frame);
+  int AddNest(int chart, int parent);
+  int AddBlend(int chart, int parent);
+  int AddCross(int chart, int parent);
+  int AddFacetVariable(int chart, int parent, int role, int variable);
+  int AddFacetLabel(int chart, int facetLabeling, int suffix, int level, bool reverse);
+  int GetFacetLabel(int chart, int facetLabeling, int level);
+  int SetFacetLabelLevel(int chart, int facetLabel, int level);
+  int SetFacetLabelGap(int chart, int facetLabel, int gap);
+  int SetFacetLabelCellStyle(int chart, int facetLabel, int suffix);
+  int SetFacetLabelingCellAspect(int chart, int facetLabeling, double aspect);
+  int AddFacetStyle(int chart, int elementOrGridLines, int when, int suffix);
+  int AddCoordinateTransform(int chart, int frame, int method);
+
   int AddDimension(int chart, int frame, int role, int domain);
   int GetDimension(int chart, int frame, int role);
+  int SetDimensionDomain(int chart, int dimension, int domain);
+  int SetDimensionScale(int chart, int dimension, int method, int value, bool invert);
   int SetDimensionLowerMargin(int chart, int dimension, int margin);
   int SetDimensionUpperMargin(int chart, int dimension, int margin);
   int SetDimensionLowerMapping(int chart, int dimension, int mapping);
   int SetDimensionUpperMapping(int chart, int dimension, int mapping);
+  int SetUnionDomain(int chart, int dimension);
+  int SetFacetsDifferentScale(int chart, int dimension);
+  int SetDimensionSameRatio(int chart, int dimension, bool same);
+  int SetBinWidth(int chart, double width);
+  int SetXYDimensionSameScale(int chart, double extent);
+
+  int AddDomain(int chart, bool categorical);
+  int AddInterval(int chart, int domain, int min, int max);
+  int AddIntervalEx(int chart, int domain, int min, int max);
+  int AddDomainReference(int chart, int domain, int domainOrVariable);
+  int SetDomainDescending(int chart, int domain, bool descending);
+  int AddSort(int chart, int domain);
+  int AddSimpleSort(int chart, int sort);
+  int SetSimpleSortMethod(int chart, int simpleSort, int method);
+  int AddStatisticSort(int chart, int sort, int sourceVariable, int statVariable);
+  int SetSortDescending(int chart, int sort, bool descending);
+
   int AddAxis(int chart, int parent, int suffix, bool opposite);
   int AddMajorTicks(int chart, int parent, int position, bool gridLines, int length, int labelAngle,
                     bool stagger, int delta);
+  int AddMinorTicks(int chart, int axis, int position, bool gridLines, int length, int number);
+  int AddTransform(int chart, int parent, int method);
   int AddGuide(int chart, int frame, int type, int suffix);
+  int AddReferenceLine(int chart, int frame, int role, int value, int styleIndex);
+  int AddXReferenceLine(int chart, int frame, int value, int styleIndex);
+  int AddYReferenceLine(int chart, int frame, int value, int styleIndex);
   int AddYFunctionOfX(int chart, int frame, int function, int styleIndex);
   int AddLegend(int chart, int frame, int suffix);
   int AddLegendTarget(int chart, int legend, int elementOrGuide, int suffix, int aesthetic);
-  int AddTransform(int chart, int parent, int method);
+  int AddLegendTargetEx(int chart, int legend, int elementOrGuide, int styleBy, int suffix);
+  int SetDisplayOverlappingLabels(int chart, int element, bool display);
+  int SetLabelCollisionHandling(int chart, int element, int handling);
   int SetLogUnsafe(int chart);
 
 private:

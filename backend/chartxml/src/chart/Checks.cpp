@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "../Report.h"
+#include "NodeRule.h"
 #include "Nodes.h"
 #include <chartxml/Role.h>
 #include <host/CodePages.h>
@@ -78,6 +79,17 @@ DOMElement* Chart::acceptedParent(int handle, ConstChartStringSet kinds, std::st
 DOMElement* Chart::elementOfKind(int handle, const XMLCh* kind) const {
   DOMElement* element = getElement(handle);
   return element && isNamed(*element, kind) ? element : nullptr;
+}
+
+bool Chart::valid(int handle, const NodeRule& rule, Where where) const {
+  return validHandle(handle, rule.noun, where);
+}
+
+DOMElement* Chart::accepted(int handle, const NodeRule& rule, Where where) const {
+  DOMElement* node = getElement(handle);
+  if (node && rule.accepts(*node)) return node;
+  if (rule.refusal) report(rule.refusal + nameOf(node), where);
+  return nullptr;
 }
 
 void Chart::report(const std::string& message, Where where) const { reportRefusal(message, where); }

@@ -38,10 +38,30 @@ inline constexpr Names label = {ZephUni::_majorTicks, ZephUni::_minorTicks, Zeph
                                 ZephUni::_transform};
 
 inline constexpr Names dimension = {ZephUni::_guide, Chart::_elementgroup, ZephUni::_element};
+inline constexpr Names scale = {ZephUni::_axis, ZephUni::_label};
 inline constexpr Names majorTicks = {ZephUni::_minorTicks, ZephUni::_legendTarget};
 
+inline constexpr Names domain = {ZephUni::_frame, ZephUni::_style};
+inline constexpr Names interval = {ZephUni::_domainReference, Chart::_sort,
+                                   Chart::_numberformat,      Chart::_stringformat,
+                                   Chart::_datetimeformat,    ZephUni::_relabel};
+inline constexpr Names sort = {Chart::_numberformat, Chart::_stringformat, Chart::_datetimeformat,
+                               ZephUni::_relabel};
+
+inline constexpr Names tableFacet = {
+    Chart::_facetlabeling, Chart::_coordinatefacet, Chart::_coordinatetransform,
+    ZephUni::_dimension,   ZephUni::_guide,         Chart::_elementgroup,
+    ZephUni::_element};
 inline constexpr Names facetLabeling = {Chart::_coordinatefacet, Chart::_coordinatetransform,
                                         ZephUni::_dimension,     ZephUni::_guide,
                                         Chart::_elementgroup,    ZephUni::_element};
+inline constexpr Names coordinateFacet = {Chart::_coordinatetransform, ZephUni::_dimension,
+                                          ZephUni::_guide, Chart::_elementgroup, ZephUni::_element};
+inline constexpr Names facetStyle = {ZephUni::_position, ZephUni::_x,     ZephUni::_y,
+                                     ZephUni::_z,        ZephUni::_theta, ZephUni::_r,
+                                     ZephUni::_phi,      Chart::_styleby, ZephUni::_color,
+                                     ZephUni::_labeling, ZephUni::_split};
+inline constexpr Names coordinateTransform = {ZephUni::_dimension, ZephUni::_guide,
+                                              ZephUni::_element, Chart::_elementgroup};
 
 } // namespace placement
