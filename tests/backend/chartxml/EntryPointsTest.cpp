@@ -1,4 +1,5 @@
 #include "../support/BuilderTest.h"
+#include "../support/EntryArguments.h"
 
 #include <cstdint>
 
@@ -7,17 +8,6 @@
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-namespace {
-
-/// An integer argument: its address lives as long as the full expression.
-struct Int {
-  Int(std::int64_t given) : value(given) {}
-  operator const std::int64_t*() const { return &value; }
-  std::int64_t value;
-};
-
-} // namespace
 
 class EntryPoints : public BuilderTest {
 protected:
@@ -140,12 +130,12 @@ TEST_F(EntryPoints, PassTheirArgumentsInOrder) {
   void* const* run = reinterpret_cast<void* const*>(&address);
   const Int c = cx_createchart_(nullptr, run, "p", Int(1));
   const auto word = [](const char* bytes) { return Int(text(bytes)); };
-  const Int source = cx_addsource_(c);
+  const Int rows = cx_addsource_(c);
   const Int frame = cx_addframe_(c, Int(0), word("f"));
-  const Int v = cx_addvariable_(c, source, Int(1), Int(0));
+  const Int v = cx_addvariable_(c, rows, Int(1), Int(0));
   cx_addrelabel_(c, v, word("from"), word("to"));
   const Int computed =
-      cx_addaggregate_(c, source, Int(17), Int(1), word("label"), word("short"), frame);
+      cx_addaggregate_(c, rows, Int(17), Int(1), word("label"), word("short"), frame);
   cx_createlogvar_(c, computed);
   const Int element = cx_addelement_(c, frame, Int(21), word("e"));
   const Int position = cx_addposition_(c, element);
