@@ -61,6 +61,11 @@ void ChildOrder::remove(DOMElement& child) {
   parent->removeChild(&child);
 }
 
+void ChildOrder::clear(DOMElement& parent) {
+  firsts_.erase(&parent);
+  ChartBase::removeAllChildren(parent);
+}
+
 DOMElement* ChildOrder::first(const DOMElement& parent, const XMLCh* name) {
   Firsts* firsts = known(parent);
   if (!firsts) {

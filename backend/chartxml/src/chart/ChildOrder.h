@@ -21,6 +21,8 @@ public:
   void insert(xercesc::DOMElement& parent, xercesc::DOMElement& child, ConstChartStringSet before);
   void append(xercesc::DOMElement& parent, xercesc::DOMElement& child);
   void remove(xercesc::DOMElement& child);
+  /// Removes every child; the ids below the parent become free.
+  void clear(xercesc::DOMElement& parent);
   /// The first child of that name, or null.
   xercesc::DOMElement* first(const xercesc::DOMElement& parent, const XMLCh* name);
 

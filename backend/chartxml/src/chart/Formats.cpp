@@ -1,12 +1,9 @@
+// Display formats of numbers and texts.
 #include <chartxml/Chart.h>
 
 #include <algorithm>
 
-#include <fmt/format.h>
-
 #include "ChildOrder.h"
-#include "Nodes.h"
-#include "Placement.h"
 #include <chartxml/ChartXml.h>
 #include <host/Settings.h>
 #include <host/Text.h>
@@ -24,63 +21,14 @@ constexpr int firstCurrency = 33;
 constexpr int lastCurrency = 37;
 constexpr int automatic = 40;
 
-// Type 25 stands with the numbers, where it has no attributes.
-constexpr int numberTypes[] = {3,  4,  5,  6,  8,  9,  11, 15, 16, 17,
-                               25, 31, 32, 33, 34, 35, 36, 37, 40};
-constexpr int dateTypes[] = {20, 21, 22, 23, 24, 26, 27, 28, 29, 30, 38, 39, 85, 86};
 constexpr int decimalTypes[] = {3, 4, 5, 6, 8, 9, 11, 15, 16, 31, 32};
 
-bool isAmong(std::span<const int> types, int type) {
-  return std::ranges::find(types, type) != types.end();
+bool showsDecimals(int type) {
+  return std::ranges::find(decimalTypes, type) != std::end(decimalTypes);
 }
+bool isCurrency(int type) { return type >= firstCurrency && type <= lastCurrency; }
 
 } // namespace
-
-// The variable's meta, made when it has none: there is never more than one, and a
-// meta is its own.
-DOMElement& Chart::metaOf(DOMElement& variable) {
-  if (isNamed(variable, _meta)) return variable;
-  if (DOMElement* known = childOrder_->first(variable, _meta)) return *known;
-  DOMElement& meta = makeElement(_meta);
-  place(variable, meta, placement::meta);
-  return meta;
-}
-
-int Chart::AddMeta(DOMElement& parent, DOMElement*& meta) {
-  meta = &metaOf(parent);
-  return getHandle(meta);
-}
-
-int Chart::AddMeta(int variable) {
-  if (!validHandle(variable, "variable")) return -1;
-  DOMElement* target = getElement(variable);
-  DOMElement* meta = nullptr;
-  return target ? AddMeta(*target, meta) : -1;
-}
-
-int Chart::AddMetaFormat(DOMElement& variable, int column) {
-  if (!validVariable(column)) return -1;
-  return AddMetaFormatFromCode(variable,
-                               static_cast<long>(dataSource_->GetVariable(column).GetFormat()));
-}
-
-int Chart::AddMetaFormatFromCode(DOMElement& variable, long packed) {
-  return formatMeta(variable, packed) ? getHandle(&metaOf(variable)) : -1;
-}
-
-bool Chart::formatMeta(DOMElement& variable, long packed) {
-  const KORVA_Format format(packed);
-  const int type = format.TypeEx();
-  if (isAmong(numberTypes, type)) {
-    addNumberFormat(metaOf(variable), type, format.Decimals());
-    return true;
-  }
-  if (isAmong(dateTypes, type)) {
-    report(fmt::format("display formats of dates and times are not built yet - type {}", type),
-           Where::current());
-  }
-  return false;
-}
 
 int Chart::AddNumberMeta(DOMElement& variable, int type, int /*width*/, int decimals) {
   DOMElement& meta = metaOf(variable);
@@ -102,9 +50,8 @@ int Chart::AddNumberFormat(int meta, int type, int /*width*/, int decimals) {
 int Chart::addNumberFormat(DOMElement& meta, int type, int decimals) {
   DOMElement& format = makeElement(_numberformat);
   const int handle = append(meta, format);
-  if (isAmong(decimalTypes, type) || (type >= firstCurrency && type <= lastCurrency)) {
+  if (showsDecimals(type) || isCurrency(type))
     setText(format, ZephUni::_minimumFractionDigits, stringHandler_->LRValue(decimals, -1));
-  }
   if (type == dollar) format.setAttribute(ZephUni::_prefix, _dollarSign);
   if (type == percent) format.setAttribute(ZephUni::_suffix, _percent);
   if (type == plain || type == percent) {
@@ -115,7 +62,7 @@ int Chart::addNumberFormat(DOMElement& meta, int type, int decimals) {
   }
   if (type == exponential) format.setAttribute(ZephUni::_scientific, ZephUni::_always);
   if (type == automatic) format.setAttribute(ZephUni::_scientific, ZephUni::_auto);
-  if (type >= firstCurrency && type <= lastCurrency) addCurrency(format, type - firstCurrency);
+  if (isCurrency(type)) addCurrency(format, type - firstCurrency);
   return handle;
 }
 
@@ -132,6 +79,23 @@ void Chart::addCurrency(DOMElement& format, int number) {
   } else if (!currency.getNegativePrefix().empty() || !currency.getNegativeSuffix().empty()) {
     format.setAttribute(ZephUni::_negativesInParentheses, ZephUni::_true);
   }
+}
+
+int Chart::AddStringMeta(DOMElement& variable) {
+  DOMElement& meta = metaOf(variable);
+  addStringFormat(meta);
+  return getHandle(&meta);
+}
+
+int Chart::AddStringFormat(int meta) {
+  if (!validHandle(meta, "meta")) return -1;
+  DOMElement* target = elementOfKind(meta, _meta);
+  return target ? addStringFormat(*target) : -1;
+}
+
+int Chart::addStringFormat(DOMElement& meta) {
+  childOrder_->clear(meta);
+  return append(meta, makeElement(_stringformat));
 }
 
 int Chart::setNumberFormatText(int numberFormat, int string, const XMLCh* attribute,
