@@ -42,27 +42,33 @@ module chartxml
     cx_endrepeat, cx_endcompositestring, cx_stylestring, cx_integer, cx_ivalue, cx_double, &
     cx_lrvalue, cx_value, cx_meanvalue, cx_valuelabel, cx_valuelabelshort, cx_objectlabel, &
     cx_splitlist, cx_splitheader, cx_variablename, cx_variablelabel, &
-    cx_variablelabelfromdictionary, cx_tosk, cx_addsource, cx_addvariable, cx_addaggregate, &
-    cx_getvariableformat, cx_createlogvar, cx_addrelabel, cx_addrelabels, cx_alldatadoubles, &
-    cx_addrow, cx_adddatavalue, cx_adddoubledatavalue, cx_addframe, cx_setframeclipping, &
-    cx_addlabel, cx_addframewithlabel, cx_addfacetlabeling, cx_addfacetlabel, &
-    cx_setfacetlabelcellstyle, cx_getfacetlabel, cx_setfacetlabellevel, cx_setfacetlabelgap, &
-    cx_setfacetlabelingcellaspect, cx_addtablefacet, cx_addcoordinatefacet, cx_addnest, &
-    cx_addblend, cx_addcross, cx_addfacetvariable, cx_addfacetstyle, cx_addcoordinatetransform, &
-    cx_addelement, cx_addelementgroup, cx_addxyelementex, cx_setelementname, cx_addposition, &
-    cx_addx, cx_addy, cx_addz, cx_addtheta, cx_addcolor, cx_addstyleby, cx_addstylebycolor, &
-    cx_addstylebypattern, cx_addstylebycolorandpattern, cx_addstatistic, cx_addparam, &
-    cx_setdisplayoverlappinglabels, cx_setlabelcollisionhandling, cx_adddimension, &
-    cx_getdimension, cx_setdimensionuppermargin, cx_setdimensionlowermargin, &
-    cx_setdimensionuppermapping, cx_setdimensionupper, cx_setdimensionlowermapping, &
-    cx_setdimensiondomain, cx_setdimensionscale, cx_setuniondomain, cx_setdimensionsameratio, &
-    cx_setxydimensionsamescale, cx_setbinwidth, cx_adddomain, cx_addintervalex, &
-    cx_adddomainreference, cx_setdomaindescending, cx_addsort, cx_setsortdescending, &
-    cx_addsimplesort, cx_setsimplesortmethod, cx_addstatisticsort, cx_addaxis, cx_addmajorticks, &
-    cx_addminorticks, cx_setaxispercent, cx_setlogunsafe, cx_adddimensionaxis, cx_addxydimension, &
-    cx_addxydimensionwithaxis, cx_addxydimaxiswithsameratio, cx_addguide, cx_addxreferenceline, &
-    cx_addyreferenceline, cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, &
-    cx_addlegendtargetex, cx_addlegendframe, cx_addlegendframeex
+    cx_variablelabelfromdictionary, cx_tosk, cx_addsource, cx_addvariable, cx_addlabelingvariable, &
+    cx_addweightvariable, cx_setvariable, cx_setaggregateexternal, cx_setvariablelabel, &
+    cx_setvariablename, cx_setvariablevalue, cx_setvariablecategorical, cx_getvariablelabel, &
+    cx_addaggregate, cx_addlabelingaggregate, cx_beginvariablelist, cx_addtovariablelist, &
+    cx_addoverlayvariable, cx_addrangevariable, cx_addmatrixvariable, cx_getvariableformat, &
+    cx_createlogvar, cx_addrelabel, cx_addrelabels, cx_alldatadoubles, cx_addrow, cx_adddatavalue, &
+    cx_adddoubledatavalue, cx_addframe, cx_setframeclipping, cx_addlabel, cx_addframewithlabel, &
+    cx_addfacetlabeling, cx_addfacetlabel, cx_setfacetlabelcellstyle, cx_getfacetlabel, &
+    cx_setfacetlabellevel, cx_setfacetlabelgap, cx_setfacetlabelingcellaspect, cx_addtablefacet, &
+    cx_addcoordinatefacet, cx_addnest, cx_addblend, cx_addcross, cx_addfacetvariable, &
+    cx_addfacetstyle, cx_addcoordinatetransform, cx_addelement, cx_addelementgroup, &
+    cx_addxyelementex, cx_setelementname, cx_setelementdot, cx_setelementpositionmodifier, &
+    cx_addbinnedelement, cx_addposition, cx_addx, cx_addy, cx_addz, cx_addtheta, cx_addcolor, &
+    cx_addstyleby, cx_addstylebycolor, cx_addstylebypattern, cx_addstylebycolorandpattern, &
+    cx_addsplit, cx_addlabeling, cx_addlabelingsuffix, cx_addlabelinginside, &
+    cx_setsummaryfunction, cx_addstatistic, cx_addparam, cx_setdisplayoverlappinglabels, &
+    cx_setlabelcollisionhandling, cx_adddimension, cx_getdimension, cx_setdimensionuppermargin, &
+    cx_setdimensionlowermargin, cx_setdimensionuppermapping, cx_setdimensionupper, &
+    cx_setdimensionlowermapping, cx_setdimensiondomain, cx_setdimensionscale, cx_setuniondomain, &
+    cx_setdimensionsameratio, cx_setxydimensionsamescale, cx_setbinwidth, cx_adddomain, &
+    cx_addintervalex, cx_adddomainreference, cx_setdomaindescending, cx_addsort, &
+    cx_setsortdescending, cx_addsimplesort, cx_setsimplesortmethod, cx_addstatisticsort, &
+    cx_addaxis, cx_addmajorticks, cx_addminorticks, cx_setaxispercent, cx_setlogunsafe, &
+    cx_adddimensionaxis, cx_addxydimension, cx_addxydimensionwithaxis, &
+    cx_addxydimaxiswithsameratio, cx_addguide, cx_addxreferenceline, cx_addyreferenceline, &
+    cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, cx_addlegendtargetex, cx_addlegendframe, &
+    cx_addlegendframeex
 
   interface
 
@@ -410,6 +416,75 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, source, variable_number, categorical
     end function
 
+    !> Declares a variable of the procedure whose values label others. Returns the new variable.
+    !> Reports a variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_addlabelingvariable(chart, source, variable_number, &
+        categorical) bind(C, name="cx_addlabelingvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, variable_number, categorical
+    end function
+
+    !> Declares the variable of the procedure that weights the cases. Returns the new variable.
+    !> Reports a variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_addweightvariable(chart, source, variable_number) &
+        bind(C, name="cx_addweightvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, variable_number
+    end function
+
+    !> Points a variable node at another variable of the procedure, whose label and display format
+    !> it takes; it keeps the column that its values are stored in. Returns the variable. Reports a
+    !> variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_setvariable(chart, variable, variable_number, categorical) &
+        bind(C, name="cx_setvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, variable_number, categorical
+    end function
+
+    !> Marks a variable as computed outside the chart. Returns the variable's meta.
+    integer(c_int64_t) function cx_setaggregateexternal(chart, variable) &
+        bind(C, name="cx_setaggregateexternal_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable
+    end function
+
+    !> Labels a variable; backslash and "n" become a line feed. Returns the variable.
+    integer(c_int64_t) function cx_setvariablelabel(chart, variable, caption) &
+        bind(C, name="cx_setvariablelabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, caption
+    end function
+
+    !> Gives a variable its short label; backslash and "n" become a line feed. Returns the variable.
+    integer(c_int64_t) function cx_setvariablename(chart, variable, name) &
+        bind(C, name="cx_setvariablename_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, name
+    end function
+
+    !> Makes a variable a constant. Returns the variable.
+    integer(c_int64_t) function cx_setvariablevalue(chart, variable, value_string) &
+        bind(C, name="cx_setvariablevalue_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, value_string
+    end function
+
+    !> Says whether the values of a variable are categories, which have no display format. Returns
+    !> the variable.
+    integer(c_int64_t) function cx_setvariablecategorical(chart, variable, categorical) &
+        bind(C, name="cx_setvariablecategorical_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, categorical
+    end function
+
+    !> Registers a variable's label, or its short label when it has none. Returns the new string
+    !> handle.
+    integer(c_int64_t) function cx_getvariablelabel(chart, variable) &
+        bind(C, name="cx_getvariablelabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable
+    end function
+
     !> Declares a column that the procedure computes. The source may also be a variable: the column
     !> then joins that variable's source. The names 135, 140 and 141 stand for case number, count
     !> and percentage; any other is numbered. Returns the new variable.
@@ -418,6 +493,53 @@ module chartxml
       import
       integer(c_int64_t), intent(in) :: chart, source, name, categorical, label, short_label, &
         domain
+    end function
+
+    !> Declares a column that the procedure computes and whose values label others, else as
+    !> cx_addaggregate_ does. Returns the new variable.
+    integer(c_int64_t) function cx_addlabelingaggregate(chart, source, name, categorical, label, &
+        short_label, domain) bind(C, name="cx_addlabelingaggregate_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, name, categorical, label, short_label, &
+        domain
+    end function
+
+    !> Begins a list of variables. Returns the new list, from 0 upward.
+    integer(c_int64_t) function cx_beginvariablelist(chart) bind(C, name="cx_beginvariablelist_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+    end function
+
+    !> Adds a variable to a list; it may be there already. Returns the list. Reports a list that was
+    !> not begun; a node that is no variable.
+    integer(c_int64_t) function cx_addtovariablelist(chart, list, variable) &
+        bind(C, name="cx_addtovariablelist_")
+      import
+      integer(c_int64_t), intent(in) :: chart, list, variable
+    end function
+
+    !> Declares the variable that shows all variables of a list at once, labelled as the x axis in
+    !> role 1, else as the y axis. Returns the new variable. Reports a list that was not begun; a
+    !> bad role.
+    integer(c_int64_t) function cx_addoverlayvariable(chart, list, role) &
+        bind(C, name="cx_addoverlayvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, list, role
+    end function
+
+    !> The same in role 2. Returns the new variable. Reports a list that was not begun.
+    integer(c_int64_t) function cx_addrangevariable(chart, list) &
+        bind(C, name="cx_addrangevariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, list
+    end function
+
+    !> Declares the variable that shows the variables of a list side by side, each with a constant
+    !> that tells its label. Returns the new variable. Reports a list that was not begun.
+    integer(c_int64_t) function cx_addmatrixvariable(chart, list) &
+        bind(C, name="cx_addmatrixvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, list
     end function
 
     !> Tells a variable's display format. Returns the format, packed as type * 65536 + width * 256 +
@@ -662,6 +784,30 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, element, name
     end function
 
+    !> Says how the points of an element are stacked into dots. Returns the element, or -1 for any
+    !> other node, silently.
+    integer(c_int64_t) function cx_setelementdot(chart, element, dot) &
+        bind(C, name="cx_setelementdot_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, dot
+    end function
+
+    !> Says how parts of an element at one place give way. Returns the element. Reports a node that
+    !> is no element.
+    integer(c_int64_t) function cx_setelementpositionmodifier(chart, element, modifier) &
+        bind(C, name="cx_setelementpositionmodifier_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, modifier
+    end function
+
+    !> Adds an element over hexagonal bins of x and y, each sized by the cases in it. Returns the
+    !> new element. Reports any parent but a frame or an element group; a node that is no variable.
+    integer(c_int64_t) function cx_addbinnedelement(chart, parent, type, suffix, x, y) &
+        bind(C, name="cx_addbinnedelement_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, type, suffix, x, y
+    end function
+
     !> Gives an element a position of its own, which takes x, y and a statistic. Returns the new
     !> position. Reports a node that is no element.
     integer(c_int64_t) function cx_addposition(chart, element) bind(C, name="cx_addposition_")
@@ -733,6 +879,47 @@ module chartxml
         bind(C, name="cx_addstylebycolorandpattern_")
       import
       integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Draws an element once for each category of a variable. Returns the new split. Reports a node
+    !> that is no element.
+    integer(c_int64_t) function cx_addsplit(chart, element, variable) bind(C, name="cx_addsplit_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Labels the parts of an element with the values of a variable. Returns the new labeling.
+    !> Reports a node that is no element.
+    integer(c_int64_t) function cx_addlabeling(chart, element, variable) &
+        bind(C, name="cx_addlabeling_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> The same with a style of its own. Returns the new labeling. Reports a node that is no
+    !> element.
+    integer(c_int64_t) function cx_addlabelingsuffix(chart, element, variable, label_style) &
+        bind(C, name="cx_addlabelingsuffix_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable, label_style
+    end function
+
+    !> The same with the style of labels inside. Returns the new labeling. Reports a node that is no
+    !> element.
+    integer(c_int64_t) function cx_addlabelinginside(chart, element, variable) &
+        bind(C, name="cx_addlabelinginside_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Notes which summary of a variable the chart shows, unless one is noted; the values are those
+    !> of the summary, such as a percentile's. Returns the code, or -1 for a code that is no
+    !> summary, silently.
+    integer(c_int64_t) function cx_setsummaryfunction(chart, variable, summary, first_value, &
+        second_value) bind(C, name="cx_setsummaryfunction_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, summary
+      real(c_double), intent(in) :: first_value, second_value
     end function
 
     !> Has the renderer compute a statistic for a node. Returns the new statistic.

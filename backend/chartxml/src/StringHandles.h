@@ -5,7 +5,10 @@ namespace strings {
 
 inline constexpr int legend = 15;
 inline constexpr int line = 21;
+inline constexpr int inside = 32;
 inline constexpr int referenceLine = 50;
+inline constexpr int none = 86;
+inline constexpr int stack = 87;
 inline constexpr int log = 116;
 inline constexpr int base = 117;
 inline constexpr int exponent = 118;
@@ -18,5 +21,7 @@ inline constexpr int percentname = 141;
 inline constexpr int yFunctionOfX = 142;
 inline constexpr int function = 143;
 inline constexpr int numPoints = 144;
+inline constexpr int yAxis = 148;
+inline constexpr int xAxis = 155;
 
 } // namespace strings

@@ -15,6 +15,8 @@ struct ZephUni {
   static constexpr XMLCh _axis[] = u"axis";
   static constexpr XMLCh _baselineStyle[] = u"baselineStyle";
   static constexpr XMLCh _blend[] = u"blend";
+  static constexpr XMLCh _both[] = u"both";
+  static constexpr XMLCh _bottom[] = u"bottom";
   static constexpr XMLCh _categorical[] = u"categorical";
   static constexpr XMLCh _cellAspect[] = u"cellAspect";
   static constexpr XMLCh _center[] = u"center";
@@ -22,6 +24,7 @@ struct ZephUni {
   static constexpr XMLCh _color[] = u"color";
   static constexpr XMLCh _combineAxisLabels[] = u"combineAxisLabels";
   static constexpr XMLCh _complete[] = u"complete";
+  static constexpr XMLCh _count[] = u"count";
   static constexpr XMLCh _creator[] = u"creator";
   static constexpr XMLCh _cross[] = u"cross";
   static constexpr XMLCh _cumulativeSum[] = u"cumulativeSum";
@@ -58,6 +61,7 @@ struct ZephUni {
   static constexpr XMLCh _labelAngle[] = u"labelAngle";
   static constexpr XMLCh _labelCollisionHandling[] = u"labelCollisionHandling";
   static constexpr XMLCh _labeling[] = u"labeling";
+  static constexpr XMLCh _left[] = u"left";
   static constexpr XMLCh _legend[] = u"legend";
   static constexpr XMLCh _legendTarget[] = u"legendTarget";
   static constexpr XMLCh _length[] = u"length";
@@ -103,6 +107,7 @@ struct ZephUni {
   static constexpr XMLCh _phi[] = u"phi";
   static constexpr XMLCh _point[] = u"point";
   static constexpr XMLCh _position[] = u"position";
+  static constexpr XMLCh _positionModifier[] = u"positionModifier";
   static constexpr XMLCh _power[] = u"power";
   static constexpr XMLCh _prefix[] = u"prefix";
   static constexpr XMLCh _quarter[] = u"quarter";
@@ -110,6 +115,7 @@ struct ZephUni {
   static constexpr XMLCh _range[] = u"range";
   static constexpr XMLCh _relabel[] = u"relabel";
   static constexpr XMLCh _reverse[] = u"reverse";
+  static constexpr XMLCh _right[] = u"right";
   static constexpr XMLCh _role[] = u"role";
   static constexpr XMLCh _scale[] = u"scale";
   static constexpr XMLCh _schema[] = u"schema";
@@ -136,6 +142,7 @@ struct ZephUni {
   static constexpr XMLCh _theta[] = u"theta";
   static constexpr XMLCh _tickLabelStyle[] = u"tickLabelStyle";
   static constexpr XMLCh _to[] = u"to";
+  static constexpr XMLCh _top[] = u"top";
   static constexpr XMLCh _transform[] = u"transform";
   static constexpr XMLCh _true[] = u"true";
   static constexpr XMLCh _twentyFour[] = u"twentyFour";

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include <chartxml/ChartHashtable.h>
 #include <chartxml/ChartStringHandler.h>
@@ -22,6 +23,9 @@ class KindsBelow;
 struct AttributeRule;
 struct ChildRule;
 struct NodeRule;
+namespace dates {
+struct Part;
+}
 
 /// Element names, for accepted parents and for placement among siblings.
 using ConstChartStringSet = std::span<const XMLCh* const>;
@@ -44,6 +48,7 @@ public:
   static constexpr XMLCh _stringformat[] = u"stringFormat";
   static constexpr XMLCh _datetimeformat[] = u"dateTimeFormat";
   static constexpr XMLCh _histogram[] = u"histogram";
+  static constexpr XMLCh _bin[] = u"bin";
   static constexpr XMLCh _lowermapping[] = u"lowerMapping";
   static constexpr XMLCh _uppermapping[] = u"upperMapping";
   static constexpr XMLCh _facetssharescale[] = u"facetsShareScale";
@@ -174,40 +179,128 @@ public:
   int AddFacetStyle(int elementOrGridLines, int when, int suffix);
   int AddCoordinateTransform(int frame, int method);
 
-  // Variables and data
+  // Variables; `column` counts the data source's columns from 0
 
   int AddVariable(int source, int column, bool categorical);
-  int AddAggregate(int source, int name, bool categorical, int label, int shortLabel, int domain);
-  int AddRelabel(int variable, int from, int to);
-  int AddRelabels(int variable, int column);
+  /// The same for values that label others.
+  int AddLabelingVariable(int source, int column, bool categorical);
+  /// The weight of the cases.
+  int AddWeightVariable(int source, int column);
+  /// A variable with the same attributes and a new id, without values of its own.
+  int CopyVariable(int variable);
+  /// Points a variable at another column; labels that the column lacks stay.
+  int SetVariable(int variable, int column, bool categorical);
+  /// Marks a variable as computed outside; its meta.
+  int SetVariableExternal(int variable);
+  /// Backslash and "n" in a label or name become a line feed.
+  int SetVariableLabel(int variable, int label);
+  int SetVariableName(int variable, int name);
+  /// Makes a variable a constant.
+  int SetVariableValue(int variable, int value);
+  int SetVariableCategorical(int variable, bool categorical);
+  /// A new string with the variable's label, or its short label when it has none.
+  int GetVariableLabel(int variable) const;
+  /// The packed display format of a column.
   int GetVariableFormat(int column) const;
   /// The column of a variable node, or -1.
   int getKORVAVarIndex(int variable) const;
   /// Marks a variable for a log scale. Returns -1 in every case.
   int CreateLogVar(int variable);
+  int AddRelabel(int variable, int from, int to);
+  int AddRelabels(int variable, int column);
+  /// Sets label and short label from a column, each when it has one. 0, or -1.
+  int AddVariableLabels(xercesc::DOMElement& variable, int column);
+  /// Gives a variable its column in the store. Always true.
+  bool mapSourceName(int variable, const XMLCh* sourceId, const XMLCh* sourceName);
+  /// Exchanges the ids of two variables, so that what refers to one by its id reaches
+  /// the other, and their metas' creators when both have a meta. 0.
+  int swapVariables(xercesc::DOMElement& first, xercesc::DOMElement& second);
+
+  // Lists of variables, from 0, and variables derived from them
+
+  int BeginVariableList();
+  /// The list; a variable may be added again.
+  int AddToVariableList(int list, int variable);
+  /// All members at once, labelled as the x axis in role 1, else as the y axis.
+  int AddOverlayVariable(int list, int role);
+  int AddRangeVariable(int list);
+  /// The members one by one, each with a constant that tells its label.
+  int AddMatrixVariable(int list);
+
+  // Computed variables
+
+  int AddAggregate(int source, int name, bool categorical, int label, int shortLabel, int domain);
+  int AddLabelingAggregate(int source, int name, bool categorical, int label, int shortLabel,
+                           int domain);
+  /// A weight that is computed.
+  int AddWeightAggregate(int source, int name, int label);
+
+  // Data; the source is not read
+
   int AddRow(int source);
   int AddDataValue(int source, int variable, int string);
   int AddDoubleDataValue(int source, int variable, double value);
 
-  // Display formats
+  // Display formats; an element is a variable or its meta
 
+  /// The meta of a variable, made when it has none.
   int AddMeta(xercesc::DOMElement& parent, xercesc::DOMElement*& meta);
   int AddMeta(int variable);
+  /// Adds what the column's, or a packed, display format shows to the variable's meta;
+  /// the meta, or -1 for a type that is neither number nor date.
   int AddMetaFormat(xercesc::DOMElement& variable, int column);
   int AddMetaFormatFromCode(xercesc::DOMElement& variable, long packed);
+  /// The same in place of the formats that the meta has.
+  int SetMetaFormat(xercesc::DOMElement& meta, long packed);
+  /// The same with a variable that has a meta; the variable.
+  int SetVariableFormat(int variable, long packed);
+  /// Each answers the meta.
   int AddNumberMeta(xercesc::DOMElement& variable, int type, int width, int decimals);
+  int AddDateMeta(xercesc::DOMElement& variable, int type, int width);
+  int AddStringMeta(xercesc::DOMElement& variable);
+  /// Adds the column's display format to a meta. Returns -1 in every case.
+  int AddFormat(int meta, int column);
+  int SetMetaWeight(int meta, bool weight);
+  /// The first number format below a variable, or -1.
+  int getVariableNumFormat(int variable) const;
+  /// Number formats are added to what the node has, other formats take its place.
   int AddNumberFormat(int parent);
   int AddNumberFormat(int meta, int type, int width, int decimals);
+  int AddStringFormat(int meta);
+  /// 0 for a format of weeks, which has a prefix; -1 for any other, also when made.
+  int AddDateFormat(int meta, int type, int width);
+  /// Appends a format without parts. 0, or -1 when neither prefix nor suffix was set.
+  int AddDateTimeFormat(xercesc::DOMElement& parent, xercesc::DOMElement*& out, int prefix,
+                        int suffix);
   int SetNumberFormatMaxFractionDigits(int numberFormat, int string);
   int SetNumberFormatPrefix(int numberFormat, int string);
   int SetNumberFormatSuffix(int numberFormat, int string);
   int SetNumberScientific(int numberFormat, bool on);
 
-  // Elements and aesthetics
+  // Elements
 
   int AddElement(int parent, int type, int suffix);
+  /// An element over bins of x and y, each bin sized by its count.
+  int AddBinnedElement(int parent, int type, int suffix, int xVariable, int yVariable);
   int AddElementGroup(int frame, int suffix);
+  /// The name of an element or a guide.
   int SetElementName(int element, int name);
+  int SetElementDot(int element, int dot);
+  int SetElementPositionModifier(int element, int modifier);
+  /// Stacks, or does not stack, the element of a position; the position.
+  int AddStack(int position, bool stack);
+  int AddStatistic(int parent, int method);
+  int AddParam(int statistic, int name, int value);
+  /// Notes which summary of a variable the chart shows, unless one is noted; the code,
+  /// or -1 for a code that is none, silently. `first` and `second` are its values.
+  int SetSummaryFunction(int variable, int code, double first, double second);
+  int AddLabel(int parent, int suffix, int content);
+  /// Gives an element its box, unless it has one.
+  void AddLocation(xercesc::DOMElement& element, const XMLCh* unit, double left, double top,
+                   double right, double bottom);
+
+  // Positions
+
   int AddPosition(int element);
   int AddX(int parent, int variable);
   int AddY(int parent, int variable);
@@ -215,14 +308,24 @@ public:
   int AddR(int parent, int variable);
   int AddTheta(int parent, int variable);
   int AddPhi(int parent, int variable);
+
+  // Other aesthetics
+
   int AddColor(int element, int variable);
+  int AddSize(int elementOrLabeling, int variable);
+  /// 0, or -1 for another node, silently.
+  int SetSizeLow(int size, int low);
+  int SetSizeHigh(int size, int high);
   int AddStyleBy(int element, int variable);
   int AddStyleByColor(int element, int variable);
   int AddStyleByPattern(int element, int variable);
   int AddStyleByColorAndPattern(int element, int variable);
-  int AddStatistic(int parent, int method);
-  int AddParam(int statistic, int name, int value);
-  int AddLabel(int parent, int suffix, int content);
+  int AddSplit(int element, int variable);
+  int AddLabeling(int element, int variable);
+  int AddLabelingSuffix(int element, int variable, int suffix);
+  /// The copy of a variable that aesthetics refer to, made when there is none, which
+  /// `made` tells; null for null.
+  xercesc::DOMElement* getAestheticVariable(xercesc::DOMElement* variable, bool& made);
 
   // Dimensions
 
@@ -291,6 +394,9 @@ public:
   /// Completes the chart and sends it. 0, or -1; a second call is not meant.
   int EndChart();
   int AddStyles();
+  /// In a chart with facets, makes aesthetics refer to copies of their variables, which
+  /// have no domain. The result of the last exchange, or -1 when there was none.
+  int updateGroupedChart();
   void updateVariableStatistics(ZephVisualization& chart) const;
   /// Assigns the printed document to `buffer`.
   void GetXmlBuffer(std::string& buffer, bool printWhiteSpace) const;
@@ -301,8 +407,7 @@ private:
   using Where = std::source_location;
   using Element = xercesc::DOMElement;
 
-  struct RoleRule;
-  struct AestheticRule;
+  struct MeasureRule;
 
   // Checks of arguments that several operations share
   bool validString(int string, const char* what, Where where) const;
@@ -325,6 +430,7 @@ private:
   // Writing texts
   const XMLCh* legalText(const XMLCh* text, std::size_t length);
   const XMLCh* legalText(int string);
+  std::u16string brokenIntoLines(int string);
   void setText(Element& element, const XMLCh* attribute, int string);
   void setOptionalText(Element& element, const XMLCh* attribute, int string);
   static void setFlag(Element& element, const XMLCh* attribute, bool on);
@@ -336,9 +442,12 @@ private:
 
   // Shared courses of operations
   int giveId(Element& element, const XMLCh* id, bool sharedStyle, Where where);
-  int addRole(int parent, int variable, const RoleRule& rule, Where where);
-  int addAesthetic(int element, int variable, const AestheticRule& rule, Where where);
-  int addStyleBy(int element, int variable, const char* refusal, const XMLCh* cycle, Where where);
+  int addMeasure(int parent, int variable, const MeasureRule& rule, Where where);
+  int addRole(int parent, int variable, int role, ConstChartStringSet before, Where where);
+  Element* aestheticParent(int element, int variable, const NodeRule& rule, Where where) const;
+  Element& makeBound(const XMLCh* name, int variable);
+  int addAesthetic(int element, int variable, const ChildRule& rule, Where where);
+  int addStyleBy(int element, int variable, const ChildRule& rule, const XMLCh* cycle, Where where);
   int addStyleByCycle(int element, int variable, const XMLCh* cycle, Where where);
   Element* addNamedCycle(const XMLCh* id);
   void writeStyleValues() const;
@@ -357,19 +466,39 @@ private:
   Element& makeLegendTarget(int elementOrGuide, int suffix, Where where);
   int setNumberFormatText(int numberFormat, int string, const XMLCh* attribute, const char* what,
                           Where where);
-  void AddVariableLabels(Element& variable, int column);
+  Element& makeColumnVariable(int source, int column, const std::u16string& name);
+  int enterColumnVariable(Element& variable, const Element& source, int column,
+                          const std::u16string& name);
+  int placeVariable(Element& variable);
+  Element& copyWithoutId(const Element& original);
   void addVariableLabel(Element& variable, const XMLCh* attribute, const char* text);
-  bool mapSourceName(int variable, const XMLCh* sourceId, std::u16string_view sourceName);
   std::u16string nextVariableName() const;
   const VarDataProcessor::_varinfo* storeOf(int variable);
   void noteRow(bool stored, Where where = Where::current());
   std::size_t currentRow() const;
+  Element* knownMeta(Element& variable);
   Element& metaOf(Element& variable);
   static void setCreator(Element& meta, const XMLCh* origin, const XMLCh* kind);
-  static const XMLCh* sourceIdOf(const Element& sourceOrVariable);
+  const XMLCh* sourceIdOf(const Element& sourceOrVariable) const;
+  Element& describedMeta(Element& variable);
+  void describeAsLabeling(Element& variable);
+  static const XMLCh* labelOf(const Element& variable);
+  int setVariableText(int variable, int string, const char* what, const XMLCh* attribute,
+                      Where where);
+  std::vector<int>* variableList(int list, const char* operation, Where where);
+  static void addTerm(std::u16string& expression, std::u16string_view term);
+  void addLabelVariable(const Element& member, const std::u16string& id);
+  int addDerivedVariable(const std::u16string& expression, int shortLabel);
+  std::u16string aggregateName(int name);
+  Element& appendRelabel(Element& variable, const XMLCh* from, const XMLCh* to);
+  std::vector<Element*> groupingsOfElements(const XMLCh* name) const;
   int addRelabel(Element& variable, const XMLCh* from, const XMLCh* to);
   void addGridLines(Element& ticks, const std::u16string& style);
   int addNumberFormat(Element& meta, int type, int decimals);
+  int addStringFormat(Element& meta);
+  int addDateFormat(Element& meta, int type, int width);
+  void addDateParts(Element& format, const XMLCh* name, std::span<const dates::Part> parts,
+                    int width);
   static void addCurrency(Element& format, int number);
   int send();
 
@@ -385,6 +514,7 @@ private:
   std::string chartTemplate_;
   PostProcessingChartType chartType_ = 0;
   ChartHashtable<Element> elements_;
+  std::map<int, std::vector<int>> variableLists_;
   std::multimap<int, int> variableColumns_;
   std::map<int, std::unique_ptr<VarDataProcessor::_varinfo>> variableStores_;
   int nextIdNumber_ = 1;

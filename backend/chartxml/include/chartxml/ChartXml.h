@@ -150,8 +150,28 @@ public:
   int CreateChartDescription(int chart, int string);
 
   int AddVariable(int chart, int source, int variable, bool categorical);
+  int AddLabelingVariable(int chart, int source, int variable, bool categorical);
+  int AddWeightVariable(int chart, int source, int variable);
+  int SetVariable(int chart, int node, int variable, bool categorical);
+  int CopyVariable(int chart, int variable);
+  /// Chart::SetVariableExternal.
+  int SetAggregateExternal(int chart, int variable);
+  int SetVariableLabel(int chart, int variable, int label);
+  int SetVariableName(int chart, int variable, int name);
+  int SetVariableValue(int chart, int variable, int value);
+  int SetVariableCategorical(int chart, int variable, bool categorical);
+  int GetVariableLabel(int chart, int variable);
+  int BeginVariableList(int chart);
+  int AddToVariableList(int chart, int list, int variable);
+  int AddOverlayVariable(int chart, int list, int role);
+  int AddRangeVariable(int chart, int list);
+  int AddMatrixVariable(int chart, int list);
   int AddAggregate(int chart, int source, int name, bool categorical, int label, int shortLabel,
                    int domain);
+  int AddLabelingAggregate(int chart, int source, int name, bool categorical, int label,
+                           int shortLabel, int domain);
+  int SetSummaryFunction(int chart, int variable, int code, const double& first,
+                         const double& second);
   int AddRelabel(int chart, int variable, int from, int to);
   int AddRelabels(int chart, int node, int variable);
   int GetVariableFormat(int chart, int variable);
@@ -168,6 +188,10 @@ public:
   int AddElement(int chart, int parent, int type, int suffix);
   int AddElementGroup(int chart, int frame, int suffix);
   int SetElementName(int chart, int element, int name);
+  int SetElementDot(int chart, int element, int dot);
+  int SetElementPositionModifier(int chart, int element, int modifier);
+  int AddStack(int chart, int position, bool stack);
+  int AddBinnedElement(int chart, int parent, int type, int suffix, int xVariable, int yVariable);
   int AddPosition(int chart, int element);
   int AddX(int chart, int parent, int variable);
   int AddY(int chart, int parent, int variable);
@@ -176,10 +200,16 @@ public:
   int AddTheta(int chart, int parent, int variable);
   int AddPhi(int chart, int parent, int variable);
   int AddColor(int chart, int element, int variable);
+  int AddSize(int chart, int elementOrLabeling, int variable);
+  int SetSizeLow(int chart, int size, int low);
+  int SetSizeHigh(int chart, int size, int high);
   int AddStyleBy(int chart, int element, int variable);
   int AddStyleByColor(int chart, int element, int variable);
   int AddStyleByPattern(int chart, int element, int variable);
   int AddStyleByColorAndPattern(int chart, int element, int variable);
+  int AddSplit(int chart, int element, int variable);
+  int AddLabeling(int chart, int element, int variable);
+  int AddLabelingSuffix(int chart, int element, int variable, int suffix);
   int AddStatistic(int chart, int parent, int method);
   int AddParam(int chart, int statistic, int name, int value);
   int AddLabel(int chart, int parent, int suffix, int content);
@@ -245,6 +275,7 @@ public:
 private:
   using Where = std::source_location;
   struct At;
+  struct Column;
 
   struct XmlPlatform;
 

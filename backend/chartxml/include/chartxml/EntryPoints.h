@@ -233,6 +233,47 @@ CHARTXML_API int64_t cx_addsource_(const int64_t* chart);
 CHARTXML_API int64_t cx_addvariable_(const int64_t* chart, const int64_t* source,
                                      const int64_t* variableNumber, const int64_t* categorical);
 
+/** Declares a variable of the procedure whose values label others. Returns the new variable.
+ *  Reports a variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_addlabelingvariable_(const int64_t* chart, const int64_t* source,
+                                             const int64_t* variableNumber,
+                                             const int64_t* categorical);
+
+/** Declares the variable of the procedure that weights the cases. Returns the new variable.
+ *  Reports a variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_addweightvariable_(const int64_t* chart, const int64_t* source,
+                                           const int64_t* variableNumber);
+
+/** Points a variable node at another variable of the procedure, whose label and display format
+ *  it takes; it keeps the column that its values are stored in. Returns the variable. Reports a
+ *  variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_setvariable_(const int64_t* chart, const int64_t* variable,
+                                     const int64_t* variableNumber, const int64_t* categorical);
+
+/** Marks a variable as computed outside the chart. Returns the variable's meta. */
+CHARTXML_API int64_t cx_setaggregateexternal_(const int64_t* chart, const int64_t* variable);
+
+/** Labels a variable; backslash and "n" become a line feed. Returns the variable. */
+CHARTXML_API int64_t cx_setvariablelabel_(const int64_t* chart, const int64_t* variable,
+                                          const int64_t* caption);
+
+/** Gives a variable its short label; backslash and "n" become a line feed. Returns the variable. */
+CHARTXML_API int64_t cx_setvariablename_(const int64_t* chart, const int64_t* variable,
+                                         const int64_t* name);
+
+/** Makes a variable a constant. Returns the variable. */
+CHARTXML_API int64_t cx_setvariablevalue_(const int64_t* chart, const int64_t* variable,
+                                          const int64_t* valueString);
+
+/** Says whether the values of a variable are categories, which have no display format. Returns
+ *  the variable. */
+CHARTXML_API int64_t cx_setvariablecategorical_(const int64_t* chart, const int64_t* variable,
+                                                const int64_t* categorical);
+
+/** Registers a variable's label, or its short label when it has none. Returns the new string
+ *  handle. */
+CHARTXML_API int64_t cx_getvariablelabel_(const int64_t* chart, const int64_t* variable);
+
 /** Declares a column that the procedure computes. The source may also be a variable: the column
  *  then joins that variable's source. The names 135, 140 and 141 stand for case number, count
  *  and percentage; any other is numbered. Returns the new variable. */
@@ -240,6 +281,34 @@ CHARTXML_API int64_t cx_addaggregate_(const int64_t* chart, const int64_t* sourc
                                       const int64_t* name, const int64_t* categorical,
                                       const int64_t* label, const int64_t* shortLabel,
                                       const int64_t* domain);
+
+/** Declares a column that the procedure computes and whose values label others, else as
+ *  cx_addaggregate_ does. Returns the new variable. */
+CHARTXML_API int64_t cx_addlabelingaggregate_(const int64_t* chart, const int64_t* source,
+                                              const int64_t* name, const int64_t* categorical,
+                                              const int64_t* label, const int64_t* shortLabel,
+                                              const int64_t* domain);
+
+/** Begins a list of variables. Returns the new list, from 0 upward. */
+CHARTXML_API int64_t cx_beginvariablelist_(const int64_t* chart);
+
+/** Adds a variable to a list; it may be there already. Returns the list. Reports a list that was
+ *  not begun; a node that is no variable. */
+CHARTXML_API int64_t cx_addtovariablelist_(const int64_t* chart, const int64_t* list,
+                                           const int64_t* variable);
+
+/** Declares the variable that shows all variables of a list at once, labelled as the x axis in
+ *  role 1, else as the y axis. Returns the new variable. Reports a list that was not begun; a
+ *  bad role. */
+CHARTXML_API int64_t cx_addoverlayvariable_(const int64_t* chart, const int64_t* list,
+                                            const int64_t* role);
+
+/** The same in role 2. Returns the new variable. Reports a list that was not begun. */
+CHARTXML_API int64_t cx_addrangevariable_(const int64_t* chart, const int64_t* list);
+
+/** Declares the variable that shows the variables of a list side by side, each with a constant
+ *  that tells its label. Returns the new variable. Reports a list that was not begun. */
+CHARTXML_API int64_t cx_addmatrixvariable_(const int64_t* chart, const int64_t* list);
 
 /** Tells a variable's display format. Returns the format, packed as type * 65536 + width * 256 +
  *  decimals. Reports a variable number out of range; that there are no data. */
@@ -390,6 +459,22 @@ CHARTXML_API int64_t cx_addxyelementex_(const int64_t* chart, const int64_t* par
 CHARTXML_API int64_t cx_setelementname_(const int64_t* chart, const int64_t* element,
                                         const int64_t* name);
 
+/** Says how the points of an element are stacked into dots. Returns the element, or -1 for any
+ *  other node, silently. */
+CHARTXML_API int64_t cx_setelementdot_(const int64_t* chart, const int64_t* element,
+                                       const int64_t* dot);
+
+/** Says how parts of an element at one place give way. Returns the element. Reports a node that
+ *  is no element. */
+CHARTXML_API int64_t cx_setelementpositionmodifier_(const int64_t* chart, const int64_t* element,
+                                                    const int64_t* modifier);
+
+/** Adds an element over hexagonal bins of x and y, each sized by the cases in it. Returns the
+ *  new element. Reports any parent but a frame or an element group; a node that is no variable. */
+CHARTXML_API int64_t cx_addbinnedelement_(const int64_t* chart, const int64_t* parent,
+                                          const int64_t* type, const int64_t* suffix,
+                                          const int64_t* x, const int64_t* y);
+
 /** Gives an element a position of its own, which takes x, y and a statistic. Returns the new
  *  position. Reports a node that is no element. */
 CHARTXML_API int64_t cx_addposition_(const int64_t* chart, const int64_t* element);
@@ -434,6 +519,33 @@ CHARTXML_API int64_t cx_addstylebypattern_(const int64_t* chart, const int64_t* 
  *  Reports a node that is no element. */
 CHARTXML_API int64_t cx_addstylebycolorandpattern_(const int64_t* chart, const int64_t* element,
                                                    const int64_t* variable);
+
+/** Draws an element once for each category of a variable. Returns the new split. Reports a node
+ *  that is no element. */
+CHARTXML_API int64_t cx_addsplit_(const int64_t* chart, const int64_t* element,
+                                  const int64_t* variable);
+
+/** Labels the parts of an element with the values of a variable. Returns the new labeling.
+ *  Reports a node that is no element. */
+CHARTXML_API int64_t cx_addlabeling_(const int64_t* chart, const int64_t* element,
+                                     const int64_t* variable);
+
+/** The same with a style of its own. Returns the new labeling. Reports a node that is no
+ *  element. */
+CHARTXML_API int64_t cx_addlabelingsuffix_(const int64_t* chart, const int64_t* element,
+                                           const int64_t* variable, const int64_t* labelStyle);
+
+/** The same with the style of labels inside. Returns the new labeling. Reports a node that is no
+ *  element. */
+CHARTXML_API int64_t cx_addlabelinginside_(const int64_t* chart, const int64_t* element,
+                                           const int64_t* variable);
+
+/** Notes which summary of a variable the chart shows, unless one is noted; the values are those
+ *  of the summary, such as a percentile's. Returns the code, or -1 for a code that is no
+ *  summary, silently. */
+CHARTXML_API int64_t cx_setsummaryfunction_(const int64_t* chart, const int64_t* variable,
+                                            const int64_t* summary, const double* firstValue,
+                                            const double* secondValue);
 
 /** Has the renderer compute a statistic for a node. Returns the new statistic. */
 CHARTXML_API int64_t cx_addstatistic_(const int64_t* chart, const int64_t* parent,

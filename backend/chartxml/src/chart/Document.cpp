@@ -237,6 +237,13 @@ const XMLCh* Chart::legalText(int string) {
   return legalText(text.c_str(), text.size());
 }
 
+// A text's two characters backslash and "n" break it into lines.
+std::u16string Chart::brokenIntoLines(int string) {
+  ChartString text = stringHandler_->getXMLString(string);
+  text.unescapeLineFeeds();
+  return legalText(text.c_str(), text.text().size());
+}
+
 void Chart::setText(DOMElement& element, const XMLCh* attribute, int string) {
   element.setAttribute(attribute, legalText(string));
 }

@@ -30,10 +30,7 @@ int Chart::AddRelabel(int variable, int from, int to) {
 }
 
 int Chart::addRelabel(DOMElement& variable, const XMLCh* from, const XMLCh* to) {
-  DOMElement& relabel = makeElement(ZephUni::_relabel);
-  relabel.setAttribute(ZephUni::_from, from);
-  relabel.setAttribute(ZephUni::_to, to);
-  return append(variable, relabel);
+  return mapElement(&appendRelabel(variable, from, to));
 }
 
 // A relabel must meet the value as it is stored: a number is stored in its

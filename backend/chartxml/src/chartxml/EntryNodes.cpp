@@ -1,6 +1,7 @@
 // Frames and elements.
 #include "EntryCall.h"
 
+#include "../StringHandles.h"
 #include <chartxml/EntryPoints.h>
 
 using namespace entry;
@@ -20,6 +21,17 @@ int64_t cx_addelementgroup_(const int64_t* chart, const int64_t* frame, const in
 }
 int64_t cx_setelementname_(const int64_t* chart, const int64_t* element, const int64_t* name) {
   return call(__func__, &ChartXml::SetElementName, chart, element, name);
+}
+int64_t cx_setelementdot_(const int64_t* chart, const int64_t* element, const int64_t* dot) {
+  return call(__func__, &ChartXml::SetElementDot, chart, element, dot);
+}
+int64_t cx_setelementpositionmodifier_(const int64_t* chart, const int64_t* element,
+                                       const int64_t* modifier) {
+  return call(__func__, &ChartXml::SetElementPositionModifier, chart, element, modifier);
+}
+int64_t cx_addbinnedelement_(const int64_t* chart, const int64_t* parent, const int64_t* type,
+                             const int64_t* suffix, const int64_t* x, const int64_t* y) {
+  return call(__func__, &ChartXml::AddBinnedElement, chart, parent, type, suffix, x, y);
 }
 int64_t cx_addposition_(const int64_t* chart, const int64_t* element) {
   return call(__func__, &ChartXml::AddPosition, chart, element);
@@ -52,6 +64,21 @@ int64_t cx_addstylebypattern_(const int64_t* chart, const int64_t* element,
 int64_t cx_addstylebycolorandpattern_(const int64_t* chart, const int64_t* element,
                                       const int64_t* variable) {
   return call(__func__, &ChartXml::AddStyleByColorAndPattern, chart, element, variable);
+}
+int64_t cx_addsplit_(const int64_t* chart, const int64_t* element, const int64_t* variable) {
+  return call(__func__, &ChartXml::AddSplit, chart, element, variable);
+}
+int64_t cx_addlabeling_(const int64_t* chart, const int64_t* element, const int64_t* variable) {
+  return call(__func__, &ChartXml::AddLabeling, chart, element, variable);
+}
+int64_t cx_addlabelingsuffix_(const int64_t* chart, const int64_t* element, const int64_t* variable,
+                              const int64_t* labelStyle) {
+  return call(__func__, &ChartXml::AddLabelingSuffix, chart, element, variable, labelStyle);
+}
+int64_t cx_addlabelinginside_(const int64_t* chart, const int64_t* element,
+                              const int64_t* variable) {
+  const int64_t inside = strings::inside;
+  return call(__func__, &ChartXml::AddLabelingSuffix, chart, element, variable, &inside);
 }
 int64_t cx_addstatistic_(const int64_t* chart, const int64_t* parent, const int64_t* method) {
   return call(__func__, &ChartXml::AddStatistic, chart, parent, method);

@@ -18,7 +18,7 @@ int ChartXml::CreateChartDescription(int chart, int string) {
   return onChart(chart, &Chart::CreateChartDescription, string);
 }
 int ChartXml::AddVariable(int chart, int source, int variable, bool categorical) {
-  return onChart(chart, &Chart::AddVariable, source, getVariableIndex(variable), categorical);
+  return onChart(chart, &Chart::AddVariable, source, Column{*this, variable}, categorical);
 }
 int ChartXml::AddAggregate(int chart, int source, int name, bool categorical, int label,
                            int shortLabel, int domain) {
@@ -28,10 +28,10 @@ int ChartXml::AddRelabel(int chart, int variable, int from, int to) {
   return onChart(chart, &Chart::AddRelabel, variable, from, to);
 }
 int ChartXml::AddRelabels(int chart, int node, int variable) {
-  return onChart(chart, &Chart::AddRelabels, node, getVariableIndex(variable));
+  return onChart(chart, &Chart::AddRelabels, node, Column{*this, variable});
 }
 int ChartXml::GetVariableFormat(int chart, int variable) {
-  return onChart(chart, &Chart::GetVariableFormat, getVariableIndex(variable));
+  return onChart(chart, &Chart::GetVariableFormat, Column{*this, variable});
 }
 int ChartXml::AddNumberFormat(int chart, int parent) {
   return onChart(chart, static_cast<int (Chart::*)(int)>(&Chart::AddNumberFormat), parent);
