@@ -92,8 +92,12 @@ TEST_F(Variables, LoseAllTheirFormats) {
   const int meta = c.AddMeta(v);
   for (int i = 0; i < 40; ++i)
     c.AddNumberFormat(meta, 17, 8, 0);
+  c.AddLabel(meta, -1, -1);
   c.SetVariableCategorical(v, true);
   EXPECT_EQ(fragment(handle, meta), R"(<meta creator="external_datasource"/>)");
+  c.AddLabel(meta, -1, -1);
+  EXPECT_EQ(fragment(handle, meta), R"(<meta creator="external_datasource"><label id="label3" )"
+                                    R"(style="default_style"/></meta>)");
   c.SetVariableFormat(v, 17 << 16);
   EXPECT_EQ(fragment(handle, meta), R"(<meta creator="external_datasource">)"
                                     R"(<numberFormat scientific="always"/></meta>)");
