@@ -72,7 +72,9 @@ int Chart::AddMatrixVariable(int list) {
     const std::u16string id = member.getAttribute(ZephUni::_id);
     const std::u16string labelId = id + ZephUni::_label;
     if (!document_->getElementById(labelId.c_str())) addLabelVariable(member, labelId);
-    addTerm(expression, id + u'/' + labelId);
+    addTerm(expression, id);
+    expression += u'/';
+    expression += labelId;
   }
   return addDerivedVariable(expression, strings::yAxis);
 }
