@@ -412,8 +412,6 @@ private:
   // Checks of arguments that several operations share
   bool validString(int string, const char* what, Where where) const;
   bool validOptionalString(int string, const char* what, Where where) const;
-  Element* acceptedParent(int handle, ConstChartStringSet kinds, std::string_view refusal,
-                          Where where) const;
   Element* elementOfKind(int handle, const XMLCh* kind) const;
   bool valid(int handle, const NodeRule& rule, Where where) const;
   Element* accepted(int handle, const NodeRule& rule, Where where) const;

@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "Nodes.h"
+#include "NodeRule.h"
 #include "Placement.h"
 #include <host/Text.h>
 #include <host/ZephUni.h>
@@ -13,7 +13,10 @@ namespace {
 
 constexpr std::size_t rowCapacity = 250000;
 
-constexpr const XMLCh* frameKind[] = {ZephUni::_frame};
+// The graph, which has handle 0, takes frames too.
+constexpr NodeRule frameParent{
+    "parent", {ZephUni::_frame}, "can't add frame to anything but graph or frame - "};
+constexpr AttributeRule clipping{{"frame", {ZephUni::_frame}, nullptr}, ZephUni::_clip, nullptr};
 
 } // namespace
 
@@ -30,11 +33,8 @@ int Chart::AddSource() {
 
 int Chart::AddFrame(int parent, int suffix) {
   const Where here = Where::current();
-  if (!validHandle(parent, "parent") || !validOptionalString(suffix, "suffix", here)) return -1;
-  DOMElement* target =
-      parent == 0 ? getElement(0)
-                  : acceptedParent(parent, frameKind,
-                                   "can't add frame to anything but graph or frame - ", here);
+  if (!valid(parent, frameParent, here) || !validOptionalString(suffix, "suffix", here)) return -1;
+  DOMElement* target = parent == 0 ? getElement(0) : accepted(parent, frameParent, here);
   if (!target) return -1;
 
   DOMElement& frame = makeElement(ZephUni::_frame);
@@ -55,9 +55,5 @@ void Chart::labelSkeletonFrame(int frame, int suffix) {
 }
 
 int Chart::SetFrameClipping(int frame, bool clip) {
-  if (!validHandle(frame, "frame")) return -1;
-  DOMElement* target = elementOfKind(frame, ZephUni::_frame);
-  if (!target) return -1;
-  setFlag(*target, ZephUni::_clip, clip);
-  return frame;
+  return setAttributeFlag(frame, clipping, clip, Where::current());
 }

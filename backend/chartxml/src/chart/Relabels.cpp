@@ -1,7 +1,7 @@
 #include <chartxml/Chart.h>
 
 #include "DisplayText.h"
-#include "Nodes.h"
+#include "NodeRule.h"
 #include <chartxml/ChartXml.h>
 #include <host/Missing.h>
 #include <host/ZephUni.h>
@@ -10,18 +10,18 @@ using xercesc::DOMElement;
 
 namespace {
 
-constexpr const XMLCh* variableKind[] = {ZephUni::_variable};
+constexpr NodeRule relabelled{
+    "variable", {ZephUni::_variable}, "can't add relabel to anything but a variable - "};
 
 } // namespace
 
 int Chart::AddRelabel(int variable, int from, int to) {
   const Where here = Where::current();
-  if (!validHandle(variable, "variable") || !validString(from, "from", here) ||
+  if (!valid(variable, relabelled, here) || !validString(from, "from", here) ||
       !validString(to, "to", here)) {
     return -1;
   }
-  DOMElement* target = acceptedParent(variable, variableKind,
-                                      "can't add relabel to anything but a variable - ", here);
+  DOMElement* target = accepted(variable, relabelled, here);
   if (!target) return -1;
   const ChartString& fromText = stringHandler_->getXMLString(from);
   const ChartString& toText = stringHandler_->getXMLString(to);
@@ -37,9 +37,8 @@ int Chart::addRelabel(DOMElement& variable, const XMLCh* from, const XMLCh* to) 
 // shortest form, however many decimals its format shows.
 int Chart::AddRelabels(int variable, int column) {
   const Where here = Where::current();
-  if (!validHandle(variable, "variable") || !validVariable(column)) return -1;
-  DOMElement* target = acceptedParent(variable, variableKind,
-                                      "can't add relabel to anything but a variable - ", here);
+  if (!valid(variable, relabelled, here) || !validVariable(column)) return -1;
+  DOMElement* target = accepted(variable, relabelled, here);
   if (!target) return -1;
 
   const KORVA_Variable& described = dataSource_->GetVariable(column);
