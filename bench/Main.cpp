@@ -20,6 +20,7 @@ constexpr Comparison comparisons[] = {
     {"node/entry/100000", "node/bare/100000", "the same in a chart of 100 000 nodes"},
     {"node/entry/100000", "node/entry/1000", "a node at 100 000, against one at 1000"},
     {"node/placed/100000", "node/placed/1000", "a node placed before a sibling, the same"},
+    {"node/found/100000", "node/found/1000", "a node looked for below a frame, the same"},
     {"value/entry/1000000", "value/push_back/1000000", "row and value, against push_back"},
     {"value/entry/1000000", "value/entry/10000", "row and value at 1 000 000, against 10 000"},
     {"text/entry", "text/copy", "text registered, against a u16string copied"},

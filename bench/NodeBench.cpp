@@ -99,8 +99,26 @@ void nodesPlaced(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
+// A dimension that the frame has, one that it has not, and its facet labeling: what
+// is asked for before it is added.
+void nodesFound(benchmark::State& state) {
+  const OpenChart open;
+  const std::int64_t x = 1;
+  const std::int64_t y = 2;
+  cx_adddimension_(&open.chart, &open.frame, &x, &none);
+  cx_addfacetlabeling_(&open.chart, &open.frame);
+  open.addElements(state.range(0));
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(cx_getdimension_(&open.chart, &open.frame, &x));
+    benchmark::DoNotOptimize(cx_getdimension_(&open.chart, &open.frame, &y));
+    benchmark::DoNotOptimize(cx_addfacetlabeling_(&open.chart, &open.frame));
+  }
+  state.SetItemsProcessed(state.iterations() * 3);
+}
+
 BENCHMARK(nodesBare)->Name("node/bare")->Arg(1000)->Arg(100000);
 BENCHMARK(nodesThroughEntryPoint)->Name("node/entry")->Arg(1000)->Arg(100000);
 BENCHMARK(nodesPlaced)->Name("node/placed")->Arg(1000)->Arg(100000);
+BENCHMARK(nodesFound)->Name("node/found")->Arg(1000)->Arg(100000);
 
 } // namespace

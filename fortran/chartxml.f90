@@ -43,19 +43,34 @@ module chartxml
     cx_ivalueasstring, cx_double, cx_lrvalue, cx_lrvalueasstring, cx_value, cx_meanvalue, &
     cx_valuelabel, cx_valuelabelshort, cx_objectlabel, cx_splitlist, cx_splitheader, &
     cx_splitvariableinfo, cx_weightinfo, cx_variablename, cx_variablelabel, &
-    cx_variablelabelfromdictionary, cx_tosk, cx_addsource, cx_addvariable, cx_addaggregate, &
-    cx_addweightaggregate, cx_getvariableformat, cx_setvariableformat, cx_createlogvar, &
-    cx_addrelabel, cx_addrelabels, cx_alldatadoubles, cx_addrow, cx_adddatavalue, &
-    cx_adddoubledatavalue, cx_addframe, cx_setframeclipping, cx_addlabel, cx_addframewithlabel, &
-    cx_addsplitheaderex, cx_addfacetlabeling, cx_addfacetlabel, cx_setfacetlabelcellstyle, &
-    cx_addelement, cx_addelementgroup, cx_addxyelementex, cx_setelementname, cx_addposition, &
-    cx_addx, cx_addy, cx_addz, cx_addtheta, cx_addcolor, cx_addstyleby, cx_addstylebycolor, &
-    cx_addstylebypattern, cx_addstylebycolorandpattern, cx_addstatistic, cx_addparam, &
-    cx_adddimension, cx_getdimension, cx_setdimensionuppermargin, cx_setdimensionlowermargin, &
-    cx_setdimensionuppermapping, cx_setdimensionupper, cx_setdimensionlowermapping, cx_addaxis, &
-    cx_addmajorticks, cx_setaxispercent, cx_setlogunsafe, cx_adddimensionaxis, cx_addxydimension, &
-    cx_addxydimensionwithaxis, cx_addguide, cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, &
-    cx_addlegendframe
+    cx_variablelabelfromdictionary, cx_tosk, cx_addsource, cx_addvariable, cx_addlabelingvariable, &
+    cx_addweightvariable, cx_setvariable, cx_setaggregateexternal, cx_setvariablelabel, &
+    cx_setvariablename, cx_setvariablevalue, cx_setvariablecategorical, cx_getvariablelabel, &
+    cx_addaggregate, cx_addweightaggregate, cx_addlabelingaggregate, cx_beginvariablelist, &
+    cx_addtovariablelist, cx_addoverlayvariable, cx_addrangevariable, cx_addmatrixvariable, &
+    cx_getvariableformat, cx_setvariableformat, cx_createlogvar, cx_addrelabel, cx_addrelabels, &
+    cx_alldatadoubles, cx_addrow, cx_adddatavalue, cx_adddoubledatavalue, cx_addframe, &
+    cx_setframeclipping, cx_addlabel, cx_addframewithlabel, cx_addsplitheaderex, &
+    cx_addfacetlabeling, cx_addfacetlabel, cx_setfacetlabelcellstyle, cx_getfacetlabel, &
+    cx_setfacetlabellevel, cx_setfacetlabelgap, cx_setfacetlabelingcellaspect, cx_addtablefacet, &
+    cx_addcoordinatefacet, cx_addnest, cx_addblend, cx_addcross, cx_addfacetvariable, &
+    cx_addfacetstyle, cx_addcoordinatetransform, cx_addelement, cx_addelementgroup, &
+    cx_addxyelementex, cx_setelementname, cx_setelementdot, cx_setelementpositionmodifier, &
+    cx_addbinnedelement, cx_addposition, cx_addx, cx_addy, cx_addz, cx_addtheta, cx_addcolor, &
+    cx_addstyleby, cx_addstylebycolor, cx_addstylebypattern, cx_addstylebycolorandpattern, &
+    cx_addsplit, cx_addlabeling, cx_addlabelingsuffix, cx_addlabelinginside, &
+    cx_setsummaryfunction, cx_addstatistic, cx_addparam, cx_setdisplayoverlappinglabels, &
+    cx_setlabelcollisionhandling, cx_adddimension, cx_getdimension, cx_setdimensionuppermargin, &
+    cx_setdimensionlowermargin, cx_setdimensionuppermapping, cx_setdimensionupper, &
+    cx_setdimensionlowermapping, cx_setdimensiondomain, cx_setdimensionscale, cx_setuniondomain, &
+    cx_setdimensionsameratio, cx_setxydimensionsamescale, cx_setbinwidth, cx_adddomain, &
+    cx_addintervalex, cx_adddomainreference, cx_setdomaindescending, cx_addsort, &
+    cx_setsortdescending, cx_addsimplesort, cx_setsimplesortmethod, cx_addstatisticsort, &
+    cx_addaxis, cx_addmajorticks, cx_addminorticks, cx_setaxispercent, cx_setlogunsafe, &
+    cx_adddimensionaxis, cx_addxydimension, cx_addxydimensionwithaxis, &
+    cx_addxydimaxiswithsameratio, cx_addguide, cx_addxreferenceline, cx_addyreferenceline, &
+    cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, cx_addlegendtargetex, cx_addlegendframe, &
+    cx_addlegendframeex
 
   interface
 
@@ -455,6 +470,75 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, source, variable_number, categorical
     end function
 
+    !> Declares a variable of the procedure whose values label others. Returns the new variable.
+    !> Reports a variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_addlabelingvariable(chart, source, variable_number, &
+        categorical) bind(C, name="cx_addlabelingvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, variable_number, categorical
+    end function
+
+    !> Declares the variable of the procedure that weights the cases. Returns the new variable.
+    !> Reports a variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_addweightvariable(chart, source, variable_number) &
+        bind(C, name="cx_addweightvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, variable_number
+    end function
+
+    !> Points a variable node at another variable of the procedure, whose label and display format
+    !> it takes; it keeps the column that its values are stored in. Returns the variable. Reports a
+    !> variable number out of range; that there are no data.
+    integer(c_int64_t) function cx_setvariable(chart, variable, variable_number, categorical) &
+        bind(C, name="cx_setvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, variable_number, categorical
+    end function
+
+    !> Marks a variable as computed outside the chart. Returns the variable's meta.
+    integer(c_int64_t) function cx_setaggregateexternal(chart, variable) &
+        bind(C, name="cx_setaggregateexternal_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable
+    end function
+
+    !> Labels a variable; backslash and "n" become a line feed. Returns the variable.
+    integer(c_int64_t) function cx_setvariablelabel(chart, variable, caption) &
+        bind(C, name="cx_setvariablelabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, caption
+    end function
+
+    !> Gives a variable its short label; backslash and "n" become a line feed. Returns the variable.
+    integer(c_int64_t) function cx_setvariablename(chart, variable, name) &
+        bind(C, name="cx_setvariablename_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, name
+    end function
+
+    !> Makes a variable a constant. Returns the variable.
+    integer(c_int64_t) function cx_setvariablevalue(chart, variable, value_string) &
+        bind(C, name="cx_setvariablevalue_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, value_string
+    end function
+
+    !> Says whether the values of a variable are categories, which have no display format. Returns
+    !> the variable.
+    integer(c_int64_t) function cx_setvariablecategorical(chart, variable, categorical) &
+        bind(C, name="cx_setvariablecategorical_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, categorical
+    end function
+
+    !> Registers a variable's label, or its short label when it has none. Returns the new string
+    !> handle.
+    integer(c_int64_t) function cx_getvariablelabel(chart, variable) &
+        bind(C, name="cx_getvariablelabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable
+    end function
+
     !> Declares a column that the procedure computes. The source may also be a variable: the column
     !> then joins that variable's source. The names 135, 140 and 141 stand for case number, count
     !> and percentage; any other is numbered. Returns the new variable.
@@ -470,6 +554,53 @@ module chartxml
         bind(C, name="cx_addweightaggregate_")
       import
       integer(c_int64_t), intent(in) :: chart, source, name, label
+    end function
+
+    !> Declares a column that the procedure computes and whose values label others, else as
+    !> cx_addaggregate_ does. Returns the new variable.
+    integer(c_int64_t) function cx_addlabelingaggregate(chart, source, name, categorical, label, &
+        short_label, domain) bind(C, name="cx_addlabelingaggregate_")
+      import
+      integer(c_int64_t), intent(in) :: chart, source, name, categorical, label, short_label, &
+        domain
+    end function
+
+    !> Begins a list of variables. Returns the new list, from 0 upward.
+    integer(c_int64_t) function cx_beginvariablelist(chart) bind(C, name="cx_beginvariablelist_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+    end function
+
+    !> Adds a variable to a list; it may be there already. Returns the list. Reports a list that was
+    !> not begun; a node that is no variable.
+    integer(c_int64_t) function cx_addtovariablelist(chart, list, variable) &
+        bind(C, name="cx_addtovariablelist_")
+      import
+      integer(c_int64_t), intent(in) :: chart, list, variable
+    end function
+
+    !> Declares the variable that shows all variables of a list at once, labelled as the x axis in
+    !> role 1, else as the y axis. Returns the new variable. Reports a list that was not begun; a
+    !> bad role.
+    integer(c_int64_t) function cx_addoverlayvariable(chart, list, role) &
+        bind(C, name="cx_addoverlayvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, list, role
+    end function
+
+    !> The same in role 2. Returns the new variable. Reports a list that was not begun.
+    integer(c_int64_t) function cx_addrangevariable(chart, list) &
+        bind(C, name="cx_addrangevariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, list
+    end function
+
+    !> Declares the variable that shows the variables of a list side by side, each with a constant
+    !> that tells its label. Returns the new variable. Reports a list that was not begun.
+    integer(c_int64_t) function cx_addmatrixvariable(chart, list) &
+        bind(C, name="cx_addmatrixvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, list
     end function
 
     !> Tells a variable's display format. Returns the format, packed as type * 65536 + width * 256 +
@@ -607,6 +738,97 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, facet_label, suffix
     end function
 
+    !> Finds the first facet label of a level. Returns the facet label, or -1 when there is none,
+    !> silently. Reports a node that is no facet labeling.
+    integer(c_int64_t) function cx_getfacetlabel(chart, facet_labeling, level) &
+        bind(C, name="cx_getfacetlabel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet_labeling, level
+    end function
+
+    !> Moves a facet label to another level. Returns the facet label, or -1 for any other node,
+    !> silently.
+    integer(c_int64_t) function cx_setfacetlabellevel(chart, facet_label, level_text) &
+        bind(C, name="cx_setfacetlabellevel_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet_label, level_text
+    end function
+
+    !> Sets the gap between the panels of a facet label or facet variable. Returns the facet label
+    !> or facet variable, or -1 for any other node, silently.
+    integer(c_int64_t) function cx_setfacetlabelgap(chart, facet_label_or_variable, gap) &
+        bind(C, name="cx_setfacetlabelgap_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet_label_or_variable, gap
+    end function
+
+    !> Sets the shape of the panels. Returns the facet labeling. Reports a node that is no facet
+    !> labeling.
+    integer(c_int64_t) function cx_setfacetlabelingcellaspect(chart, facet_labeling, aspect) &
+        bind(C, name="cx_setfacetlabelingcellaspect_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet_labeling
+      real(c_double), intent(in) :: aspect
+    end function
+
+    !> Gives a frame its table of panels, at most one; one anywhere below the frame counts. Returns
+    !> the frame's table facet, new or known. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addtablefacet(chart, frame) bind(C, name="cx_addtablefacet_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame
+    end function
+
+    !> Has a frame split into panels along its coordinates. Returns the new coordinate facet.
+    !> Reports a node that is no frame.
+    integer(c_int64_t) function cx_addcoordinatefacet(chart, frame) &
+        bind(C, name="cx_addcoordinatefacet_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame
+    end function
+
+    !> Adds panels within panels: the first part of a nest is the outer, the second the inner one,
+    !> and there are no more. Returns the new nest. Reports a nest that has both parts.
+    integer(c_int64_t) function cx_addnest(chart, facet) bind(C, name="cx_addnest_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet
+    end function
+
+    !> Adds panels beside panels. Returns the new blend. Reports a nest that has both parts.
+    integer(c_int64_t) function cx_addblend(chart, facet) bind(C, name="cx_addblend_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet
+    end function
+
+    !> Adds panels by every combination. Returns the new cross. Reports a nest that has both parts.
+    integer(c_int64_t) function cx_addcross(chart, facet) bind(C, name="cx_addcross_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet
+    end function
+
+    !> Splits by a variable, along a role. Returns the new facet variable. Reports a role outside 1
+    !> to 7; a nest that has both parts.
+    integer(c_int64_t) function cx_addfacetvariable(chart, facet, role, variable) &
+        bind(C, name="cx_addfacetvariable_")
+      import
+      integer(c_int64_t), intent(in) :: chart, facet, role, variable
+    end function
+
+    !> Gives an element or grid lines a style of their own in some panels. Returns the new facet
+    !> style. Reports any other parent.
+    integer(c_int64_t) function cx_addfacetstyle(chart, element_or_grid_lines, when, suffix) &
+        bind(C, name="CX_AddFacetStyle")
+      import
+      integer(c_int64_t), intent(in) :: chart, element_or_grid_lines, when, suffix
+    end function
+
+    !> Changes the coordinates of a frame, such as 30 "transpose", 31 "polar" or 104 "rectangular".
+    !> Returns the new coordinate transform.
+    integer(c_int64_t) function cx_addcoordinatetransform(chart, frame, method) &
+        bind(C, name="cx_addcoordinatetransform_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, method
+    end function
+
     ! Elements and aesthetics
 
     !> Adds an element to a frame or an element group. Returns the new element. Reports any other
@@ -639,6 +861,30 @@ module chartxml
         bind(C, name="cx_setelementname_")
       import
       integer(c_int64_t), intent(in) :: chart, element, name
+    end function
+
+    !> Says how the points of an element are stacked into dots. Returns the element, or -1 for any
+    !> other node, silently.
+    integer(c_int64_t) function cx_setelementdot(chart, element, dot) &
+        bind(C, name="cx_setelementdot_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, dot
+    end function
+
+    !> Says how parts of an element at one place give way. Returns the element. Reports a node that
+    !> is no element.
+    integer(c_int64_t) function cx_setelementpositionmodifier(chart, element, modifier) &
+        bind(C, name="cx_setelementpositionmodifier_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, modifier
+    end function
+
+    !> Adds an element over hexagonal bins of x and y, each sized by the cases in it. Returns the
+    !> new element. Reports any parent but a frame or an element group; a node that is no variable.
+    integer(c_int64_t) function cx_addbinnedelement(chart, parent, type, suffix, x, y) &
+        bind(C, name="cx_addbinnedelement_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, type, suffix, x, y
     end function
 
     !> Gives an element a position of its own, which takes x, y and a statistic. Returns the new
@@ -714,6 +960,47 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, element, variable
     end function
 
+    !> Draws an element once for each category of a variable. Returns the new split. Reports a node
+    !> that is no element.
+    integer(c_int64_t) function cx_addsplit(chart, element, variable) bind(C, name="cx_addsplit_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Labels the parts of an element with the values of a variable. Returns the new labeling.
+    !> Reports a node that is no element.
+    integer(c_int64_t) function cx_addlabeling(chart, element, variable) &
+        bind(C, name="cx_addlabeling_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> The same with a style of its own. Returns the new labeling. Reports a node that is no
+    !> element.
+    integer(c_int64_t) function cx_addlabelingsuffix(chart, element, variable, label_style) &
+        bind(C, name="cx_addlabelingsuffix_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable, label_style
+    end function
+
+    !> The same with the style of labels inside. Returns the new labeling. Reports a node that is no
+    !> element.
+    integer(c_int64_t) function cx_addlabelinginside(chart, element, variable) &
+        bind(C, name="cx_addlabelinginside_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, variable
+    end function
+
+    !> Notes which summary of a variable the chart shows, unless one is noted; the values are those
+    !> of the summary, such as a percentile's. Returns the code, or -1 for a code that is no
+    !> summary, silently.
+    integer(c_int64_t) function cx_setsummaryfunction(chart, variable, summary, first_value, &
+        second_value) bind(C, name="cx_setsummaryfunction_")
+      import
+      integer(c_int64_t), intent(in) :: chart, variable, summary
+      real(c_double), intent(in) :: first_value, second_value
+    end function
+
     !> Has the renderer compute a statistic for a node. Returns the new statistic.
     integer(c_int64_t) function cx_addstatistic(chart, parent, method) &
         bind(C, name="cx_addstatistic_")
@@ -726,6 +1013,20 @@ module chartxml
         bind(C, name="cx_addparam_")
       import
       integer(c_int64_t), intent(in) :: chart, statistic, name, value_string
+    end function
+
+    !> Says whether labels of an element are shown that would cover others. Returns the element.
+    integer(c_int64_t) function cx_setdisplayoverlappinglabels(chart, element, display) &
+        bind(C, name="cx_setdisplayoverlappinglabels_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, display
+    end function
+
+    !> Says what happens to labels of an element that would cover others. Returns the element.
+    integer(c_int64_t) function cx_setlabelcollisionhandling(chart, element, handling) &
+        bind(C, name="cx_setlabelcollisionhandling_")
+      import
+      integer(c_int64_t), intent(in) :: chart, element, handling
     end function
 
     ! Dimensions, axes and guides
@@ -786,6 +1087,121 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, dimension, mapping
     end function
 
+    !> Gives a dimension its domain, in place of one that it has. Returns the dimension.
+    integer(c_int64_t) function cx_setdimensiondomain(chart, dimension, domain) &
+        bind(C, name="cx_setdimensiondomain_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension, domain
+    end function
+
+    !> Adds a scale to a dimension. Returns the new scale, or -1 for any other node, silently.
+    integer(c_int64_t) function cx_setdimensionscale(chart, dimension, scale_method, scale_value, &
+        invert) bind(C, name="cx_setdimensionscale_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension, scale_method, scale_value, invert
+    end function
+
+    !> Has a dimension span all that is drawn along it. Returns the dimension. Reports a node that
+    !> is no dimension.
+    integer(c_int64_t) function cx_setuniondomain(chart, dimension) &
+        bind(C, name="cx_setuniondomain_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension
+    end function
+
+    !> Gives the units of a dimension the length that they have in the others, and the chart's first
+    !> facet labeling square panels. Returns the dimension; any other node too, where only the
+    !> panels change.
+    integer(c_int64_t) function cx_setdimensionsameratio(chart, dimension, same_ratio) &
+        bind(C, name="cx_setdimensionsameratio_")
+      import
+      integer(c_int64_t), intent(in) :: chart, dimension, same_ratio
+    end function
+
+    !> Gives every domain of the chart an interval around 0. Returns 1, or -1 when nothing happened,
+    !> silently.
+    integer(c_int64_t) function cx_setxydimensionsamescale(chart, extent) &
+        bind(C, name="cx_setxydimensionsamescale_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+      real(c_double), intent(in) :: extent
+    end function
+
+    !> Sets the width of the bins of every histogram of the chart. Returns 1, or -1 when nothing
+    !> happened, silently.
+    integer(c_int64_t) function cx_setbinwidth(chart, bin_width) bind(C, name="cx_setbinwidth_")
+      import
+      integer(c_int64_t), intent(in) :: chart
+      real(c_double), intent(in) :: bin_width
+    end function
+
+    !> Adds a domain, which dimensions may share, and, unless the method is -1, a sort with a simple
+    !> sort in it. Returns the domain when the method is -1, else the simple sort: the handle before
+    !> it is the sort, the one before that the domain.
+    integer(c_int64_t) function cx_adddomain(chart, ignored1, ignored2, categorical, sort_method) &
+        bind(C, name="cx_adddomain_")
+      import
+      integer(c_int64_t), intent(in) :: chart, ignored1, ignored2, categorical, sort_method
+    end function
+
+    !> Adds an interval to a domain. Returns the new interval. Reports a node that is no domain.
+    integer(c_int64_t) function cx_addintervalex(chart, domain, min, max) &
+        bind(C, name="cx_addintervalex_")
+      import
+      integer(c_int64_t), intent(in) :: chart, domain, min, max
+    end function
+
+    !> Has a domain take in another domain, or the values of a variable. Returns the new domain
+    !> reference. Reports a node that is no domain; one that is neither domain nor variable; two of
+    !> which only one is categorical.
+    integer(c_int64_t) function cx_adddomainreference(chart, domain, domain_or_variable) &
+        bind(C, name="cx_adddomainreference_")
+      import
+      integer(c_int64_t), intent(in) :: chart, domain, domain_or_variable
+    end function
+
+    !> Sets the order of a domain on its first sort, which is added when there is none. Returns the
+    !> domain. Reports a node that is no domain.
+    integer(c_int64_t) function cx_setdomaindescending(chart, domain, descending) &
+        bind(C, name="cx_setdomaindescending_")
+      import
+      integer(c_int64_t), intent(in) :: chart, domain, descending
+    end function
+
+    !> Adds a sort to a domain. Returns the new sort. Reports a node that is no domain.
+    integer(c_int64_t) function cx_addsort(chart, domain) bind(C, name="cx_addsort_")
+      import
+      integer(c_int64_t), intent(in) :: chart, domain
+    end function
+
+    !> Sets the order of a sort. Returns the sort. Reports a node that is no sort.
+    integer(c_int64_t) function cx_setsortdescending(chart, sort, descending) &
+        bind(C, name="cx_setsortdescending_")
+      import
+      integer(c_int64_t), intent(in) :: chart, sort, descending
+    end function
+
+    !> Sorts by the values themselves. Returns the new simple sort. Reports a node that is no sort.
+    integer(c_int64_t) function cx_addsimplesort(chart, sort) bind(C, name="cx_addsimplesort_")
+      import
+      integer(c_int64_t), intent(in) :: chart, sort
+    end function
+
+    !> Sets how a simple sort compares. Returns the simple sort, or -1 for any other node, silently.
+    integer(c_int64_t) function cx_setsimplesortmethod(chart, simple_sort, method) &
+        bind(C, name="cx_setsimplesortmethod_")
+      import
+      integer(c_int64_t), intent(in) :: chart, simple_sort, method
+    end function
+
+    !> Sorts the values of one variable by those of another. Returns the new statistic sort. Reports
+    !> a node that is no sort.
+    integer(c_int64_t) function cx_addstatisticsort(chart, sort, source_variable, stat_variable) &
+        bind(C, name="cx_addstatisticsort_")
+      import
+      integer(c_int64_t), intent(in) :: chart, sort, source_variable, stat_variable
+    end function
+
     !> Adds an axis to a dimension. Returns the new axis.
     integer(c_int64_t) function cx_addaxis(chart, parent, suffix, opposite) &
         bind(C, name="cx_addaxis_")
@@ -799,6 +1215,14 @@ module chartxml
       import
       integer(c_int64_t), intent(in) :: chart, parent, position, grid_lines, length, label_angle, &
         stagger, delta
+    end function
+
+    !> Adds the ticks between the major ones to an axis. Returns the new ticks. Reports that the
+    !> mark style is taken, beside major ticks.
+    integer(c_int64_t) function cx_addminorticks(chart, parent, position, grid_lines, length, &
+        tick_count) bind(C, name="cx_addminorticks_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, position, grid_lines, length, tick_count
     end function
 
     !> Shows an axis in percent. Returns the node, also for a bad chart.
@@ -846,6 +1270,17 @@ module chartxml
       integer(c_int64_t), intent(inout) :: x_style, x_axis, y_style, y_axis
     end function
 
+    !> Gives a frame x and y dimensions with axes, ticks and margins of 0%, whose units have one
+    !> length. Returns the x dimension.
+    integer(c_int64_t) function cx_addxydimaxiswithsameratio(chart, parent, x_domain, y_domain, &
+        x_opposite, y_opposite, same_ratio, x_style, x_axis, y_style, y_axis) &
+        bind(C, name="cx_addxydimaxiswithsameratio_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, x_domain, y_domain, x_opposite, y_opposite, &
+        same_ratio
+      integer(c_int64_t), intent(inout) :: x_style, x_axis, y_style, y_axis
+    end function
+
     !> Adds a guide to a frame. Returns the new guide. Reports a node that is no frame.
     integer(c_int64_t) function cx_addguide(chart, frame, type, suffix) &
         bind(C, name="cx_addguide_")
@@ -853,20 +1288,36 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, frame, type, suffix
     end function
 
+    !> Adds a line at a value of x to a frame. Returns the new guide. Reports a node that is no
+    !> frame.
+    integer(c_int64_t) function cx_addxreferenceline(chart, frame, value_string, guide_style) &
+        bind(C, name="cx_addxreferenceline_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, value_string, guide_style
+    end function
+
+    !> Adds a line at a value of y to a frame. Returns the new guide. Reports a node that is no
+    !> frame.
+    integer(c_int64_t) function cx_addyreferenceline(chart, frame, value_string, guide_style) &
+        bind(C, name="cx_addyreferenceline_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, value_string, guide_style
+    end function
+
     !> Adds the curve of a function of x to a frame. Returns the new guide. Reports a node that is
     !> no frame.
-    integer(c_int64_t) function cx_addyfunctionofx(chart, frame, function, function_style) &
+    integer(c_int64_t) function cx_addyfunctionofx(chart, frame, function, guide_style) &
         bind(C, name="cx_addyfunctionofx_")
       import
-      integer(c_int64_t), intent(in) :: chart, frame, function, function_style
+      integer(c_int64_t), intent(in) :: chart, frame, function, guide_style
     end function
 
     !> Adds a straight line to a frame and names it after its model. Returns the new guide, or -1
     !> for an infinite coefficient, silently. Reports a node that is no frame.
-    integer(c_int64_t) function cx_addyofxlinear(chart, frame, function_style, intercept, slope, &
+    integer(c_int64_t) function cx_addyofxlinear(chart, frame, guide_style, intercept, slope, &
         date_scale) bind(C, name="cx_addyofxlinear_")
       import
-      integer(c_int64_t), intent(in) :: chart, frame, function_style
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
       real(c_double), intent(in) :: intercept, slope
       integer(c_int64_t), intent(in) :: date_scale
     end function
@@ -877,12 +1328,29 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, parent, suffix
     end function
 
+    !> Has a legend explain a styleBy of an element or guide. Returns the new legend target. Reports
+    !> a node that is no legend.
+    integer(c_int64_t) function cx_addlegendtargetex(chart, parent, target, style_by, suffix) &
+        bind(C, name="cx_addlegendtargetex_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, target, style_by, suffix
+    end function
+
     !> Adds a frame with a legend that explains an element's or guide's aesthetic. Returns the new
     !> legend.
     integer(c_int64_t) function cx_addlegendframe(chart, parent, target, style_index, aesthetic, &
         ignored, style, legend) bind(C, name="cx_addlegendframe_")
       import
       integer(c_int64_t), intent(in) :: chart, parent, target, style_index, aesthetic, ignored
+      integer(c_int64_t), intent(inout) :: style, legend
+    end function
+
+    !> Adds a frame with a legend that explains a styleBy of an element or guide. Returns the new
+    !> legend.
+    integer(c_int64_t) function cx_addlegendframeex(chart, parent, target, style_index, &
+        style_by_node, style, legend) bind(C, name="cx_addlegendframeex_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, target, style_index, style_by_node
       integer(c_int64_t), intent(inout) :: style, legend
     end function
 

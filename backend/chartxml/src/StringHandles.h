@@ -5,6 +5,16 @@ namespace strings {
 
 inline constexpr int legend = 15;
 inline constexpr int subtitle = 16;
+inline constexpr int line = 21;
+inline constexpr int inside = 32;
+inline constexpr int referenceLine = 50;
+inline constexpr int none = 86;
+inline constexpr int stack = 87;
+inline constexpr int log = 116;
+inline constexpr int base = 117;
+inline constexpr int exponent = 118;
+inline constexpr int naturalLog = 124; ///< has no text
+inline constexpr int x = 128;
 inline constexpr int y = 129;
 inline constexpr int casenum = 135;
 inline constexpr int countname = 140;
@@ -12,5 +22,7 @@ inline constexpr int percentname = 141;
 inline constexpr int yFunctionOfX = 142;
 inline constexpr int function = 143;
 inline constexpr int numPoints = 144;
+inline constexpr int yAxis = 148;
+inline constexpr int xAxis = 155;
 
 } // namespace strings

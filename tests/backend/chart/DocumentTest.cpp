@@ -55,42 +55,6 @@ TEST_F(Document, LetsTheNextHandlePassTheCheckButChangesNothingForIt) {
   EXPECT_EQ(fragment(handle, 0), before);
 }
 
-TEST_F(Document, RefusesParentsOfTheWrongKindByName) {
-  const int frame = made.AddFrame(0, -1);
-  const int element = made.AddElement(frame, 23, -1);
-  const int source = made.AddSource();
-  takeReports();
-  const std::pair<int, const char*> refusals[] = {
-      {made.AddFrame(element, -1), "can't add frame to anything but graph or frame - element"},
-      {made.AddElement(0, 23, -1),
-       "can't add element to anything but frame or elementGroup - graph"},
-      {made.AddElementGroup(element, -1), "can't add element to anything but frame - element"},
-      {made.AddPosition(frame), "can't add position to anything but element - frame"},
-      {made.AddX(frame, 0), "can't add x to anything but element or position - frame"},
-      {made.AddPhi(element, frame), "phi requires a variable id reference frame"},
-      {made.AddColor(frame, frame), "can't add color to anything but element - frame"},
-      {made.AddStyleBy(frame, frame), "can't add styleBy to anything but element - frame"},
-      {made.AddStyleByColor(frame, frame), "can't add styleBy to anything but element frame"},
-      {made.AddStyleByPattern(frame, frame), "can't add styleBy to anything but element frame"},
-      {made.AddGuide(0, 143, -1), "can't add guide to anything but frame - graph"},
-      {made.AddLegendTarget(frame, element, -1, -1),
-       "can't add legendTarget to anything but a legend - frame"},
-      {made.AddFacetLabeling(element),
-       "can't add a facet labeling to anything but a frame - element"},
-      {made.AddFacetLabel(frame, -1, 0, false),
-       "can't add facet label to anything but facet labeling - frame"},
-      {made.SetFacetLabelCellStyle(frame, -1),
-       "can't set the cellStyle for anything but a facetLabel frame"},
-      {made.AddRelabel(source, 17, 17), "can't add relabel to anything but a variable - source"},
-  };
-  const std::vector<std::string> reports = takeReports();
-  ASSERT_EQ(reports.size(), std::size(refusals));
-  for (std::size_t i = 0; i < reports.size(); ++i) {
-    EXPECT_EQ(refusals[i].first, -1) << i;
-    EXPECT_EQ(reports[i], refusals[i].second);
-  }
-}
-
 TEST_F(Document, NamesBadArgumentsByTheirNoun) {
   const int frame = made.AddFrame(0, -1);
   made.AddFrame(9, -1);
@@ -302,23 +266,4 @@ TEST_F(Document, SetsWhatIsSentBesideTheDocument) {
   EXPECT_EQ(made.CopyAttributes(description, 0), 0);
   EXPECT_EQ(fragment(handle, 0), R"(<graph name="title"><description name="title"/></graph>)");
   EXPECT_THAT(takeReports(), IsEmpty());
-}
-
-TEST_F(Document, TellsHowSendingFailed) {
-  made.CreateChartDescription(text("what it shows"));
-  made.getChart()->getDocumentElement()->setAttribute(u"name", u"\u0001");
-  EXPECT_EQ(made.EndChart(), -1);
-  const std::vector<std::string> unprintable = takeReports();
-  ASSERT_EQ(unprintable.size(), 1U);
-  EXPECT_THAT(unprintable[0], testing::MatchesRegex("Fatal error while sending chart \\( .+ \\)"));
-
-  struct Broken : host::ChartSink {
-    void send(const host::SentChart&) override { throw std::runtime_error("broken"); }
-    void noteError(const std::string&) override {}
-  };
-  host::setChartSink(std::make_unique<Broken>());
-  const int other = registry().CreateChart();
-  registry().SetChartDescription(other, "what it shows");
-  EXPECT_EQ(registry().EndChart(other), -1);
-  EXPECT_THAT(takeReports(), ElementsAre("Fatal error while sending chart [ what it shows ]"));
 }

@@ -52,14 +52,38 @@ TEST_F(Placement, PutsEachNodeBeforeTheNamesOfItsSet) {
       {"position", "styleBy color labeling split", [&](int p) { return made.AddPhi(p, v); }},
       {"element", "color labeling split", [&](int p) { return made.AddStyleBy(p, v); }},
       {"element", "labeling split", [&](int p) { return made.AddColor(p, v); }},
+      {"element", "split", [&](int p) { return made.AddLabeling(p, v); }},
+      {"labeling", "numberFormat stringFormat dateTimeFormat",
+       [&](int p) { return made.AddSize(p, v); }},
+      {"frame",
+       "label legend frame tableFacet facetLabeling coordinateFacet coordinateTransform dimension "
+       "guide elementGroup element",
+       [&](int p) {
+         made.AddLocation(*made.getElement(p), u"", 0, 0, 0, 0);
+         return p + 1;
+       }},
       {"element", "x y z theta r phi", [&](int p) { return made.AddStatistic(p, 64); }},
       {"axis", "majorTicks minorTicks legendTarget transform",
        [&](int p) { return made.AddLabel(p, -1, -1); }},
       {"frame", "guide elementGroup element", [&](int p) { return made.AddDimension(p, 1, -1); }},
+      {"dimension", "axis label", [&](int p) { return made.SetDimensionScale(p, 124, -1, true); }},
+      {"domain", "domainReference sort numberFormat stringFormat dateTimeFormat relabel",
+       [&](int p) { return made.AddInterval(p, 17, 17); }},
+      {"domain", "numberFormat stringFormat dateTimeFormat relabel",
+       [&](int p) { return made.AddSort(p); }},
       {"axis", "minorTicks legendTarget",
        [&](int p) { return made.AddMajorTicks(p, -1, false, -1, -1, false, -1); }},
       {"frame", "coordinateFacet coordinateTransform dimension guide elementGroup element",
        [&](int p) { return made.AddFacetLabeling(p); }},
+      {"frame",
+       "facetLabeling coordinateFacet coordinateTransform dimension guide elementGroup element",
+       [&](int p) { return made.AddTableFacet(p); }},
+      {"frame", "coordinateTransform dimension guide elementGroup element",
+       [&](int p) { return made.AddCoordinateFacet(p); }},
+      {"frame", "dimension guide element elementGroup",
+       [&](int p) { return made.AddCoordinateTransform(p, 31); }},
+      {"element", "position x y z theta r phi styleBy color labeling split",
+       [&](int p) { return made.AddFacetStyle(p, 17, -1); }},
   };
   for (const Case& c : cases) {
     std::istringstream names(c.before);
@@ -81,17 +105,39 @@ TEST_F(Placement, PutsEachNodeBeforeTheNamesOfItsSet) {
   EXPECT_GE(any, 0);
 }
 
-// Sources, variables and frames stand in this order below the graph.
+// Sources, variables, domains and frames stand in this order below the graph.
 TEST_F(Placement, KeepsThePartsOfTheGraphInOrder) {
   Dictionary* dictionary = described({Column("v", "", 0, {0, 8, 0})}, {0});
   registry().SetDataSource(handle, nullptr, dictionary);
   made.AddFrame(0, -1);
   const int source = made.AddSource();
   made.AddVariable(source, 0, true);
+  made.AddDomain(true);
   made.AddAggregate(source, -1, true, -1, -1, -1);
+  made.AddDomain(true);
   made.AddSource();
-  EXPECT_EQ(childNames(*made.getElement(0)), "source source variable variable frame ");
+  EXPECT_EQ(childNames(*made.getElement(0)),
+            "source source variable variable domain domain frame ");
   EXPECT_EQ(host::utf8(made.getElement(source)->getAttribute(u"id")), "source0");
+}
+
+// Copies go before style cycles too, variables do not.
+TEST_F(Placement, PutsVariablesAndTheirCopiesIntoTheGraph) {
+  DOMElement& graph = *made.getElement(0);
+  const int source = made.AddSource();
+  bool copied = false;
+  for (const char* name : {"domain", "frame", "style", "styleCycle"}) {
+    DOMElement& later = loose(name);
+    graph.appendChild(&later);
+    const int v = made.AddAggregate(source, -1, true, -1, -1, -1);
+    made.CopyVariable(v);
+    made.getAestheticVariable(made.getElement(v), copied);
+    EXPECT_EQ(childNames(graph), later.getNodeName() == std::u16string(u"styleCycle")
+                                     ? "source variable variable styleCycle variable "
+                                     : fmt::format("source variable variable variable {} ", name));
+    for (int child = 0; child < 4; ++child)
+      graph.removeChild(graph.getLastElementChild());
+  }
 }
 
 // The remembered places must be those that a scan of the siblings finds.

@@ -1,4 +1,5 @@
 #include "../support/BuilderTest.h"
+#include "../support/EntryArguments.h"
 
 #include <cstdint>
 
@@ -7,17 +8,6 @@
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-namespace {
-
-/// An integer argument: its address lives as long as the full expression.
-struct Int {
-  Int(std::int64_t given) : value(given) {}
-  operator const std::int64_t*() const { return &value; }
-  std::int64_t value;
-};
-
-} // namespace
 
 class EntryPoints : public BuilderTest {
 protected:

@@ -7,11 +7,25 @@
 
 namespace {
 
+// An explicit instantiation may name private members: this is how a test brings a chart
+// into a state that no call does.
+template <class Member, Member Pointer> struct Reach {
+  friend Member reach(Member*) { return Pointer; }
+};
+using Flag = bool Chart::*;
+using Lists = std::map<int, std::vector<int>> Chart::*;
+Flag reach(Flag*);
+Lists reach(Lists*);
+template struct Reach<Flag, &Chart::dataRefused_>;
+template struct Reach<Lists, &Chart::variableLists_>;
+
 struct CollectingSink : host::ChartSink {
-  CollectingSink(std::vector<Sent>& charts, bool& fails) : sent(charts), fail(fails) {}
+  CollectingSink(std::vector<Sent>& charts, bool& fails, SendAction& does)
+      : sent(charts), fail(fails), action(does) {}
 
   void send(const host::SentChart& chart) override {
     if (fail) throw ChartException("the sink is full", "sink", 1);
+    if (action) action(chart);
     sent.push_back(
         {chart.name, chart.xml, chart.description, chart.splitHeader, chart.chartTemplate, {}});
   }
@@ -19,6 +33,7 @@ struct CollectingSink : host::ChartSink {
 
   std::vector<Sent>& sent;
   bool& fail;
+  SendAction& action;
 };
 
 void print(const xercesc::DOMElement& element, std::string& out) {
@@ -49,7 +64,7 @@ void print(const xercesc::DOMElement& element, std::string& out) {
 BuilderTest::BuilderTest() {
   host::setErrorCallback(
       [this](const host::ErrorReport& report) { reports_.push_back(report.message); });
-  host::setChartSink(std::make_unique<CollectingSink>(sent, sinkFails));
+  host::setChartSink(std::make_unique<CollectingSink>(sent, sinkFails, whenSent));
 }
 
 BuilderTest::~BuilderTest() {
@@ -68,4 +83,12 @@ std::string BuilderTest::fragment(int chartHandle, int node) {
   std::string out;
   print(*chart(chartHandle).getElement(node), out);
   return out;
+}
+
+void BuilderTest::refuseData(int chartHandle) {
+  chart(chartHandle).*reach(static_cast<Flag*>(nullptr)) = true;
+}
+
+void BuilderTest::loseVariableLists(int chartHandle) {
+  (chart(chartHandle).*reach(static_cast<Lists*>(nullptr))).clear();
 }

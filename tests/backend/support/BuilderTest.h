@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -69,6 +70,8 @@ struct Sent {
   std::vector<std::string> errors{};
 };
 
+using SendAction = std::function<void(const host::SentChart&)>;
+
 /// A fresh registry for every test; reports and sent charts are collected.
 class BuilderTest : public ::testing::Test {
 protected:
@@ -89,11 +92,16 @@ protected:
   /// The subtree under a node handle as compact XML, attributes in order of name.
   static std::string fragment(int chartHandle, int node);
 
+  /// States that the library guards against, though none of its calls leads there.
+  static void refuseData(int chartHandle);
+  static void loseVariableLists(int chartHandle);
+
   /// The messages reported since the last call.
   std::vector<std::string> takeReports() { return std::exchange(reports_, {}); }
 
   std::vector<Sent> sent;
   bool sinkFails = false;
+  SendAction whenSent; ///< sees, or refuses by an exception, what is sent
 
 private:
   std::vector<std::string> reports_;

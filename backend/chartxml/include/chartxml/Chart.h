@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include <chartxml/ChartHashtable.h>
 #include <chartxml/ChartStringHandler.h>
@@ -18,6 +19,10 @@
 #include <host/XDocument.h>
 
 class ChildOrder;
+class KindsBelow;
+struct AttributeRule;
+struct ChildRule;
+struct NodeRule;
 namespace dates {
 struct Part;
 }
@@ -43,14 +48,20 @@ public:
   static constexpr XMLCh _stringformat[] = u"stringFormat";
   static constexpr XMLCh _datetimeformat[] = u"dateTimeFormat";
   static constexpr XMLCh _histogram[] = u"histogram";
+  static constexpr XMLCh _bin[] = u"bin";
   static constexpr XMLCh _lowermapping[] = u"lowerMapping";
   static constexpr XMLCh _uppermapping[] = u"upperMapping";
   static constexpr XMLCh _facetssharescale[] = u"facetsShareScale";
+  static constexpr XMLCh _sameratio[] = u"sameRatio";
+  static constexpr XMLCh _safe[] = u"safe";
+  static constexpr XMLCh _sort[] = u"sort";
   static constexpr XMLCh _gridlines[] = u"gridLines";
   static constexpr XMLCh _tablefacet[] = u"tableFacet";
   static constexpr XMLCh _coordinatefacet[] = u"coordinateFacet";
   static constexpr XMLCh _facetlabeling[] = u"facetLabeling";
   static constexpr XMLCh _facetlabel[] = u"facetLabel";
+  static constexpr XMLCh _facetvariable[] = u"facetVariable";
+  static constexpr XMLCh _facetstyle[] = u"facetStyle";
   static constexpr XMLCh _cellstyle[] = u"cellStyle";
   static constexpr XMLCh _coordinatetransform[] = u"coordinateTransform";
 
@@ -92,7 +103,7 @@ public:
   int mapElement(xercesc::DOMElement* element);
   /// The element under a handle, or null.
   xercesc::DOMElement* getElement(int handle) const;
-  /// The handle of an element, or -1. Walks the whole table: for rare use.
+  /// The handle of an element, or -1.
   int getHandle(const xercesc::DOMElement* element) const;
   int AddEmptyElement(xercesc::DOMElement& parent, const XMLCh* name, xercesc::DOMElement*& out);
   int AddDescription(int parent, int name);
@@ -141,28 +152,92 @@ public:
   bool validVariable(int index) const;
   bool validVariableList(int list) const;
 
-  // Frames, sources and facets
+  // Frames and sources
 
   int AddSource();
   int AddFrame(int parent, int suffix);
   int SetFrameClipping(int frame, bool clip);
-  int AddFacetLabeling(int frame);
-  int AddFacetLabel(int facetLabeling, int suffix, int level, bool reverse);
-  int SetFacetLabelCellStyle(int facetLabel, int suffix);
 
-  // Variables and data
+  // Facets and coordinates
+
+  /// The table facet below a frame; made when there is none.
+  int AddTableFacet(int frame);
+  /// The facet labeling below a frame; made when there is none.
+  int AddFacetLabeling(int frame);
+  int AddCoordinateFacet(int frame);
+  int AddNest(int parent);
+  int AddBlend(int parent);
+  int AddCross(int parent);
+  int AddFacetVariable(int parent, int role, int variable);
+  int AddFacetLabel(int facetLabeling, int suffix, int level, bool reverse);
+  /// The label of that level, or -1, silently.
+  int GetFacetLabel(int facetLabeling, int level);
+  int SetFacetLabelLevel(int facetLabel, int level);
+  /// The gap of a facet label or of a facet variable.
+  int SetFacetLabelGap(int facetLabel, int gap);
+  int SetFacetLabelCellStyle(int facetLabel, int suffix);
+  int SetFacetLabelingCellAspect(int facetLabeling, double aspect);
+  int AddFacetStyle(int elementOrGridLines, int when, int suffix);
+  int AddCoordinateTransform(int frame, int method);
+
+  // Variables; `column` counts the data source's columns from 0
 
   int AddVariable(int source, int column, bool categorical);
-  int AddAggregate(int source, int name, bool categorical, int label, int shortLabel, int domain);
-  /// A computed variable whose meta says that it weights cases.
-  int AddWeightAggregate(int source, int name, int label);
-  int AddRelabel(int variable, int from, int to);
-  int AddRelabels(int variable, int column);
+  /// The same for values that label others.
+  int AddLabelingVariable(int source, int column, bool categorical);
+  /// The weight of the cases.
+  int AddWeightVariable(int source, int column);
+  /// A variable with the same attributes and a new id, without values of its own.
+  int CopyVariable(int variable);
+  /// Points a variable at another column; labels that the column lacks stay.
+  int SetVariable(int variable, int column, bool categorical);
+  /// Marks a variable as computed outside; its meta.
+  int SetVariableExternal(int variable);
+  /// Backslash and "n" in a label or name become a line feed.
+  int SetVariableLabel(int variable, int label);
+  int SetVariableName(int variable, int name);
+  /// Makes a variable a constant.
+  int SetVariableValue(int variable, int value);
+  int SetVariableCategorical(int variable, bool categorical);
+  /// A new string with the variable's label, or its short label when it has none.
+  int GetVariableLabel(int variable) const;
+  /// The packed display format of a column.
   int GetVariableFormat(int column) const;
   /// The column of a variable node, or -1.
   int getKORVAVarIndex(int variable) const;
   /// Marks a variable for a log scale. Returns -1 in every case.
   int CreateLogVar(int variable);
+  int AddRelabel(int variable, int from, int to);
+  int AddRelabels(int variable, int column);
+  /// Sets label and short label from a column, each when it has one. 0, or -1.
+  int AddVariableLabels(xercesc::DOMElement& variable, int column);
+  /// Gives a variable its column in the store. Always true.
+  bool mapSourceName(int variable, const XMLCh* sourceId, const XMLCh* sourceName);
+  /// Exchanges the ids of two variables, so that what refers to one by its id reaches
+  /// the other, and their metas' creators when both have a meta. 0.
+  int swapVariables(xercesc::DOMElement& first, xercesc::DOMElement& second);
+
+  // Lists of variables, from 0, and variables derived from them
+
+  int BeginVariableList();
+  /// The list; a variable may be added again.
+  int AddToVariableList(int list, int variable);
+  /// All members at once, labelled as the x axis in role 1, else as the y axis.
+  int AddOverlayVariable(int list, int role);
+  int AddRangeVariable(int list);
+  /// The members one by one, each with a constant that tells its label.
+  int AddMatrixVariable(int list);
+
+  // Computed variables
+
+  int AddAggregate(int source, int name, bool categorical, int label, int shortLabel, int domain);
+  int AddLabelingAggregate(int source, int name, bool categorical, int label, int shortLabel,
+                           int domain);
+  /// The same, with a meta that says that it weights cases.
+  int AddWeightAggregate(int source, int name, int label);
+
+  // Data; the source is not read
+
   int AddRow(int source);
   int AddDataValue(int source, int variable, int string);
   int AddDoubleDataValue(int source, int variable, double value);
@@ -203,11 +278,30 @@ public:
   int SetNumberFormatSuffix(int numberFormat, int string);
   int SetNumberScientific(int numberFormat, bool on);
 
-  // Elements and aesthetics
+  // Elements
 
   int AddElement(int parent, int type, int suffix);
+  /// An element over bins of x and y, each bin sized by its count.
+  int AddBinnedElement(int parent, int type, int suffix, int xVariable, int yVariable);
   int AddElementGroup(int frame, int suffix);
+  /// The name of an element or a guide.
   int SetElementName(int element, int name);
+  int SetElementDot(int element, int dot);
+  int SetElementPositionModifier(int element, int modifier);
+  /// Stacks, or does not stack, the element of a position; the position.
+  int AddStack(int position, bool stack);
+  int AddStatistic(int parent, int method);
+  int AddParam(int statistic, int name, int value);
+  /// Notes which summary of a variable the chart shows, unless one is noted; the code,
+  /// or -1 for a code that is none, silently. `first` and `second` are its values.
+  int SetSummaryFunction(int variable, int code, double first, double second);
+  int AddLabel(int parent, int suffix, int content);
+  /// Gives an element its box, unless it has one.
+  void AddLocation(xercesc::DOMElement& element, const XMLCh* unit, double left, double top,
+                   double right, double bottom);
+
+  // Positions
+
   int AddPosition(int element);
   int AddX(int parent, int variable);
   int AddY(int parent, int variable);
@@ -215,37 +309,95 @@ public:
   int AddR(int parent, int variable);
   int AddTheta(int parent, int variable);
   int AddPhi(int parent, int variable);
+
+  // Other aesthetics
+
   int AddColor(int element, int variable);
+  int AddSize(int elementOrLabeling, int variable);
+  /// 0, or -1 for another node, silently.
+  int SetSizeLow(int size, int low);
+  int SetSizeHigh(int size, int high);
   int AddStyleBy(int element, int variable);
   int AddStyleByColor(int element, int variable);
   int AddStyleByPattern(int element, int variable);
   int AddStyleByColorAndPattern(int element, int variable);
-  int AddStatistic(int parent, int method);
-  int AddParam(int statistic, int name, int value);
-  int AddLabel(int parent, int suffix, int content);
+  int AddSplit(int element, int variable);
+  int AddLabeling(int element, int variable);
+  int AddLabelingSuffix(int element, int variable, int suffix);
+  /// The copy of a variable that aesthetics refer to, made when there is none, which
+  /// `made` tells; null for null.
+  xercesc::DOMElement* getAestheticVariable(xercesc::DOMElement* variable, bool& made);
 
-  // Dimensions, axes and guides
+  // Dimensions
 
+  /// The node below a frame that has the role; a new dimension when there is none.
   int AddDimension(int frame, int role, int domain);
+  /// The first dimension of that role anywhere below a frame, or -1, silently.
   int GetDimension(int frame, int role);
+  int SetDimensionDomain(int dimension, int domain);
+  /// Method 124 is the natural logarithm, whose value is not read.
+  int SetDimensionScale(int dimension, int method, int value, bool invert);
   int SetDimensionLowerMargin(int dimension, int margin);
   int SetDimensionUpperMargin(int dimension, int margin);
   int SetDimensionLowerMapping(int dimension, int mapping);
   int SetDimensionUpperMapping(int dimension, int mapping);
+  int SetUnionDomain(int dimension);
+  int SetFacetsDifferentScale(int dimension);
+
+  // Domains
+
+  int AddDomain(bool categorical);
+  int AddInterval(int domain, int min, int max);
+  int AddDomainReference(int domain, int domainOrVariable);
+  /// Sets the order on the domain's first sort, made when there is none.
+  int SetDomainDescending(int domain, bool descending);
+  int AddSort(int domain);
+  int AddSimpleSort(int sort);
+  int SetSimpleSortMethod(int simpleSort, int method);
+  int AddStatisticSort(int sort, int sourceVariable, int statVariable);
+  int SetSortDescending(int sort, bool descending);
+
+  // Axes
+
   int AddAxis(int parent, int suffix, bool opposite);
+  /// Grid lines have a handle of their own, the one before their ticks'.
   int AddMajorTicks(int parent, int position, bool gridLines, int length, int labelAngle,
                     bool stagger, int delta);
+  int AddMinorTicks(int axis, int position, bool gridLines, int length, int number);
+  int AddTransform(int parent, int method);
+
+  // Guides and legends
+
   int AddGuide(int frame, int type, int suffix);
+  /// A line at a value of x (role 1) or y (role 2); no place in another role.
+  int AddReferenceLine(int frame, int role, int value, int styleIndex);
   int AddYFunctionOfX(int frame, int function, int styleIndex);
   int AddLegend(int frame, int suffix);
   int AddLegendTarget(int legend, int elementOrGuide, int suffix, int aesthetic);
-  int AddTransform(int parent, int method);
+  /// The same with the styleBy node that the legend explains.
+  int AddLegendTargetEx(int legend, int elementOrGuide, int styleBy, int suffix);
+
+  // Adjustments of what is there
+
+  /// Gives the dimension its ratio, whatever its kind the node is answered, and the
+  /// chart's first facet labeling square cells.
+  int SetDimensionSameRatio(int dimension, bool same);
+  /// The bin width of every histogram. 1, or -1 when there is none or the width is
+  /// not positive, silently.
+  int SetBinWidth(double width);
+  /// An interval from -extent to extent for every domain; results alike.
+  int SetXYDimensionSameScale(double extent);
+  int SetDisplayOverlappingLabels(int element, bool display);
+  int SetLabelCollisionHandling(int element, int handling);
 
   // Finishing
 
   /// Completes the chart and sends it. 0, or -1; a second call is not meant.
   int EndChart();
   int AddStyles();
+  /// In a chart with facets, makes aesthetics refer to copies of their variables, which
+  /// have no domain. The result of the last exchange, or -1 when there was none.
+  int updateGroupedChart();
   void updateVariableStatistics(ZephVisualization& chart) const;
   /// Assigns the printed document to `buffer`.
   void GetXmlBuffer(std::string& buffer, bool printWhiteSpace) const;
@@ -256,15 +408,14 @@ private:
   using Where = std::source_location;
   using Element = xercesc::DOMElement;
 
-  struct RoleRule;
-  struct AestheticRule;
+  struct MeasureRule;
 
   // Checks of arguments that several operations share
   bool validString(int string, const char* what, Where where) const;
   bool validOptionalString(int string, const char* what, Where where) const;
-  Element* acceptedParent(int handle, ConstChartStringSet kinds, std::string_view refusal,
-                          Where where) const;
   Element* elementOfKind(int handle, const XMLCh* kind) const;
+  bool valid(int handle, const NodeRule& rule, Where where) const;
+  Element* accepted(int handle, const NodeRule& rule, Where where) const;
   void report(const std::string& message, Where where) const;
 
   // Making nodes
@@ -272,34 +423,54 @@ private:
   Element& appendElement(Element& parent, const XMLCh* name);
   int append(Element& parent, Element& child);
   int place(Element& parent, Element& child, ConstChartStringSet before);
+  int addChild(int parent, const ChildRule& rule, Where where);
   void takeOut(Element& child);
 
   // Writing texts
   const XMLCh* legalText(const XMLCh* text, std::size_t length);
   const XMLCh* legalText(int string);
+  std::u16string brokenIntoLines(int string);
   void setText(Element& element, const XMLCh* attribute, int string);
   void setOptionalText(Element& element, const XMLCh* attribute, int string);
   static void setFlag(Element& element, const XMLCh* attribute, bool on);
+  int setAttribute(int node, const AttributeRule& rule, const XMLCh* value, Where where);
+  int setAttributeFlag(int node, const AttributeRule& rule, bool on, Where where);
+  int setAttributeText(int node, const AttributeRule& rule, int string, Where where);
   std::u16string styleName(const XMLCh* stem, int suffix);
+  void setOwnStyle(Element& element, const XMLCh* attribute, const std::u16string& style);
 
   // Shared courses of operations
   int giveId(Element& element, const XMLCh* id, bool sharedStyle, Where where);
-  int addRole(int parent, int variable, const RoleRule& rule, Where where);
-  int addAesthetic(int element, int variable, const AestheticRule& rule, Where where);
-  int addStyleBy(int element, int variable, const char* refusal, const XMLCh* cycle, Where where);
+  int addMeasure(int parent, int variable, const MeasureRule& rule, Where where);
+  int addRole(int parent, int variable, int role, ConstChartStringSet before, Where where);
+  Element* aestheticParent(int element, int variable, const NodeRule& rule, Where where) const;
+  Element& makeBound(const XMLCh* name, int variable);
+  int addAesthetic(int element, int variable, const ChildRule& rule, Where where);
+  int addStyleBy(int element, int variable, const ChildRule& rule, const XMLCh* cycle, Where where);
   int addStyleByCycle(int element, int variable, const XMLCh* cycle, Where where);
   Element* addNamedCycle(const XMLCh* id);
   void writeStyleValues() const;
   bool formatMeta(Element& variable, long packed);
   void appendToStyle(const Element& element, std::u16string_view text);
   void labelSkeletonFrame(int frame, int suffix);
-  int setDimensionText(int dimension, int string, const XMLCh* attribute, const char* what,
-                       Where where);
+  void noteRole(const Element& node);
+  Element* childInRole(const Element& parent, int role, const XMLCh* name) const;
+  Element* firstBelow(const Element& root, const XMLCh* name, int kind,
+                      const XMLCh* role = nullptr) const;
+  int addOnce(int frame, const ChildRule& rule, int kind, Where where);
+  int addFacetPart(int parent, const XMLCh* name, Where where);
+  Element* facetWithRoom(int handle, Where where) const;
+  Element* sortOf(Element& domain);
+  int keepIfWhole(int guide, bool whole);
+  Element& makeLegendTarget(int elementOrGuide, int suffix, Where where);
   int setNumberFormatText(int numberFormat, int string, const XMLCh* attribute, const char* what,
                           Where where);
-  void AddVariableLabels(Element& variable, int column);
+  Element& makeColumnVariable(int source, int column, const std::u16string& name);
+  int enterColumnVariable(Element& variable, const Element& source, int column,
+                          const std::u16string& name);
+  int placeVariable(Element& variable);
+  Element& copyWithoutId(const Element& original);
   void addVariableLabel(Element& variable, const XMLCh* attribute, const char* text);
-  bool mapSourceName(int variable, const XMLCh* sourceId, std::u16string_view sourceName);
   std::u16string nextVariableName() const;
   const VarDataProcessor::_varinfo* storeOf(int variable);
   void noteRow(bool stored, Where where = Where::current());
@@ -307,9 +478,21 @@ private:
   Element* knownMeta(Element& variable);
   Element& metaOf(Element& variable);
   static void setCreator(Element& meta, const XMLCh* origin, const XMLCh* kind);
-  static const XMLCh* sourceIdOf(const Element& sourceOrVariable);
+  const XMLCh* sourceIdOf(const Element& sourceOrVariable) const;
+  Element& describedMeta(Element& variable);
+  void describeAsLabeling(Element& variable);
+  static const XMLCh* labelOf(const Element& variable);
+  int setVariableText(int variable, int string, const char* what, const XMLCh* attribute,
+                      Where where);
+  std::vector<int>* variableList(int list, const char* operation, Where where);
+  static void addTerm(std::u16string& expression, std::u16string_view term);
+  void addLabelVariable(const Element& member, const std::u16string& id);
+  int addDerivedVariable(const std::u16string& expression, int shortLabel);
+  std::u16string aggregateName(int name);
+  Element& appendRelabel(Element& variable, const XMLCh* from, const XMLCh* to);
+  std::vector<Element*> groupingsOfElements(const XMLCh* name) const;
   int addRelabel(Element& variable, const XMLCh* from, const XMLCh* to);
-  void addGridLines(Element& ticks, const Element& axis);
+  void addGridLines(Element& ticks, const std::u16string& style);
   int addNumberFormat(Element& meta, int type, int decimals);
   int addStringFormat(Element& meta);
   int addDateFormat(Element& meta, int type, int width);
@@ -330,6 +513,7 @@ private:
   std::string chartTemplate_;
   PostProcessingChartType chartType_ = 0;
   ChartHashtable<Element> elements_;
+  std::map<int, std::vector<int>> variableLists_;
   std::multimap<int, int> variableColumns_;
   std::map<int, std::unique_ptr<VarDataProcessor::_varinfo>> variableStores_;
   int nextIdNumber_ = 1;
@@ -344,6 +528,10 @@ private:
   std::unique_ptr<VarDataProcessor> dataProcessor_;
 
   std::unique_ptr<ChildOrder> childOrder_;
+  std::unique_ptr<KindsBelow> kindsBelow_;
+  // Noted when somebody asks: most charts look no handle up.
+  mutable std::unordered_map<const Element*, int> handles_;
+  mutable int handlesNoted_ = 0;
   std::unordered_map<Element*, std::u16string> styleValues_; ///< as GetXmlBuffer writes them
   std::u16string scratch_;       ///< a text on its way into the document
   std::u16string idText_;        ///< an id on its way into the document

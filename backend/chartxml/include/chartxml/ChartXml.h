@@ -149,17 +149,34 @@ public:
   int AddSource(int chart);
   int AddFrame(int chart, int parent, int suffix);
   int SetFrameClipping(int chart, int frame, bool clip);
-  int AddFacetLabeling(int chart, int frame);
-  int AddFacetLabel(int chart, int facetLabeling, int suffix, int level, bool reverse);
-  int SetFacetLabelCellStyle(int chart, int facetLabel, int suffix);
   int SetChartType(int chart, int type);
   int SetChartTemplate(int chart, const std::string& name);
   int CreateChartDescription(int chart, int string);
 
   int AddVariable(int chart, int source, int variable, bool categorical);
+  int AddLabelingVariable(int chart, int source, int variable, bool categorical);
+  int AddWeightVariable(int chart, int source, int variable);
+  int SetVariable(int chart, int node, int variable, bool categorical);
+  int CopyVariable(int chart, int variable);
+  /// Chart::SetVariableExternal.
+  int SetAggregateExternal(int chart, int variable);
+  int SetVariableLabel(int chart, int variable, int label);
+  int SetVariableName(int chart, int variable, int name);
+  int SetVariableValue(int chart, int variable, int value);
+  int SetVariableCategorical(int chart, int variable, bool categorical);
+  int GetVariableLabel(int chart, int variable);
+  int BeginVariableList(int chart);
+  int AddToVariableList(int chart, int list, int variable);
+  int AddOverlayVariable(int chart, int list, int role);
+  int AddRangeVariable(int chart, int list);
+  int AddMatrixVariable(int chart, int list);
   int AddAggregate(int chart, int source, int name, bool categorical, int label, int shortLabel,
                    int domain);
   int AddWeightAggregate(int chart, int source, int name, int label);
+  int AddLabelingAggregate(int chart, int source, int name, bool categorical, int label,
+                           int shortLabel, int domain);
+  int SetSummaryFunction(int chart, int variable, int code, const double& first,
+                         const double& second);
   int AddRelabel(int chart, int variable, int from, int to);
   int AddRelabels(int chart, int node, int variable);
   int GetVariableFormat(int chart, int variable);
@@ -184,6 +201,10 @@ public:
   int AddElement(int chart, int parent, int type, int suffix);
   int AddElementGroup(int chart, int frame, int suffix);
   int SetElementName(int chart, int element, int name);
+  int SetElementDot(int chart, int element, int dot);
+  int SetElementPositionModifier(int chart, int element, int modifier);
+  int AddStack(int chart, int position, bool stack);
+  int AddBinnedElement(int chart, int parent, int type, int suffix, int xVariable, int yVariable);
   int AddPosition(int chart, int element);
   int AddX(int chart, int parent, int variable);
   int AddY(int chart, int parent, int variable);
@@ -192,33 +213,82 @@ public:
   int AddTheta(int chart, int parent, int variable);
   int AddPhi(int chart, int parent, int variable);
   int AddColor(int chart, int element, int variable);
+  int AddSize(int chart, int elementOrLabeling, int variable);
+  int SetSizeLow(int chart, int size, int low);
+  int SetSizeHigh(int chart, int size, int high);
   int AddStyleBy(int chart, int element, int variable);
   int AddStyleByColor(int chart, int element, int variable);
   int AddStyleByPattern(int chart, int element, int variable);
   int AddStyleByColorAndPattern(int chart, int element, int variable);
+  int AddSplit(int chart, int element, int variable);
+  int AddLabeling(int chart, int element, int variable);
+  int AddLabelingSuffix(int chart, int element, int variable, int suffix);
   int AddStatistic(int chart, int parent, int method);
   int AddParam(int chart, int statistic, int name, int value);
   int AddLabel(int chart, int parent, int suffix, int content);
 
+  int AddTableFacet(int chart, int frame);
+  int AddFacetLabeling(int chart, int frame);
+  int AddCoordinateFacet(int chart, int frame);
+  int AddNest(int chart, int parent);
+  int AddBlend(int chart, int parent);
+  int AddCross(int chart, int parent);
+  int AddFacetVariable(int chart, int parent, int role, int variable);
+  int AddFacetLabel(int chart, int facetLabeling, int suffix, int level, bool reverse);
+  int GetFacetLabel(int chart, int facetLabeling, int level);
+  int SetFacetLabelLevel(int chart, int facetLabel, int level);
+  int SetFacetLabelGap(int chart, int facetLabel, int gap);
+  int SetFacetLabelCellStyle(int chart, int facetLabel, int suffix);
+  int SetFacetLabelingCellAspect(int chart, int facetLabeling, double aspect);
+  int AddFacetStyle(int chart, int elementOrGridLines, int when, int suffix);
+  int AddCoordinateTransform(int chart, int frame, int method);
+
   int AddDimension(int chart, int frame, int role, int domain);
   int GetDimension(int chart, int frame, int role);
+  int SetDimensionDomain(int chart, int dimension, int domain);
+  int SetDimensionScale(int chart, int dimension, int method, int value, bool invert);
   int SetDimensionLowerMargin(int chart, int dimension, int margin);
   int SetDimensionUpperMargin(int chart, int dimension, int margin);
   int SetDimensionLowerMapping(int chart, int dimension, int mapping);
   int SetDimensionUpperMapping(int chart, int dimension, int mapping);
+  int SetUnionDomain(int chart, int dimension);
+  int SetFacetsDifferentScale(int chart, int dimension);
+  int SetDimensionSameRatio(int chart, int dimension, bool same);
+  int SetBinWidth(int chart, double width);
+  int SetXYDimensionSameScale(int chart, double extent);
+
+  int AddDomain(int chart, bool categorical);
+  int AddInterval(int chart, int domain, int min, int max);
+  int AddIntervalEx(int chart, int domain, int min, int max);
+  int AddDomainReference(int chart, int domain, int domainOrVariable);
+  int SetDomainDescending(int chart, int domain, bool descending);
+  int AddSort(int chart, int domain);
+  int AddSimpleSort(int chart, int sort);
+  int SetSimpleSortMethod(int chart, int simpleSort, int method);
+  int AddStatisticSort(int chart, int sort, int sourceVariable, int statVariable);
+  int SetSortDescending(int chart, int sort, bool descending);
+
   int AddAxis(int chart, int parent, int suffix, bool opposite);
   int AddMajorTicks(int chart, int parent, int position, bool gridLines, int length, int labelAngle,
                     bool stagger, int delta);
+  int AddMinorTicks(int chart, int axis, int position, bool gridLines, int length, int number);
+  int AddTransform(int chart, int parent, int method);
   int AddGuide(int chart, int frame, int type, int suffix);
+  int AddReferenceLine(int chart, int frame, int role, int value, int styleIndex);
+  int AddXReferenceLine(int chart, int frame, int value, int styleIndex);
+  int AddYReferenceLine(int chart, int frame, int value, int styleIndex);
   int AddYFunctionOfX(int chart, int frame, int function, int styleIndex);
   int AddLegend(int chart, int frame, int suffix);
   int AddLegendTarget(int chart, int legend, int elementOrGuide, int suffix, int aesthetic);
-  int AddTransform(int chart, int parent, int method);
+  int AddLegendTargetEx(int chart, int legend, int elementOrGuide, int styleBy, int suffix);
+  int SetDisplayOverlappingLabels(int chart, int element, bool display);
+  int SetLabelCollisionHandling(int chart, int element, int handling);
   int SetLogUnsafe(int chart);
 
 private:
   using Where = std::source_location;
   struct At;
+  struct Column;
 
   struct XmlPlatform;
 

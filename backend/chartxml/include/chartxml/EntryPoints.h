@@ -264,6 +264,47 @@ CHARTXML_API int64_t cx_addsource_(const int64_t* chart);
 CHARTXML_API int64_t cx_addvariable_(const int64_t* chart, const int64_t* source,
                                      const int64_t* variableNumber, const int64_t* categorical);
 
+/** Declares a variable of the procedure whose values label others. Returns the new variable.
+ *  Reports a variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_addlabelingvariable_(const int64_t* chart, const int64_t* source,
+                                             const int64_t* variableNumber,
+                                             const int64_t* categorical);
+
+/** Declares the variable of the procedure that weights the cases. Returns the new variable.
+ *  Reports a variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_addweightvariable_(const int64_t* chart, const int64_t* source,
+                                           const int64_t* variableNumber);
+
+/** Points a variable node at another variable of the procedure, whose label and display format
+ *  it takes; it keeps the column that its values are stored in. Returns the variable. Reports a
+ *  variable number out of range; that there are no data. */
+CHARTXML_API int64_t cx_setvariable_(const int64_t* chart, const int64_t* variable,
+                                     const int64_t* variableNumber, const int64_t* categorical);
+
+/** Marks a variable as computed outside the chart. Returns the variable's meta. */
+CHARTXML_API int64_t cx_setaggregateexternal_(const int64_t* chart, const int64_t* variable);
+
+/** Labels a variable; backslash and "n" become a line feed. Returns the variable. */
+CHARTXML_API int64_t cx_setvariablelabel_(const int64_t* chart, const int64_t* variable,
+                                          const int64_t* caption);
+
+/** Gives a variable its short label; backslash and "n" become a line feed. Returns the variable. */
+CHARTXML_API int64_t cx_setvariablename_(const int64_t* chart, const int64_t* variable,
+                                         const int64_t* name);
+
+/** Makes a variable a constant. Returns the variable. */
+CHARTXML_API int64_t cx_setvariablevalue_(const int64_t* chart, const int64_t* variable,
+                                          const int64_t* valueString);
+
+/** Says whether the values of a variable are categories, which have no display format. Returns
+ *  the variable. */
+CHARTXML_API int64_t cx_setvariablecategorical_(const int64_t* chart, const int64_t* variable,
+                                                const int64_t* categorical);
+
+/** Registers a variable's label, or its short label when it has none. Returns the new string
+ *  handle. */
+CHARTXML_API int64_t cx_getvariablelabel_(const int64_t* chart, const int64_t* variable);
+
 /** Declares a column that the procedure computes. The source may also be a variable: the column
  *  then joins that variable's source. The names 135, 140 and 141 stand for case number, count
  *  and percentage; any other is numbered. Returns the new variable. */
@@ -275,6 +316,34 @@ CHARTXML_API int64_t cx_addaggregate_(const int64_t* chart, const int64_t* sourc
 /** Adds a computed variable that weights cases. Returns the new variable. */
 CHARTXML_API int64_t cx_addweightaggregate_(const int64_t* chart, const int64_t* source,
                                             const int64_t* name, const int64_t* label);
+
+/** Declares a column that the procedure computes and whose values label others, else as
+ *  cx_addaggregate_ does. Returns the new variable. */
+CHARTXML_API int64_t cx_addlabelingaggregate_(const int64_t* chart, const int64_t* source,
+                                              const int64_t* name, const int64_t* categorical,
+                                              const int64_t* label, const int64_t* shortLabel,
+                                              const int64_t* domain);
+
+/** Begins a list of variables. Returns the new list, from 0 upward. */
+CHARTXML_API int64_t cx_beginvariablelist_(const int64_t* chart);
+
+/** Adds a variable to a list; it may be there already. Returns the list. Reports a list that was
+ *  not begun; a node that is no variable. */
+CHARTXML_API int64_t cx_addtovariablelist_(const int64_t* chart, const int64_t* list,
+                                           const int64_t* variable);
+
+/** Declares the variable that shows all variables of a list at once, labelled as the x axis in
+ *  role 1, else as the y axis. Returns the new variable. Reports a list that was not begun; a
+ *  bad role. */
+CHARTXML_API int64_t cx_addoverlayvariable_(const int64_t* chart, const int64_t* list,
+                                            const int64_t* role);
+
+/** The same in role 2. Returns the new variable. Reports a list that was not begun. */
+CHARTXML_API int64_t cx_addrangevariable_(const int64_t* chart, const int64_t* list);
+
+/** Declares the variable that shows the variables of a list side by side, each with a constant
+ *  that tells its label. Returns the new variable. Reports a list that was not begun. */
+CHARTXML_API int64_t cx_addmatrixvariable_(const int64_t* chart, const int64_t* list);
 
 /** Tells a variable's display format. Returns the format, packed as type * 65536 + width * 256 +
  *  decimals. Reports a variable number out of range; that there are no data. */
@@ -358,6 +427,60 @@ CHARTXML_API int64_t cx_addfacetlabel_(const int64_t* chart, const int64_t* face
 CHARTXML_API int64_t cx_setfacetlabelcellstyle_(const int64_t* chart, const int64_t* facetLabel,
                                                 const int64_t* suffix);
 
+/** Finds the first facet label of a level. Returns the facet label, or -1 when there is none,
+ *  silently. Reports a node that is no facet labeling. */
+CHARTXML_API int64_t cx_getfacetlabel_(const int64_t* chart, const int64_t* facetLabeling,
+                                       const int64_t* level);
+
+/** Moves a facet label to another level. Returns the facet label, or -1 for any other node,
+ *  silently. */
+CHARTXML_API int64_t cx_setfacetlabellevel_(const int64_t* chart, const int64_t* facetLabel,
+                                            const int64_t* levelText);
+
+/** Sets the gap between the panels of a facet label or facet variable. Returns the facet label
+ *  or facet variable, or -1 for any other node, silently. */
+CHARTXML_API int64_t cx_setfacetlabelgap_(const int64_t* chart, const int64_t* facetLabelOrVariable,
+                                          const int64_t* gap);
+
+/** Sets the shape of the panels. Returns the facet labeling. Reports a node that is no facet
+ *  labeling. */
+CHARTXML_API int64_t cx_setfacetlabelingcellaspect_(const int64_t* chart,
+                                                    const int64_t* facetLabeling,
+                                                    const double* aspect);
+
+/** Gives a frame its table of panels, at most one; one anywhere below the frame counts. Returns
+ *  the frame's table facet, new or known. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addtablefacet_(const int64_t* chart, const int64_t* frame);
+
+/** Has a frame split into panels along its coordinates. Returns the new coordinate facet.
+ *  Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addcoordinatefacet_(const int64_t* chart, const int64_t* frame);
+
+/** Adds panels within panels: the first part of a nest is the outer, the second the inner one,
+ *  and there are no more. Returns the new nest. Reports a nest that has both parts. */
+CHARTXML_API int64_t cx_addnest_(const int64_t* chart, const int64_t* facet);
+
+/** Adds panels beside panels. Returns the new blend. Reports a nest that has both parts. */
+CHARTXML_API int64_t cx_addblend_(const int64_t* chart, const int64_t* facet);
+
+/** Adds panels by every combination. Returns the new cross. Reports a nest that has both parts. */
+CHARTXML_API int64_t cx_addcross_(const int64_t* chart, const int64_t* facet);
+
+/** Splits by a variable, along a role. Returns the new facet variable. Reports a role outside 1
+ *  to 7; a nest that has both parts. */
+CHARTXML_API int64_t cx_addfacetvariable_(const int64_t* chart, const int64_t* facet,
+                                          const int64_t* role, const int64_t* variable);
+
+/** Gives an element or grid lines a style of their own in some panels. Returns the new facet
+ *  style. Reports any other parent. */
+CHARTXML_API int64_t CX_AddFacetStyle(const int64_t* chart, const int64_t* elementOrGridLines,
+                                      const int64_t* when, const int64_t* suffix);
+
+/** Changes the coordinates of a frame, such as 30 "transpose", 31 "polar" or 104 "rectangular".
+ *  Returns the new coordinate transform. */
+CHARTXML_API int64_t cx_addcoordinatetransform_(const int64_t* chart, const int64_t* frame,
+                                                const int64_t* method);
+
 /* Elements and aesthetics */
 
 /** Adds an element to a frame or an element group. Returns the new element. Reports any other
@@ -380,6 +503,22 @@ CHARTXML_API int64_t cx_addxyelementex_(const int64_t* chart, const int64_t* par
  *  any other node, silently. */
 CHARTXML_API int64_t cx_setelementname_(const int64_t* chart, const int64_t* element,
                                         const int64_t* name);
+
+/** Says how the points of an element are stacked into dots. Returns the element, or -1 for any
+ *  other node, silently. */
+CHARTXML_API int64_t cx_setelementdot_(const int64_t* chart, const int64_t* element,
+                                       const int64_t* dot);
+
+/** Says how parts of an element at one place give way. Returns the element. Reports a node that
+ *  is no element. */
+CHARTXML_API int64_t cx_setelementpositionmodifier_(const int64_t* chart, const int64_t* element,
+                                                    const int64_t* modifier);
+
+/** Adds an element over hexagonal bins of x and y, each sized by the cases in it. Returns the
+ *  new element. Reports any parent but a frame or an element group; a node that is no variable. */
+CHARTXML_API int64_t cx_addbinnedelement_(const int64_t* chart, const int64_t* parent,
+                                          const int64_t* type, const int64_t* suffix,
+                                          const int64_t* x, const int64_t* y);
 
 /** Gives an element a position of its own, which takes x, y and a statistic. Returns the new
  *  position. Reports a node that is no element. */
@@ -426,6 +565,33 @@ CHARTXML_API int64_t cx_addstylebypattern_(const int64_t* chart, const int64_t* 
 CHARTXML_API int64_t cx_addstylebycolorandpattern_(const int64_t* chart, const int64_t* element,
                                                    const int64_t* variable);
 
+/** Draws an element once for each category of a variable. Returns the new split. Reports a node
+ *  that is no element. */
+CHARTXML_API int64_t cx_addsplit_(const int64_t* chart, const int64_t* element,
+                                  const int64_t* variable);
+
+/** Labels the parts of an element with the values of a variable. Returns the new labeling.
+ *  Reports a node that is no element. */
+CHARTXML_API int64_t cx_addlabeling_(const int64_t* chart, const int64_t* element,
+                                     const int64_t* variable);
+
+/** The same with a style of its own. Returns the new labeling. Reports a node that is no
+ *  element. */
+CHARTXML_API int64_t cx_addlabelingsuffix_(const int64_t* chart, const int64_t* element,
+                                           const int64_t* variable, const int64_t* labelStyle);
+
+/** The same with the style of labels inside. Returns the new labeling. Reports a node that is no
+ *  element. */
+CHARTXML_API int64_t cx_addlabelinginside_(const int64_t* chart, const int64_t* element,
+                                           const int64_t* variable);
+
+/** Notes which summary of a variable the chart shows, unless one is noted; the values are those
+ *  of the summary, such as a percentile's. Returns the code, or -1 for a code that is no
+ *  summary, silently. */
+CHARTXML_API int64_t cx_setsummaryfunction_(const int64_t* chart, const int64_t* variable,
+                                            const int64_t* summary, const double* firstValue,
+                                            const double* secondValue);
+
 /** Has the renderer compute a statistic for a node. Returns the new statistic. */
 CHARTXML_API int64_t cx_addstatistic_(const int64_t* chart, const int64_t* parent,
                                       const int64_t* method);
@@ -433,6 +599,14 @@ CHARTXML_API int64_t cx_addstatistic_(const int64_t* chart, const int64_t* paren
 /** Adds a parameter to a statistic, transform or guide. Returns the new parameter. */
 CHARTXML_API int64_t cx_addparam_(const int64_t* chart, const int64_t* statistic,
                                   const int64_t* name, const int64_t* valueString);
+
+/** Says whether labels of an element are shown that would cover others. Returns the element. */
+CHARTXML_API int64_t cx_setdisplayoverlappinglabels_(const int64_t* chart, const int64_t* element,
+                                                     const int64_t* display);
+
+/** Says what happens to labels of an element that would cover others. Returns the element. */
+CHARTXML_API int64_t cx_setlabelcollisionhandling_(const int64_t* chart, const int64_t* element,
+                                                   const int64_t* handling);
 
 /* Dimensions, axes and guides */
 
@@ -471,6 +645,75 @@ CHARTXML_API int64_t cx_setdimensionupper_(const int64_t* chart, const int64_t* 
 CHARTXML_API int64_t cx_setdimensionlowermapping_(const int64_t* chart, const int64_t* dimension,
                                                   const int64_t* mapping);
 
+/** Gives a dimension its domain, in place of one that it has. Returns the dimension. */
+CHARTXML_API int64_t cx_setdimensiondomain_(const int64_t* chart, const int64_t* dimension,
+                                            const int64_t* domain);
+
+/** Adds a scale to a dimension. Returns the new scale, or -1 for any other node, silently. */
+CHARTXML_API int64_t cx_setdimensionscale_(const int64_t* chart, const int64_t* dimension,
+                                           const int64_t* scaleMethod, const int64_t* scaleValue,
+                                           const int64_t* invert);
+
+/** Has a dimension span all that is drawn along it. Returns the dimension. Reports a node that
+ *  is no dimension. */
+CHARTXML_API int64_t cx_setuniondomain_(const int64_t* chart, const int64_t* dimension);
+
+/** Gives the units of a dimension the length that they have in the others, and the chart's first
+ *  facet labeling square panels. Returns the dimension; any other node too, where only the
+ *  panels change. */
+CHARTXML_API int64_t cx_setdimensionsameratio_(const int64_t* chart, const int64_t* dimension,
+                                               const int64_t* sameRatio);
+
+/** Gives every domain of the chart an interval around 0. Returns 1, or -1 when nothing happened,
+ *  silently. */
+CHARTXML_API int64_t cx_setxydimensionsamescale_(const int64_t* chart, const double* extent);
+
+/** Sets the width of the bins of every histogram of the chart. Returns 1, or -1 when nothing
+ *  happened, silently. */
+CHARTXML_API int64_t cx_setbinwidth_(const int64_t* chart, const double* binWidth);
+
+/** Adds a domain, which dimensions may share, and, unless the method is -1, a sort with a simple
+ *  sort in it. Returns the domain when the method is -1, else the simple sort: the handle before
+ *  it is the sort, the one before that the domain. */
+CHARTXML_API int64_t cx_adddomain_(const int64_t* chart, const int64_t* ignored1,
+                                   const int64_t* ignored2, const int64_t* categorical,
+                                   const int64_t* sortMethod);
+
+/** Adds an interval to a domain. Returns the new interval. Reports a node that is no domain. */
+CHARTXML_API int64_t cx_addintervalex_(const int64_t* chart, const int64_t* domain,
+                                       const int64_t* min, const int64_t* max);
+
+/** Has a domain take in another domain, or the values of a variable. Returns the new domain
+ *  reference. Reports a node that is no domain; one that is neither domain nor variable; two of
+ *  which only one is categorical. */
+CHARTXML_API int64_t cx_adddomainreference_(const int64_t* chart, const int64_t* domain,
+                                            const int64_t* domainOrVariable);
+
+/** Sets the order of a domain on its first sort, which is added when there is none. Returns the
+ *  domain. Reports a node that is no domain. */
+CHARTXML_API int64_t cx_setdomaindescending_(const int64_t* chart, const int64_t* domain,
+                                             const int64_t* descending);
+
+/** Adds a sort to a domain. Returns the new sort. Reports a node that is no domain. */
+CHARTXML_API int64_t cx_addsort_(const int64_t* chart, const int64_t* domain);
+
+/** Sets the order of a sort. Returns the sort. Reports a node that is no sort. */
+CHARTXML_API int64_t cx_setsortdescending_(const int64_t* chart, const int64_t* sort,
+                                           const int64_t* descending);
+
+/** Sorts by the values themselves. Returns the new simple sort. Reports a node that is no sort. */
+CHARTXML_API int64_t cx_addsimplesort_(const int64_t* chart, const int64_t* sort);
+
+/** Sets how a simple sort compares. Returns the simple sort, or -1 for any other node, silently. */
+CHARTXML_API int64_t cx_setsimplesortmethod_(const int64_t* chart, const int64_t* simpleSort,
+                                             const int64_t* method);
+
+/** Sorts the values of one variable by those of another. Returns the new statistic sort. Reports
+ *  a node that is no sort. */
+CHARTXML_API int64_t cx_addstatisticsort_(const int64_t* chart, const int64_t* sort,
+                                          const int64_t* sourceVariable,
+                                          const int64_t* statVariable);
+
 /** Adds an axis to a dimension. Returns the new axis. */
 CHARTXML_API int64_t cx_addaxis_(const int64_t* chart, const int64_t* parent, const int64_t* suffix,
                                  const int64_t* opposite);
@@ -480,6 +723,12 @@ CHARTXML_API int64_t cx_addmajorticks_(const int64_t* chart, const int64_t* pare
                                        const int64_t* position, const int64_t* gridLines,
                                        const int64_t* length, const int64_t* labelAngle,
                                        const int64_t* stagger, const int64_t* delta);
+
+/** Adds the ticks between the major ones to an axis. Returns the new ticks. Reports that the
+ *  mark style is taken, beside major ticks. */
+CHARTXML_API int64_t cx_addminorticks_(const int64_t* chart, const int64_t* parent,
+                                       const int64_t* position, const int64_t* gridLines,
+                                       const int64_t* length, const int64_t* tickCount);
 
 /** Shows an axis in percent. Returns the node, also for a bad chart. */
 CHARTXML_API int64_t cx_setaxispercent_(const int64_t* chart, const int64_t* node,
@@ -514,24 +763,49 @@ CHARTXML_API int64_t cx_addxydimensionwithaxis_(const int64_t* chart, const int6
                                                 int64_t* xStyle, int64_t* xAxis, int64_t* yStyle,
                                                 int64_t* yAxis);
 
+/** Gives a frame x and y dimensions with axes, ticks and margins of 0%, whose units have one
+ *  length. Returns the x dimension. */
+CHARTXML_API int64_t cx_addxydimaxiswithsameratio_(const int64_t* chart, const int64_t* parent,
+                                                   const int64_t* xDomain, const int64_t* yDomain,
+                                                   const int64_t* xOpposite,
+                                                   const int64_t* yOpposite,
+                                                   const int64_t* sameRatio, int64_t* xStyle,
+                                                   int64_t* xAxis, int64_t* yStyle, int64_t* yAxis);
+
 /** Adds a guide to a frame. Returns the new guide. Reports a node that is no frame. */
 CHARTXML_API int64_t cx_addguide_(const int64_t* chart, const int64_t* frame, const int64_t* type,
                                   const int64_t* suffix);
 
+/** Adds a line at a value of x to a frame. Returns the new guide. Reports a node that is no
+ *  frame. */
+CHARTXML_API int64_t cx_addxreferenceline_(const int64_t* chart, const int64_t* frame,
+                                           const int64_t* valueString, const int64_t* guideStyle);
+
+/** Adds a line at a value of y to a frame. Returns the new guide. Reports a node that is no
+ *  frame. */
+CHARTXML_API int64_t cx_addyreferenceline_(const int64_t* chart, const int64_t* frame,
+                                           const int64_t* valueString, const int64_t* guideStyle);
+
 /** Adds the curve of a function of x to a frame. Returns the new guide. Reports a node that is
  *  no frame. */
 CHARTXML_API int64_t cx_addyfunctionofx_(const int64_t* chart, const int64_t* frame,
-                                         const int64_t* function, const int64_t* functionStyle);
+                                         const int64_t* function, const int64_t* guideStyle);
 
 /** Adds a straight line to a frame and names it after its model. Returns the new guide, or -1
  *  for an infinite coefficient, silently. Reports a node that is no frame. */
 CHARTXML_API int64_t cx_addyofxlinear_(const int64_t* chart, const int64_t* frame,
-                                       const int64_t* functionStyle, const double* intercept,
+                                       const int64_t* guideStyle, const double* intercept,
                                        const double* slope, const int64_t* dateScale);
 
 /** Adds a legend to a frame. Returns the new legend. */
 CHARTXML_API int64_t cx_addlegend_(const int64_t* chart, const int64_t* parent,
                                    const int64_t* suffix);
+
+/** Has a legend explain a styleBy of an element or guide. Returns the new legend target. Reports
+ *  a node that is no legend. */
+CHARTXML_API int64_t cx_addlegendtargetex_(const int64_t* chart, const int64_t* parent,
+                                           const int64_t* target, const int64_t* styleBy,
+                                           const int64_t* suffix);
 
 /** Adds a frame with a legend that explains an element's or guide's aesthetic. Returns the new
  *  legend. */
@@ -539,6 +813,13 @@ CHARTXML_API int64_t cx_addlegendframe_(const int64_t* chart, const int64_t* par
                                         const int64_t* target, const int64_t* styleIndex,
                                         const int64_t* aesthetic, const int64_t* ignored,
                                         int64_t* style, int64_t* legend);
+
+/** Adds a frame with a legend that explains a styleBy of an element or guide. Returns the new
+ *  legend. */
+CHARTXML_API int64_t cx_addlegendframeex_(const int64_t* chart, const int64_t* parent,
+                                          const int64_t* target, const int64_t* styleIndex,
+                                          const int64_t* styleByNode, int64_t* style,
+                                          int64_t* legend);
 
 #ifdef __cplusplus
 }

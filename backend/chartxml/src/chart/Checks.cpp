@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "../Report.h"
+#include "NodeRule.h"
 #include "Nodes.h"
 #include <chartxml/Role.h>
 #include <host/CodePages.h>
@@ -65,19 +66,22 @@ bool Chart::validOptionalString(int string, const char* what, Where where) const
   return string == -1 || validString(string, what, where);
 }
 
-// The node under a handle when its kind is accepted; else the refusal is reported
-// with the node's name, empty when there is no node.
-DOMElement* Chart::acceptedParent(int handle, ConstChartStringSet kinds, std::string_view refusal,
-                                  Where where) const {
-  DOMElement* parent = getElement(handle);
-  if (parent && isNamedAmong(*parent, kinds)) return parent;
-  report(std::string(refusal) + nameOf(parent), where);
-  return nullptr;
-}
-
 DOMElement* Chart::elementOfKind(int handle, const XMLCh* kind) const {
   DOMElement* element = getElement(handle);
   return element && isNamed(*element, kind) ? element : nullptr;
+}
+
+bool Chart::valid(int handle, const NodeRule& rule, Where where) const {
+  return validHandle(handle, rule.noun, where);
+}
+
+// The node under a handle when its kind is accepted; else the refusal is reported
+// with the node's name, empty when there is no node.
+DOMElement* Chart::accepted(int handle, const NodeRule& rule, Where where) const {
+  DOMElement* node = getElement(handle);
+  if (node && rule.accepts(*node)) return node;
+  if (rule.refusal) report(rule.refusal + nameOf(node), where);
+  return nullptr;
 }
 
 void Chart::report(const std::string& message, Where where) const { reportRefusal(message, where); }

@@ -1,11 +1,14 @@
 #include <chartxml/Chart.h>
 
-#include <algorithm>
+#include <numbers>
 #include <string_view>
 
 #include "ChildOrder.h"
+#include "KindsBelow.h"
+#include "NodeRule.h"
 #include "Nodes.h"
 #include "Placement.h"
+#include "StringHandles.h"
 #include <chartxml/Role.h>
 #include <host/Text.h>
 #include <host/ZephUni.h>
@@ -14,9 +17,27 @@ using xercesc::DOMElement;
 
 namespace {
 
-bool precedesDimensions(const DOMElement& child) {
-  return std::ranges::none_of(placement::dimension,
-                              [&](const XMLCh* name) { return isNamed(child, name); });
+namespace rule {
+
+constexpr NodeRule dimension{"dimension", {ZephUni::_dimension}, nullptr};
+constexpr AttributeRule lowerMargin{dimension, ZephUni::_lowerMargin, "margin"};
+constexpr AttributeRule upperMargin{dimension, ZephUni::_upperMargin, "margin"};
+constexpr AttributeRule lowerMapping{dimension, Chart::_lowermapping, "mapping"};
+constexpr AttributeRule upperMapping{dimension, Chart::_uppermapping, "mapping"};
+constexpr AttributeRule facetsShareScale{dimension, Chart::_facetssharescale, nullptr};
+constexpr AttributeRule unionDomain{
+    {"dimension",
+     {ZephUni::_dimension},
+     "can't set unionDomain attribute for anything but a dimension "},
+    ZephUni::_unionDomain,
+    nullptr};
+
+} // namespace rule
+
+// The cells of a pie are not comparable by their scales.
+bool isPie(const DOMElement& frame) {
+  return std::u16string_view(frame.getAttribute(ZephUni::_id)).find(u"pie") !=
+         std::u16string_view::npos;
 }
 
 } // namespace
@@ -31,21 +52,35 @@ int Chart::AddDimension(int frame, int role, int domain) {
   if (!parent || (domain != -1 && !getElement(domain))) return -1;
 
   const std::u16string name = host::utf16(Role::getString(role));
-  // Dimensions stand before guides and elements, however many of those there are.
-  for (DOMElement* child = childOrder_->first(*parent, ZephUni::_dimension);
-       child && precedesDimensions(*child); child = child->getNextElementSibling()) {
-    if (hasValue(*child, ZephUni::_role, name.c_str())) return getHandle(child);
-  }
+  if (const DOMElement* known = childInRole(*parent, role, name.c_str())) return getHandle(known);
 
   DOMElement& dimension = makeElement(ZephUni::_dimension);
   const int handle = place(*parent, dimension, placement::dimension);
+  kindsBelow_->note(dimension, role);
   dimension.setAttribute(ZephUni::_role, name.c_str());
   if (domain != -1) AddIDREFAttribute(dimension, domain, ZephUni::_domain);
-  const std::u16string_view frameId = parent->getAttribute(ZephUni::_id);
-  if (frameId.find(u"pie") == frameId.npos) {
-    dimension.setAttribute(_facetssharescale, ZephUni::_true);
-  }
+  if (!isPie(*parent)) dimension.setAttribute(_facetssharescale, ZephUni::_true);
   return handle;
+}
+
+// For a role that came to the node in another way.
+void Chart::noteRole(const DOMElement& node) {
+  for (int role = Role::first; role <= Role::last; ++role) {
+    const std::u16string name = host::utf16(Role::getString(role));
+    if (hasValue(node, ZephUni::_role, name.c_str())) kindsBelow_->note(node, role);
+  }
+}
+
+// Whatever the child's kind: a facet variable that a procedure put right below the
+// frame has a role too.
+DOMElement* Chart::childInRole(const DOMElement& parent, int role, const XMLCh* name) const {
+  if (!kindsBelow_->holds(parent, role) && !childOrder_->first(parent, _facetvariable)) {
+    return nullptr;
+  }
+  DOMElement* child = parent.getFirstElementChild();
+  while (child && !hasValue(*child, ZephUni::_role, name))
+    child = child->getNextElementSibling();
+  return child;
 }
 
 int Chart::GetDimension(int frame, int role) {
@@ -53,92 +88,73 @@ int Chart::GetDimension(int frame, int role) {
   const DOMElement* parent = getElement(frame);
   if (!parent) return -1;
   const std::u16string name = host::utf16(Role::getString(role));
-  const DOMElement* found = nullptr;
-  visitDescendants(*parent, ZephUni::_dimension, [&](const DOMElement& dimension) {
-    if (!hasValue(dimension, ZephUni::_role, name.c_str())) return false;
-    found = &dimension;
-    return true;
-  });
+  const DOMElement* found = firstBelow(*parent, ZephUni::_dimension, role, name.c_str());
   return found ? getHandle(found) : -1;
 }
 
-int Chart::setDimensionText(int dimension, int string, const XMLCh* attribute, const char* what,
-                            Where where) {
-  if (!validHandle(dimension, "dimension", where) || !validString(string, what, where)) return -1;
-  DOMElement* target = elementOfKind(dimension, ZephUni::_dimension);
-  if (!target) return -1;
-  setText(*target, attribute, string);
+// The first node of that name in document order, and of that role unless it is null.
+DOMElement* Chart::firstBelow(const DOMElement& root, const XMLCh* name, int kind,
+                              const XMLCh* role) const {
+  const auto holds = [&](const DOMElement& node) { return kindsBelow_->holds(node, kind); };
+  if (!holds(root)) return nullptr;
+  DOMElement* found = nullptr;
+  const auto take = [&](DOMElement& node) {
+    if (role && !hasValue(node, ZephUni::_role, role)) return false;
+    found = &node;
+    return true;
+  };
+  visitDescendants(root, name, take, holds);
+  return found;
+}
+
+int Chart::SetDimensionDomain(int dimension, int domain) {
+  if (!validHandle(dimension, "dimension") || !validHandle(domain, "domain")) return -1;
+  DOMElement* target = getElement(dimension);
+  if (!target || !getElement(domain)) return -1;
+  AddIDREFAttribute(*target, domain, ZephUni::_domain);
   return dimension;
 }
 
-int Chart::SetDimensionLowerMargin(int dimension, int margin) {
-  return setDimensionText(dimension, margin, ZephUni::_lowerMargin, "margin", Where::current());
-}
-int Chart::SetDimensionUpperMargin(int dimension, int margin) {
-  return setDimensionText(dimension, margin, ZephUni::_upperMargin, "margin", Where::current());
-}
-int Chart::SetDimensionLowerMapping(int dimension, int mapping) {
-  return setDimensionText(dimension, mapping, _lowermapping, "mapping", Where::current());
-}
-int Chart::SetDimensionUpperMapping(int dimension, int mapping) {
-  return setDimensionText(dimension, mapping, _uppermapping, "mapping", Where::current());
-}
-
-int Chart::AddAxis(int parent, int suffix, bool opposite) {
+// Logarithms to a base and exponents take their value from the caller; every other
+// scale has e for a base.
+int Chart::SetDimensionScale(int dimension, int method, int value, bool invert) {
   const Where here = Where::current();
-  if (!validHandle(parent, "dimension") || !validOptionalString(suffix, "id", here)) return -1;
-  DOMElement* target = getElement(parent);
-  if (!target) return -1;
-  DOMElement& axis = makeElement(ZephUni::_axis);
-  AddIDAttribute(axis, suffix);
-  if (opposite) axis.setAttribute(ZephUni::_opposite, ZephUni::_true);
-  if (isNamed(*target, ZephUni::_dimension)) {
-    axis.setAttribute(ZephUni::_combineAxisLabels, ZephUni::_true);
-  }
-  return append(*target, axis);
-}
-
-int Chart::AddMajorTicks(int parent, int position, bool gridLines, int length, int labelAngle,
-                         bool stagger, int delta) {
-  const Where here = Where::current();
-  if (!validHandle(parent, "parent") || !validOptionalString(position, "position", here) ||
-      !validOptionalString(length, "length", here) ||
-      !validOptionalString(labelAngle, "labelAngle", here) ||
-      !validOptionalString(delta, "delta", here)) {
+  const bool isNatural = method == strings::naturalLog;
+  if (!valid(dimension, rule::dimension, here) || !validString(method, "method", here) ||
+      (!isNatural && !validString(value, "value", here))) {
     return -1;
   }
-  DOMElement* target = getElement(parent);
+  DOMElement* target = accepted(dimension, rule::dimension, here);
   if (!target) return -1;
 
-  DOMElement& ticks = makeElement(ZephUni::_majorTicks);
-  setOptionalText(ticks, ZephUni::_position, position);
-  if (gridLines) addGridLines(ticks, *target);
-  setOptionalText(ticks, ZephUni::_length, length);
-  setOptionalText(ticks, ZephUni::_labelAngle, labelAngle);
-  setFlag(ticks, ZephUni::_stagger, stagger);
-  setOptionalText(ticks, ZephUni::_delta, delta);
-  AddStyleAttribute(*target, ticks, ZephUni::_markStyle);
-  AddStyleAttribute(*target, ticks, ZephUni::_tickLabelStyle);
-  return place(*target, ticks, placement::majorTicks);
+  DOMElement& scale = makeElement(ZephUni::_scale);
+  setText(scale, ZephUni::_method, isNatural ? strings::log : method);
+  if (invert) scale.setAttribute(ZephUni::_invert, ZephUni::_true);
+  const int handle = place(*target, scale, placement::scale);
+
+  const bool isGiven = method == strings::log || method == strings::exponent;
+  AddParam(handle, method == strings::exponent ? strings::exponent : strings::base,
+           isGiven ? value : stringHandler_->LRValue(std::numbers::e, -1));
+  const int safe = stringHandler_->AddChartString(ChartString(_safe));
+  AddParam(handle, safe, stringHandler_->AddChartString(ChartString(ZephUni::_true)));
+  return handle;
 }
 
-void Chart::addGridLines(DOMElement& ticks, const DOMElement& axis) {
-  std::u16string style = ticks.getNodeName();
-  style += _underscore;
-  style += axis.getAttribute(ZephUni::_id);
-  style += _gridLineStyle;
-  DOMElement& lines = makeElement(_gridlines);
-  lines.setAttribute(ZephUni::_style, style.c_str());
-  AddStyle(*styleContainer_, style.c_str());
-  append(ticks, lines);
+int Chart::SetDimensionLowerMargin(int dimension, int margin) {
+  return setAttributeText(dimension, rule::lowerMargin, margin, Where::current());
 }
-
-int Chart::AddTransform(int parent, int method) {
-  const Where here = Where::current();
-  if (!validHandle(parent, "parent") || !validString(method, "method", here)) return -1;
-  DOMElement* target = getElement(parent);
-  if (!target) return -1;
-  DOMElement& transform = makeElement(ZephUni::_transform);
-  setText(transform, ZephUni::_method, method);
-  return append(*target, transform);
+int Chart::SetDimensionUpperMargin(int dimension, int margin) {
+  return setAttributeText(dimension, rule::upperMargin, margin, Where::current());
+}
+int Chart::SetDimensionLowerMapping(int dimension, int mapping) {
+  return setAttributeText(dimension, rule::lowerMapping, mapping, Where::current());
+}
+int Chart::SetDimensionUpperMapping(int dimension, int mapping) {
+  return setAttributeText(dimension, rule::upperMapping, mapping, Where::current());
+}
+int Chart::SetUnionDomain(int dimension) {
+  return setAttributeFlag(dimension, rule::unionDomain, true, Where::current());
+}
+int Chart::SetFacetsDifferentScale(int dimension) {
+  return setAttributeFlag(dimension, rule::facetsShareScale, false, Where::current());
 }

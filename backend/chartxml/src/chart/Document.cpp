@@ -9,6 +9,8 @@
 
 #include "../Report.h"
 #include "ChildOrder.h"
+#include "KindsBelow.h"
+#include "NodeRule.h"
 #include "Nodes.h"
 #include <host/Text.h>
 #include <host/ZephUni.h>
@@ -47,7 +49,7 @@ Chart::Chart(int chartHandle, ChartStringHandler* stringHandler)
     : elements_(handleTableSize), errorHandler_(std::make_unique<ChartErrorHandler>()),
       stringHandler_(stringHandler), chartHandle_(chartHandle),
       dataProcessor_(std::make_unique<VarDataProcessor>()),
-      childOrder_(std::make_unique<ChildOrder>()) {}
+      childOrder_(std::make_unique<ChildOrder>()), kindsBelow_(std::make_unique<KindsBelow>()) {}
 
 // The table owns its keys only; the elements are the document's.
 Chart::~Chart() {
@@ -83,10 +85,11 @@ DOMElement* Chart::getElement(int handle) const {
 }
 
 int Chart::getHandle(const DOMElement* element) const {
-  for (const ChartPair<DOMElement>* pair : elements_) {
-    if (pair->getValue()->isSameNode(element)) return (*pair->getKey())[0];
+  for (; handlesNoted_ < nextHandle_; ++handlesNoted_) {
+    handles_.try_emplace(getElement(handlesNoted_), handlesNoted_);
   }
-  return -1;
+  const auto found = handles_.find(element);
+  return found == handles_.end() ? -1 : found->second;
 }
 
 int Chart::AddEmptyElement(DOMElement& parent, const XMLCh* name, DOMElement*& out) {
@@ -110,6 +113,7 @@ int Chart::CopyAttributes(int from, int to) {
   DOMElement* target = getElement(to);
   if (!source || !target) return -1;
   mergeAttributes(*source, *target);
+  noteRole(*target);
   return 0;
 }
 
@@ -188,6 +192,14 @@ int Chart::place(DOMElement& parent, DOMElement& child, ConstChartStringSet befo
   return mapElement(&child);
 }
 
+int Chart::addChild(int parent, const ChildRule& rule, Where where) {
+  if (!valid(parent, rule.parent, where)) return -1;
+  DOMElement* target = accepted(parent, rule.parent, where);
+  if (!target) return -1;
+  DOMElement& child = makeElement(rule.name);
+  return rule.before.empty() ? append(*target, child) : place(*target, child, rule.before);
+}
+
 // A node that leaves the tree stays alive, because its handle does, but its id
 // becomes free again.
 void Chart::takeOut(DOMElement& child) {
@@ -230,6 +242,13 @@ const XMLCh* Chart::legalText(int string) {
   return legalText(text.c_str(), text.size());
 }
 
+// A text's two characters backslash and "n" break it into lines.
+std::u16string Chart::brokenIntoLines(int string) {
+  ChartString text = stringHandler_->getXMLString(string);
+  text.unescapeLineFeeds();
+  return legalText(text.c_str(), text.text().size());
+}
+
 void Chart::setText(DOMElement& element, const XMLCh* attribute, int string) {
   element.setAttribute(attribute, legalText(string));
 }
@@ -240,6 +259,26 @@ void Chart::setOptionalText(DOMElement& element, const XMLCh* attribute, int str
 
 void Chart::setFlag(DOMElement& element, const XMLCh* attribute, bool on) {
   element.setAttribute(attribute, on ? ZephUni::_true : ZephUni::_false);
+}
+
+int Chart::setAttribute(int node, const AttributeRule& rule, const XMLCh* value, Where where) {
+  if (!valid(node, rule.node, where)) return -1;
+  DOMElement* target = accepted(node, rule.node, where);
+  if (!target) return -1;
+  target->setAttribute(rule.attribute, value);
+  return node;
+}
+
+int Chart::setAttributeFlag(int node, const AttributeRule& rule, bool on, Where where) {
+  return setAttribute(node, rule, on ? ZephUni::_true : ZephUni::_false, where);
+}
+
+int Chart::setAttributeText(int node, const AttributeRule& rule, int string, Where where) {
+  if (!valid(node, rule.node, where) || !validString(string, rule.textNoun, where)) return -1;
+  DOMElement* target = accepted(node, rule.node, where);
+  if (!target) return -1;
+  setText(*target, rule.attribute, string);
+  return node;
 }
 
 bool Chart::isValidXMLString(const ChartString& text) { return isLegal(text.text()); }

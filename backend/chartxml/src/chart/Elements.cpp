@@ -1,31 +1,48 @@
+// Elements, and what belongs to an element or to any node: names, labels, places.
 #include <chartxml/Chart.h>
 
 #include <xercesc/dom/DOMText.hpp>
 
 #include "ChildOrder.h"
+#include "NodeRule.h"
 #include "Nodes.h"
 #include "Placement.h"
+#include "StringHandles.h"
+#include <host/Text.h>
 #include <host/ZephUni.h>
 
 using xercesc::DOMElement;
-using xercesc::XMLString;
 
 namespace {
 
-constexpr const XMLCh* elementParents[] = {ZephUni::_frame, Chart::_elementgroup};
-constexpr const XMLCh* groupParents[] = {ZephUni::_frame};
-constexpr const XMLCh* positionParents[] = {ZephUni::_element};
+namespace rule {
+
+constexpr NodeRule elementParent{"frame or elementGroup",
+                                 {ZephUni::_frame, Chart::_elementgroup},
+                                 "can't add element to anything but frame or elementGroup - "};
+// The procedures know the refusal by the word element, not elementGroup.
+constexpr NodeRule groupParent{
+    "frame", {ZephUni::_frame}, "can't add element to anything but frame - "};
+constexpr NodeRule modified{"element",
+                            {ZephUni::_element},
+                            "can't set positionModifier attribute for anything but an element "};
+
+constexpr AttributeRule name{
+    {"element", {ZephUni::_element, ZephUni::_guide}, nullptr}, ZephUni::_name, "name"};
+constexpr AttributeRule dot{{"element", {ZephUni::_element}, nullptr}, ZephUni::_dot, "dot"};
+constexpr AttributeRule positionModifier{modified, ZephUni::_positionModifier, "positionModifier"};
+
+} // namespace rule
 
 } // namespace
 
 int Chart::AddElement(int parent, int type, int suffix) {
   const Where here = Where::current();
-  if (!validHandle(parent, "frame or elementGroup") || !validString(type, "type", here) ||
+  if (!valid(parent, rule::elementParent, here) || !validString(type, "type", here) ||
       !validOptionalString(suffix, "suffix", here)) {
     return -1;
   }
-  DOMElement* target = acceptedParent(
-      parent, elementParents, "can't add element to anything but frame or elementGroup - ", here);
+  DOMElement* target = accepted(parent, rule::elementParent, here);
   if (!target) return -1;
 
   DOMElement& element = makeElement(ZephUni::_element);
@@ -58,10 +75,10 @@ void Chart::writeStyleValues() const {
 
 int Chart::AddElementGroup(int frame, int suffix) {
   const Where here = Where::current();
-  if (!validHandle(frame, "frame") || !validOptionalString(suffix, "suffix", here)) return -1;
-  // The procedures know the message by the word element, not elementGroup.
-  DOMElement* target =
-      acceptedParent(frame, groupParents, "can't add element to anything but frame - ", here);
+  if (!valid(frame, rule::groupParent, here) || !validOptionalString(suffix, "suffix", here)) {
+    return -1;
+  }
+  DOMElement* target = accepted(frame, rule::groupParent, here);
   if (!target) return -1;
   DOMElement& group = makeElement(_elementgroup);
   AddIDAttribute(group, suffix);
@@ -69,51 +86,28 @@ int Chart::AddElementGroup(int frame, int suffix) {
 }
 
 int Chart::SetElementName(int element, int name) {
-  const Where here = Where::current();
-  if (!validHandle(element, "element") || !validString(name, "name", here)) return -1;
-  DOMElement* target = getElement(element);
-  if (!target || (!isNamed(*target, ZephUni::_element) && !isNamed(*target, ZephUni::_guide))) {
+  return setAttributeText(element, rule::name, name, Where::current());
+}
+
+int Chart::SetElementDot(int element, int dot) {
+  return setAttributeText(element, rule::dot, dot, Where::current());
+}
+
+int Chart::SetElementPositionModifier(int element, int modifier) {
+  return setAttributeText(element, rule::positionModifier, modifier, Where::current());
+}
+
+int Chart::AddStack(int position, bool stack) {
+  if (!validHandle(position, "position")) return -1;
+  const DOMElement* target = getElement(position);
+  xercesc::DOMNode* element = target ? target->getParentNode() : nullptr;
+  if (!element || !isNamed(*element, ZephUni::_element)) {
+    report(rule::modified.refusal + nameOf(element), Where::current());
     return -1;
   }
-  setText(*target, ZephUni::_name, name);
-  return element;
-}
-
-int Chart::AddPosition(int element) {
-  if (!validHandle(element, "element")) return -1;
-  DOMElement* target = acceptedParent(
-      element, positionParents, "can't add position to anything but element - ", Where::current());
-  if (!target) return -1;
-  return place(*target, makeElement(ZephUni::_position), placement::position);
-}
-
-int Chart::AddStatistic(int parent, int method) {
-  const Where here = Where::current();
-  if (!validHandle(parent, "parent") || !validString(method, "method", here)) return -1;
-  DOMElement* target = getElement(parent);
-  if (!target) return -1;
-  DOMElement& statistic = makeElement(ZephUni::_statistic);
-  setText(statistic, ZephUni::_method, method);
-  if (hasValue(statistic, ZephUni::_method, _histogram)) {
-    DOMElement& shared = appendElement(statistic, ZephUni::_parameter);
-    shared.setAttribute(ZephUni::_name, u"facetsShareSpecification");
-    shared.setAttribute(ZephUni::_value, ZephUni::_true);
-  }
-  return place(*target, statistic, placement::statistic);
-}
-
-int Chart::AddParam(int statistic, int name, int value) {
-  const Where here = Where::current();
-  if (!validHandle(statistic, "statistic") || !validString(name, "name", here) ||
-      !validString(value, "value", here)) {
-    return -1;
-  }
-  DOMElement* target = getElement(statistic);
-  if (!target) return -1;
-  DOMElement& parameter = makeElement(ZephUni::_parameter);
-  setText(parameter, ZephUni::_name, name);
-  setText(parameter, ZephUni::_value, value);
-  return append(*target, parameter);
+  setText(static_cast<DOMElement&>(*element), ZephUni::_positionModifier,
+          stack ? strings::stack : strings::none);
+  return position;
 }
 
 int Chart::AddLabel(int parent, int suffix, int content) {
@@ -129,9 +123,22 @@ int Chart::AddLabel(int parent, int suffix, int content) {
   DOMElement& label = makeElement(ZephUni::_label);
   AddIDAttribute(label, suffix);
   if (content != -1) {
-    ChartString text = stringHandler_->getXMLString(content);
-    text.unescapeLineFeeds();
-    label.appendChild(document_->createTextNode(legalText(text.c_str(), text.text().size())));
+    label.appendChild(document_->createTextNode(brokenIntoLines(content).c_str()));
   }
   return place(*target, label, placement::label);
+}
+
+void Chart::AddLocation(DOMElement& element, const XMLCh* unit, double left, double top,
+                        double right, double bottom) {
+  if (childOrder_->first(element, ZephUni::_location)) return;
+  DOMElement& location = makeElement(ZephUni::_location);
+  place(element, location, placement::location);
+  const std::pair<const XMLCh*, double> sides[] = {{ZephUni::_left, left},
+                                                   {ZephUni::_top, top},
+                                                   {ZephUni::_right, right},
+                                                   {ZephUni::_bottom, bottom}};
+  for (const auto& [side, number] : sides) {
+    const std::u16string text = host::utf16(asString(number)) + unit;
+    location.setAttribute(side, legalText(text.c_str(), text.size()));
+  }
 }

@@ -51,6 +51,7 @@ int Chart::EndChart() {
   printDebugInfo("endChart - Start");
   int result = -1;
   try {
+    updateGroupedChart();
     result = AddStyles();
     if (result == 0) result = send();
   } catch (const KorvaGoToCaller&) {

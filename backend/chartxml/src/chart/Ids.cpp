@@ -105,6 +105,11 @@ void Chart::AddStyleAttribute(const DOMElement& owner, DOMElement& target, const
   AddStyle(*styleContainer_, value.c_str());
 }
 
+void Chart::setOwnStyle(DOMElement& element, const XMLCh* attribute, const std::u16string& style) {
+  element.setAttribute(attribute, style.c_str());
+  AddStyle(*styleContainer_, style.c_str());
+}
+
 // "<stem>", "_" and the suffix's text where there is one, and the default style's
 // name: how parts that have no id of their own name their style.
 std::u16string Chart::styleName(const XMLCh* stem, int suffix) {

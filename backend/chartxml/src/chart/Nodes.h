@@ -28,14 +28,16 @@ inline bool hasValue(const xercesc::DOMElement& element, const XMLCh* attribute,
 }
 
 /// Calls `visit` for every element of that name below `root`, in document order,
-/// until it answers true. However deep the tree, the stack stays flat.
-template <class Visit>
-bool visitDescendants(const xercesc::DOMElement& root, const XMLCh* name, Visit visit) {
+/// until it answers true, and goes down only where `enter` answers true. However deep
+/// the tree, the stack stays flat.
+template <class Visit, class Enter> bool
+visitDescendants(const xercesc::DOMElement& root, const XMLCh* name, Visit visit, Enter enter) {
   const xercesc::DOMElement* const end = &root;
   xercesc::DOMElement* at = root.getFirstElementChild();
   while (at) {
     if (isNamed(*at, name) && visit(*at)) return true;
-    if (xercesc::DOMElement* child = at->getFirstElementChild()) {
+    xercesc::DOMElement* child = at->getFirstElementChild();
+    if (child && enter(*at)) {
       at = child;
       continue;
     }
@@ -45,4 +47,9 @@ bool visitDescendants(const xercesc::DOMElement& root, const XMLCh* name, Visit 
     at = at == end ? nullptr : at->getNextElementSibling();
   }
   return false;
+}
+
+template <class Visit>
+bool visitDescendants(const xercesc::DOMElement& root, const XMLCh* name, Visit visit) {
+  return visitDescendants(root, name, visit, [](const xercesc::DOMElement&) { return true; });
 }

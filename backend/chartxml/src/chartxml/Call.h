@@ -11,6 +11,15 @@ struct ChartXml::At {
   Where where;
 };
 
+/// A variable number of the procedure where Chart takes a column. It is mapped when the
+/// chart's operation is called, so that a bad chart is the only thing reported of a call.
+struct ChartXml::Column {
+  operator int() const { return registry.getVariableIndex(variable); }
+
+  const ChartXml& registry;
+  int variable;
+};
+
 /// The course of every forwarding operation: look the chart up, -1 when there is
 /// none, else its operation.
 template <class Result, class... Parameters, class... Arguments> int

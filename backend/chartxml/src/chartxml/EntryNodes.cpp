@@ -1,6 +1,7 @@
-// Frames, elements, dimensions and guides.
+// Frames and elements.
 #include "EntryCall.h"
 
+#include "../StringHandles.h"
 #include <chartxml/EntryPoints.h>
 
 using namespace entry;
@@ -11,17 +12,6 @@ int64_t cx_addframe_(const int64_t* chart, const int64_t* parent, const int64_t*
 int64_t cx_setframeclipping_(const int64_t* chart, const int64_t* frame, const int64_t* clip) {
   return call(__func__, &ChartXml::SetFrameClipping, chart, frame, clip);
 }
-int64_t cx_addfacetlabeling_(const int64_t* chart, const int64_t* frame) {
-  return call(__func__, &ChartXml::AddFacetLabeling, chart, frame);
-}
-int64_t cx_addfacetlabel_(const int64_t* chart, const int64_t* facetLabeling, const int64_t* suffix,
-                          const int64_t* level, const int64_t* reverse) {
-  return call(__func__, &ChartXml::AddFacetLabel, chart, facetLabeling, suffix, level, reverse);
-}
-int64_t cx_setfacetlabelcellstyle_(const int64_t* chart, const int64_t* facetLabel,
-                                   const int64_t* suffix) {
-  return call(__func__, &ChartXml::SetFacetLabelCellStyle, chart, facetLabel, suffix);
-}
 int64_t cx_addelement_(const int64_t* chart, const int64_t* parent, const int64_t* type,
                        const int64_t* suffix) {
   return call(__func__, &ChartXml::AddElement, chart, parent, type, suffix);
@@ -31,6 +21,17 @@ int64_t cx_addelementgroup_(const int64_t* chart, const int64_t* frame, const in
 }
 int64_t cx_setelementname_(const int64_t* chart, const int64_t* element, const int64_t* name) {
   return call(__func__, &ChartXml::SetElementName, chart, element, name);
+}
+int64_t cx_setelementdot_(const int64_t* chart, const int64_t* element, const int64_t* dot) {
+  return call(__func__, &ChartXml::SetElementDot, chart, element, dot);
+}
+int64_t cx_setelementpositionmodifier_(const int64_t* chart, const int64_t* element,
+                                       const int64_t* modifier) {
+  return call(__func__, &ChartXml::SetElementPositionModifier, chart, element, modifier);
+}
+int64_t cx_addbinnedelement_(const int64_t* chart, const int64_t* parent, const int64_t* type,
+                             const int64_t* suffix, const int64_t* x, const int64_t* y) {
+  return call(__func__, &ChartXml::AddBinnedElement, chart, parent, type, suffix, x, y);
 }
 int64_t cx_addposition_(const int64_t* chart, const int64_t* element) {
   return call(__func__, &ChartXml::AddPosition, chart, element);
@@ -64,6 +65,21 @@ int64_t cx_addstylebycolorandpattern_(const int64_t* chart, const int64_t* eleme
                                       const int64_t* variable) {
   return call(__func__, &ChartXml::AddStyleByColorAndPattern, chart, element, variable);
 }
+int64_t cx_addsplit_(const int64_t* chart, const int64_t* element, const int64_t* variable) {
+  return call(__func__, &ChartXml::AddSplit, chart, element, variable);
+}
+int64_t cx_addlabeling_(const int64_t* chart, const int64_t* element, const int64_t* variable) {
+  return call(__func__, &ChartXml::AddLabeling, chart, element, variable);
+}
+int64_t cx_addlabelingsuffix_(const int64_t* chart, const int64_t* element, const int64_t* variable,
+                              const int64_t* labelStyle) {
+  return call(__func__, &ChartXml::AddLabelingSuffix, chart, element, variable, labelStyle);
+}
+int64_t cx_addlabelinginside_(const int64_t* chart, const int64_t* element,
+                              const int64_t* variable) {
+  const int64_t inside = strings::inside;
+  return call(__func__, &ChartXml::AddLabelingSuffix, chart, element, variable, &inside);
+}
 int64_t cx_addstatistic_(const int64_t* chart, const int64_t* parent, const int64_t* method) {
   return call(__func__, &ChartXml::AddStatistic, chart, parent, method);
 }
@@ -74,61 +90,4 @@ int64_t cx_addparam_(const int64_t* chart, const int64_t* statistic, const int64
 int64_t cx_addlabel_(const int64_t* chart, const int64_t* parent, const int64_t* suffix,
                      const int64_t* content) {
   return call(__func__, &ChartXml::AddLabel, chart, parent, suffix, content);
-}
-int64_t cx_adddimension_(const int64_t* chart, const int64_t* frame, const int64_t* role,
-                         const int64_t* domain) {
-  return call(__func__, &ChartXml::AddDimension, chart, frame, role, domain);
-}
-int64_t cx_getdimension_(const int64_t* chart, const int64_t* frame, const int64_t* role) {
-  return call(__func__, &ChartXml::GetDimension, chart, frame, role);
-}
-int64_t cx_setdimensionuppermargin_(const int64_t* chart, const int64_t* dimension,
-                                    const int64_t* margin) {
-  return call(__func__, &ChartXml::SetDimensionUpperMargin, chart, dimension, margin);
-}
-int64_t cx_setdimensionlowermargin_(const int64_t* chart, const int64_t* dimension,
-                                    const int64_t* margin) {
-  return call(__func__, &ChartXml::SetDimensionLowerMargin, chart, dimension, margin);
-}
-int64_t cx_setdimensionuppermapping_(const int64_t* chart, const int64_t* dimension,
-                                     const int64_t* mapping) {
-  return call(__func__, &ChartXml::SetDimensionUpperMapping, chart, dimension, mapping);
-}
-int64_t cx_setdimensionlowermapping_(const int64_t* chart, const int64_t* dimension,
-                                     const int64_t* mapping) {
-  return call(__func__, &ChartXml::SetDimensionLowerMapping, chart, dimension, mapping);
-}
-int64_t cx_setdimensionupper_(const int64_t* chart, const int64_t* dimension,
-                              const int64_t* mapping) {
-  return call(__func__, &ChartXml::SetDimensionUpperMapping, chart, dimension, mapping);
-}
-int64_t cx_addaxis_(const int64_t* chart, const int64_t* parent, const int64_t* suffix,
-                    const int64_t* opposite) {
-  return call(__func__, &ChartXml::AddAxis, chart, parent, suffix, opposite);
-}
-int64_t cx_addmajorticks_(const int64_t* chart, const int64_t* parent, const int64_t* position,
-                          const int64_t* gridLines, const int64_t* length,
-                          const int64_t* labelAngle, const int64_t* stagger, const int64_t* delta) {
-  return call(__func__, &ChartXml::AddMajorTicks, chart, parent, position, gridLines, length,
-              labelAngle, stagger, delta);
-}
-int64_t cx_setaxispercent_(const int64_t* chart, const int64_t* node, const int64_t* formatParent) {
-  return call(__func__, &ChartXml::SetAxisPercent, chart, node, formatParent);
-}
-int64_t cx_addguide_(const int64_t* chart, const int64_t* frame, const int64_t* type,
-                     const int64_t* suffix) {
-  return call(__func__, &ChartXml::AddGuide, chart, frame, type, suffix);
-}
-int64_t cx_addyfunctionofx_(const int64_t* chart, const int64_t* frame, const int64_t* function,
-                            const int64_t* styleIndex) {
-  return call(__func__, &ChartXml::AddYFunctionOfX, chart, frame, function, styleIndex);
-}
-int64_t cx_addyofxlinear_(const int64_t* chart, const int64_t* parent,
-                          const int64_t* functionArgument, const double* b1, const double* b2,
-                          const int64_t* dateScale) {
-  return call(__func__, &ChartXml::AddYOfXLinear, chart, parent, functionArgument, b1, b2,
-              dateScale);
-}
-int64_t cx_addlegend_(const int64_t* chart, const int64_t* frame, const int64_t* suffix) {
-  return call(__func__, &ChartXml::AddLegend, chart, frame, suffix);
 }

@@ -59,6 +59,29 @@ int64_t addNamedFrame(ChartXml& registry, const int64_t* chart, const int64_t* p
   return frame < 0 ? frame : fill(frame, style);
 }
 
+/// Where a legend in a frame of its own goes, as the procedure passed it.
+struct LegendFrame {
+  const int64_t* chart;
+  const int64_t* parent;
+  const int64_t* styleArgument;
+  int64_t* style;
+  int64_t* legend;
+};
+
+// `explain` adds to the legend what it explains.
+template <class Explain>
+int64_t addLegendFrame(const char* entryPoint, const LegendFrame& given, Explain explain) {
+  return guarded(entryPoint, [&](ChartXml& registry) {
+    return addNamedFrame(registry, given.chart, given.parent, strings::legend, given.styleArgument,
+                         given.style, [&](int frame, int name) -> int64_t {
+                           const int made = registry.AddLegend(integer(given.chart), frame, name);
+                           if (store(given.legend, made) < 0) return made;
+                           const int explained = explain(registry, made, name);
+                           return explained < 0 ? explained : made;
+                         });
+  });
+}
+
 /// What differs between chart skeletons: the inner frame's name, and how the frames
 /// clip; nothing said leaves the outer frame as it is.
 struct Skeleton {
@@ -171,19 +194,51 @@ int64_t cx_addxydimensionwithaxis_(const int64_t* chart, const int64_t* parent,
                             &none);
 }
 
+int64_t cx_addxydimaxiswithsameratio_(const int64_t* chart, const int64_t* parent,
+                                      const int64_t* xDomain, const int64_t* yDomain,
+                                      const int64_t* xOpposite, const int64_t* yOpposite,
+                                      const int64_t* sameRatio, int64_t* xStyle, int64_t* xAxis,
+                                      int64_t* yStyle, int64_t* yAxis) {
+  return guarded(__func__, [&](ChartXml& registry) -> int64_t {
+    const int64_t margin = registry.NStringNoTranslate("0%");
+    const int64_t none = -1;
+    const std::array extents{&margin, &margin, &none, &none};
+    const int64_t x =
+        addDimensionAxis(registry, 1, {chart, parent, xDomain, xOpposite, xStyle, xAxis, extents});
+    if (x < 0) return x;
+    const int64_t y =
+        addDimensionAxis(registry, 2, {chart, parent, yDomain, yOpposite, yStyle, yAxis, extents});
+    if (y < 0) return y;
+    for (const int64_t dimension : {x, y}) {
+      const int set = registry.SetDimensionSameRatio(integer(chart), static_cast<int>(dimension),
+                                                     logical(sameRatio));
+      if (set < 0) return set;
+    }
+    return x;
+  });
+}
+
 int64_t cx_addlegendframe_(const int64_t* chart, const int64_t* parent, const int64_t* target,
                            const int64_t* styleArgument, const int64_t* aesthetic, const int64_t*,
                            int64_t* style, int64_t* legend) {
-  return guarded(__func__, [&](ChartXml& registry) {
-    return addNamedFrame(registry, chart, parent, strings::legend, styleArgument, style,
-                         [&](int frame, int name) -> int64_t {
-                           const int made = registry.AddLegend(integer(chart), frame, name);
-                           if (store(legend, made) < 0) return made;
-                           const int pointed = registry.AddLegendTarget(
-                               integer(chart), made, integer(target), name, integer(aesthetic));
-                           return pointed < 0 ? pointed : made;
-                         });
-  });
+  return addLegendFrame(__func__, {chart, parent, styleArgument, style, legend},
+                        [&](ChartXml& registry, int made, int name) {
+                          return registry.AddLegendTarget(integer(chart), made, integer(target),
+                                                          name, integer(aesthetic));
+                        });
+}
+
+int64_t cx_addlegendframeex_(const int64_t* chart, const int64_t* parent, const int64_t* target,
+                             const int64_t* styleArgument, const int64_t* styleBy, int64_t* style,
+                             int64_t* legend) {
+  return addLegendFrame(
+      __func__, {chart, parent, styleArgument, style, legend},
+      [&](ChartXml& registry, int made, int name) {
+        return isGiven(styleBy)
+                   ? registry.AddLegendTargetEx(integer(chart), made, integer(target),
+                                                integer(styleBy), name)
+                   : registry.AddLegendTarget(integer(chart), made, integer(target), name, -1);
+      });
 }
 
 int64_t cx_addframewithlabel_(const int64_t* chart, const int64_t* parent, const int64_t* styleKind,

@@ -1,0 +1,61 @@
+#include <chartxml/Chart.h>
+
+#include "DisplayText.h"
+#include "NodeRule.h"
+#include <chartxml/ChartXml.h>
+#include <host/Missing.h>
+#include <host/ZephUni.h>
+
+using xercesc::DOMElement;
+
+namespace {
+
+constexpr NodeRule relabelled{
+    "variable", {ZephUni::_variable}, "can't add relabel to anything but a variable - "};
+
+} // namespace
+
+int Chart::AddRelabel(int variable, int from, int to) {
+  const Where here = Where::current();
+  if (!valid(variable, relabelled, here) || !validString(from, "from", here) ||
+      !validString(to, "to", here)) {
+    return -1;
+  }
+  DOMElement* target = accepted(variable, relabelled, here);
+  if (!target) return -1;
+  const ChartString& fromText = stringHandler_->getXMLString(from);
+  const ChartString& toText = stringHandler_->getXMLString(to);
+  if (!isValidXMLString(fromText) || !isValidXMLString(toText)) return -1;
+  return addRelabel(*target, fromText.c_str(), toText.c_str());
+}
+
+int Chart::addRelabel(DOMElement& variable, const XMLCh* from, const XMLCh* to) {
+  return mapElement(&appendRelabel(variable, from, to));
+}
+
+// A relabel must meet the value as it is stored: a number is stored in its
+// shortest form, however many decimals its format shows.
+int Chart::AddRelabels(int variable, int column) {
+  const Where here = Where::current();
+  if (!valid(variable, relabelled, here) || !validVariable(column)) return -1;
+  DOMElement* target = accepted(variable, relabelled, here);
+  if (!target) return -1;
+
+  const KORVA_Variable& described = dataSource_->GetVariable(column);
+  const KORVA_ValueLabelMap& labels = described.GetValueLabels();
+  int position = 0;
+  const OBS* value = nullptr;
+  const char* label = nullptr;
+  while (labels.GetNextPair(position, value, label)) {
+    if (!label || !*label) continue;
+    if (described.GetType() == 0 && value->number == host::systemMissing) continue;
+    const ChartString to = ChartXml::GetInstance()->transcode(label);
+    ChartString from = ChartXml::GetInstance()->transcode(displayText(described, *value));
+    if (from.isNumber()) {
+      from.assignUTF8(asString(described.GetType() == 0 ? value->number : from.convertToDouble()));
+    }
+    if (isValidXMLString(from) && isValidXMLString(to))
+      addRelabel(*target, from.c_str(), to.c_str());
+  }
+  return variable;
+}
