@@ -154,7 +154,7 @@ TEST_F(Formats, AreChosenByTypeCode) {
 TEST_F(Formats, ReplaceFormerOnesInTheOneMetaOfAVariable) {
   xercesc::DOMElement& variable = *made.getElement(frame);
   EXPECT_EQ(made.AddMeta(meta), meta) << "a meta is its own";
-  for (int i = 0; i < 14; ++i)
+  for (int i = 0; i < 2; ++i)
     EXPECT_EQ(made.AddMetaFormatFromCode(variable, percentage), meta) << "numbers are added";
   const int number = made.getVariableNumFormat(frame);
   EXPECT_EQ(fragment(handle, number),
@@ -181,6 +181,17 @@ TEST_F(Formats, ReplaceFormerOnesInTheOneMetaOfAVariable) {
   EXPECT_EQ(made.SetMetaFormat(bare, 1 << 16), -1);
   EXPECT_FALSE(bare.hasChildNodes());
   EXPECT_THAT(takeReports(), IsEmpty());
+}
+
+TEST_F(Formats, ForgetThePlacesOfNodesThatTheyReplace) {
+  xercesc::DOMElement& node = *made.getElement(meta);
+  const XMLCh* const first[] = {u"first"};
+  const XMLCh* const second[] = {u"second"};
+  for (int i = 0; i < 20; ++i)
+    made.insertBeforeSiblings(node, *made.getChart()->createElement(u"second"), first);
+  made.AddStringFormat(meta);
+  made.insertBeforeSiblings(node, *made.getChart()->createElement(u"first"), second);
+  EXPECT_EQ(metaText(), "<meta><stringFormat/><first/></meta>");
 }
 
 TEST_F(Formats, MarkWeightsAndTakeAffixes) {
