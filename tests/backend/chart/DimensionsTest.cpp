@@ -106,6 +106,8 @@ TEST_F(Dimensions, WriteWhatIsSet) {
   const int domain = c.AddDomain(true);
   const int x = c.AddDimension(frame, 1, domain);
   const int other = c.AddDomain(false);
+  EXPECT_EQ(c.AddDimension(frame, 1, other), x) << "its domain stays";
+  EXPECT_THAT(fragment(handle, x), HasSubstr(R"(domain="domain2")"));
   EXPECT_EQ(c.SetDimensionDomain(x, other), x);
   EXPECT_EQ(c.SetDimensionLowerMargin(x, text("1%")), x);
   EXPECT_EQ(c.SetDimensionUpperMargin(x, text("2%")), x);

@@ -236,26 +236,6 @@ TEST_F(Scatter, AdjustsNumberFormatsAndOnlyThose) {
                                          "suffix handle out of range"));
 }
 
-TEST_F(Scatter, KeepsOneDimensionForEachRoleOfAFrame) {
-  Chart& c = chart(registry().CreateChart());
-  const int outer = c.AddFrame(0, text("graph_1"));
-  const int pie = c.AddFrame(outer, text("pie_2"));
-  const int x = c.AddDimension(outer, 1, -1);
-  const int polar = c.AddDimension(pie, 5, -1);
-  c.AddElement(outer, 21, -1);
-  EXPECT_EQ(c.AddDimension(outer, 1, 0), x) << "its domain is ignored then";
-  EXPECT_EQ(c.GetDimension(outer, 5), polar) << "searched below";
-  EXPECT_EQ(c.GetDimension(pie, 1), -1);
-  EXPECT_EQ(fragment(0, x), R"(<dimension facetsShareScale="true" role="x"/>)");
-  EXPECT_EQ(fragment(0, polar), R"(<dimension role="theta"/>)");
-  EXPECT_EQ(c.SetDimensionUpperMapping(x, text("10")), x);
-  EXPECT_EQ(c.SetDimensionLowerMargin(x, text("1%")), x);
-  EXPECT_EQ(c.SetDimensionLowerMargin(outer, text("1%")), -1);
-  EXPECT_EQ(fragment(0, x), R"(<dimension facetsShareScale="true" lowerMargin="1%" role="x" )"
-                            R"(upperMapping="10"/>)");
-  EXPECT_THAT(takeReports(), IsEmpty());
-}
-
 TEST_F(Scatter, MovesStatisticsFromDescriptionsToExtensions) {
   ZephVisualization parsed;
   const char* descriptions[] = {"mean;12.5", "range;1;9", "labeling", "", "count", ";;"};
