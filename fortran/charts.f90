@@ -6,10 +6,11 @@ module charts
   use chartxml
   implicit none
   private
-  public :: create_chart, describe_chart
-  public :: text, composed, listed, number_text, variable_label
+  public :: create_chart, describe_chart, write_text, store_numbers
+  public :: text, translated, composed, listed, number_text, variable_label
   public :: display_format, format_type
   public :: made, make, require
+  public :: first_argument
 
   !> The kind of every integer of module chartxml: 1_cx.
   integer, parameter, public :: cx = c_int64_t
@@ -25,7 +26,8 @@ module charts
   integer(cx), parameter, public :: word_simple_line = 43, word_scatter = 96
 
   ! Type codes of display formats.
-  integer, parameter, public :: text_format = 1, plain_format = 5
+  integer, parameter, public :: text_format = 1, dollar_format = 4, plain_format = 5
+  integer, parameter, public :: percent_format = 31
 
 contains
 
@@ -40,14 +42,34 @@ contains
       len(procedure_name, kind=cx), same_chart, source, graph, data)
   end function
 
-  !> Describes the chart for readers who do not see it.
-  function describe_chart(chart, description) result(status)
-    integer(cx), intent(in) :: chart
-    character(*), intent(in) :: description
-    integer(cx) :: status
+  !> Describes the chart for readers who do not see it, by a string handle.
+  subroutine describe_chart(chart, description)
+    integer(cx), intent(in) :: chart, description
 
-    status = cx_setchartdescription(chart, description, len(description, kind=cx))
-  end function
+    call require(cx_createchartdescription(chart, made('a text', description)) >= 0, &
+      'cannot describe the chart')
+  end subroutine
+
+  !> Puts a text of its own into the chart's graph frame: title, subtitle or footnote, as
+  !> `style` says.
+  subroutine write_text(chart, graph, style, string)
+    integer(cx), intent(in) :: chart, graph, style, string
+
+    call make('a text of the chart', &
+      cx_addframewithlabel(chart, graph, style, 1_cx, made('a text', string)))
+  end subroutine
+
+  !> Stores a number in each of the columns of the row that was added last.
+  subroutine store_numbers(chart, source, columns, numbers)
+    integer(cx), intent(in) :: chart, source, columns(:)
+    real(c_double), intent(in) :: numbers(:)
+    integer :: i
+
+    do i = 1, size(columns)
+      call require(cx_adddoubledatavalue(chart, source, columns(i), numbers(i)) >= 0, &
+        'cannot store a number')
+    end do
+  end subroutine
 
   ! Texts: each function gives a string handle, or -1
 
@@ -58,8 +80,16 @@ contains
     string = cx_string(ignored, characters, len(characters, kind=cx))
   end function
 
-  !> The pattern with its "^1", "^2" ... replaced by the parameters, which are string
-  !> handles themselves.
+  !> The text of a key of the procedure's string table in the output language.
+  function translated(key) result(string)
+    character(*), intent(in) :: key
+    integer(cx) :: string
+
+    string = cx_nstring(ignored, key, len(key, kind=cx))
+  end function
+
+  !> The pattern, or the text of its key in the string table, with "^1", "^2" ... replaced
+  !> by the parameters, which are string handles themselves.
   function composed(pattern, parameters) result(string)
     character(*), intent(in) :: pattern
     integer(cx), intent(in) :: parameters(:)
@@ -103,13 +133,17 @@ contains
     end do
   end function
 
-  !> A number in a plain format, 8 places wide, with that many decimals.
-  function number_text(number, decimals) result(string)
+  !> A number 8 places wide with that many decimals, in the plain format or another.
+  function number_text(number, decimals, type) result(string)
     real(c_double), intent(in) :: number
     integer, intent(in) :: decimals
+    integer, intent(in), optional :: type
     integer(cx) :: string
+    integer :: used
 
-    string = cx_lrvalue(ignored, number, display_format(plain_format, 8, decimals))
+    used = plain_format
+    if (present(type)) used = type
+    string = cx_lrvalueasstring(number, display_format(used, 8, decimals))
   end function
 
   function variable_label(variable_number) result(string)
@@ -163,5 +197,20 @@ contains
     write (error_unit, '(a)') otherwise
     stop 1, quiet=.true.
   end subroutine
+
+  ! The command line
+
+  function first_argument(otherwise) result(argument)
+    character(*), intent(in) :: otherwise
+    character(:), allocatable :: argument
+    integer :: length
+
+    argument = otherwise
+    if (command_argument_count() == 0) return
+    call get_command_argument(1, length=length)
+    deallocate (argument)
+    allocate (character(length) :: argument)
+    call get_command_argument(1, argument)
+  end function
 
 end module

@@ -107,19 +107,6 @@ contains
     call require(observations%use_variables(columns), 'cannot use the variables')
   end subroutine
 
-  function first_argument(otherwise) result(argument)
-    character(*), intent(in) :: otherwise
-    character(:), allocatable :: argument
-    integer :: length
-
-    argument = otherwise
-    if (command_argument_count() == 0) return
-    call get_command_argument(1, length=length)
-    deallocate (argument)
-    allocate (character(length) :: argument)
-    call get_command_argument(1, argument)
-  end function
-
   !> Reads the cases and drops those with a missing value.
   subroutine load_cases(observations, cases)
     type(data_set), intent(in) :: observations
@@ -222,7 +209,7 @@ contains
     plot%x = variable(plot, flipper_length, false)
     plot%y = variable(plot, body_mass, false)
     plot%fitted = made('the fitted values', cx_addaggregate(plot%chart, plot%source, absent, &
-      false, made('a text', text('Fitted body mass (g)')), absent, absent))
+      false, made('a text', translated('Fitted body mass (g)')), absent, absent))
     call make('the names of the species', cx_addrelabels(plot%chart, plot%species, species))
   end subroutine
 
@@ -246,19 +233,9 @@ contains
       call require(cx_addrow(plot%chart, plot%source) >= 0, 'cannot add a row')
       call require(cx_adddatavalue(plot%chart, plot%source, plot%species, &
         cases%groups(g)%name) >= 0, 'cannot store a species')
-      call store(plot, plot%x, cases%x(i))
-      call store(plot, plot%y, cases%y(i))
-      call store(plot, plot%fitted, predicted(within(g), cases%x(i)))
+      call store_numbers(plot%chart, plot%source, [plot%x, plot%y, plot%fitted], &
+        [cases%x(i), cases%y(i), predicted(within(g), cases%x(i))])
     end do
-  end subroutine
-
-  subroutine store(plot, column, value)
-    type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: column
-    real(dp), intent(in) :: value
-
-    call require(cx_adddoubledatavalue(plot%chart, plot%source, column, value) >= 0, &
-      'cannot store a number')
   end subroutine
 
   !> x and y with 5% of room at either end; a variable's label is its axis's title.
@@ -293,7 +270,7 @@ contains
     overall_line = made('the overall line', cx_addyofxlinear(plot%chart, plot%data, 1_cx, &
       overall%intercept, overall%slope, false))
     call make('the name of the overall line', &
-      cx_setelementname(plot%chart, overall_line, made('a text', text('All penguins'))))
+      cx_setelementname(plot%chart, overall_line, made('a text', translated('All penguins'))))
   end subroutine
 
   subroutine draw_legend(plot)
@@ -316,15 +293,15 @@ contains
     integer(cx) :: lines(size(within))
     integer :: g
 
-    call write_line(plot, word_title, text('Body mass and flipper length of penguins'))
-    call write_line(plot, word_subtitle, estimates(text('All penguins'), overall))
+    call write_text(plot%chart, plot%graph, word_title, &
+      translated('Body mass and flipper length of penguins'))
+    call write_text(plot%chart, plot%graph, word_subtitle, &
+      estimates(translated('All penguins'), overall))
     do g = 1, size(within)
       lines(g) = estimates(cases%groups(g)%name, within(g))
     end do
-    call write_line(plot, word_footnote, listed(one_a_line, lines))
-    call require(describe_chart(plot%chart, 'Scatter plot of body mass against flipper '// &
-      'length, with one regression line for each species and one for all penguins.') >= 0, &
-      'cannot describe the chart')
+    call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
+    call describe_chart(plot%chart, translated('Chart description'))
   end subroutine
 
   function label_of(variable_number) result(label)
@@ -334,22 +311,14 @@ contains
     label = made('the label of a variable', variable_label(variable_number))
   end function
 
-  subroutine write_line(plot, style, line)
-    type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: style, line
-
-    call make('a text of the chart', cx_addframewithlabel(plot%chart, plot%graph, style, 1_cx, &
-      made('a text', line)))
-  end subroutine
-
   function estimates(name, line) result(string)
     integer(cx), intent(in) :: name
     type(line_fit), intent(in) :: line
     integer(cx) :: string
 
-    string = composed('^1: mass = ^2 + ^3 × flipper length, R² = ^4, n = ^5', [name, &
-      number_text(line%intercept, 0), number_text(line%slope, 2), &
-      number_text(line%r_squared, 2), number_text(real(line%cases, dp), 0)])
+    string = composed('Regression line^7', [name, number_text(line%intercept, 0), &
+      number_text(line%slope, 2), number_text(line%r_squared, 2), &
+      number_text(real(line%cases, dp), 0), text('×'), text('R²')])
   end function
 
 end program

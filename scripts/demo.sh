@@ -17,11 +17,23 @@ clear_former_demo() {
   rm -- "$made"
 }
 
+# English, and the languages that the procedure's data set is described in.
+languages_of() {
+  local descriptor
+  echo en
+  for descriptor in "data/$1"/datapackage.*.json; do
+    [[ -f $descriptor ]] || continue
+    descriptor=${descriptor##*/datapackage.}
+    echo "${descriptor%.json}"
+  done
+}
+
+# run_procedure <program> <language>
 run_procedure() {
   local before status=0
   before=$(chart_folders)
-  say "running ${1##*/}"
-  CHARTXML_OUTPUT=$gallery "$1" || status=$?
+  say "running ${1##*/} in $2"
+  CHARTXML_OUTPUT=$gallery CHARTXML_LANG=$2 "$1" || status=$?
   comm -13 <(printf '%s\n' "$before") <(chart_folders) >>"$made"
   ((status == 0)) || fail "${1##*/} ended with status $status"
 }
@@ -34,7 +46,9 @@ compile build host/all render/all tools/all procedures/all
 clear_former_demo
 for procedure in build/bin/procedures/*; do
   [[ -f $procedure && -x $procedure ]] || fail "there is no procedure in build/bin/procedures"
-  run_procedure "$procedure"
+  for language in $(languages_of "${procedure##*/}"); do
+    run_procedure "$procedure" "$language"
+  done
 done
 
 say "drawing the pictures"

@@ -7,6 +7,7 @@ import {readFileSync, renameSync, rmSync, writeFileSync} from 'node:fs';
 import {basename, join} from 'node:path';
 import {Resvg} from '@resvg/resvg-js';
 import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
+import {nameFaces} from './faces.mjs';
 import {textWidth} from './textWidth.mjs';
 
 textMetrics.width = (item, text) => textWidth(text, item.fontSize ?? 11, item.fontWeight);
@@ -44,7 +45,7 @@ async function draw(folder, {svg, png}) {
   if (svg) writeWhole(join(folder, 'chart.svg'), picture);
   if (png) {
     const zoom = {fitTo: {mode: 'zoom', value: pngScale}, font: fonts};
-    writeWhole(join(folder, 'chart.png'), new Resvg(anchorClippedGroups(picture), zoom).render().asPng());
+    writeWhole(join(folder, 'chart.png'), new Resvg(nameFaces(anchorClippedGroups(picture)), zoom).render().asPng());
   }
 }
 

@@ -11,7 +11,7 @@ async function drawPage() {
   const runtime = parse(spec, null, {ast: true});
   const view = await drawChart(runtime, document.getElementById('chart'));
   addSaveButtons(runtime, document.getElementById('actions'));
-  fillTable(view, spec, document.getElementById('data'));
+  await fillTable(view, spec, document.getElementById('data'));
 }
 
 const trouble = document.getElementById('trouble');

@@ -1,3 +1,5 @@
+import {textsOf} from './texts.js';
+
 const mostRows = 100;
 
 function cell(kind, text, isNumber) {
@@ -13,8 +15,8 @@ function row(cells) {
   return element;
 }
 
-/** Shows the first rows of the first data source, with the labels of its categories. */
-export function fillTable(view, spec, details) {
+/** Shows the first rows of the first data source, as the chart shows its values. */
+export async function fillTable(view, spec, details) {
   const columns = spec.usermeta.columns;
   if (columns.length === 0) {
     details.remove();
@@ -22,18 +24,14 @@ export function fillTable(view, spec, details) {
   }
   const values = view.data(spec.data[0].name);
   const shown = values.slice(0, mostRows);
-  const isNumber = (field) => shown.some((datum) => typeof datum[field] === 'number');
-  const text = ({field, labels}, datum) => {
-    const value = datum[field] ?? '';
-    return labels && Object.hasOwn(labels, value) ? labels[value] : value;
-  };
+  const isNumber = columns.map(({field}) => shown.some((datum) => typeof datum[field] === 'number'));
 
   const table = document.createElement('table');
   const head = table.createTHead();
-  head.append(row(columns.map((column) => cell('th', column.title, isNumber(column.field)))));
+  head.append(row(columns.map(({title}, i) => cell('th', title, isNumber[i]))));
   const body = table.createTBody();
-  for (const datum of shown)
-    body.append(row(columns.map((c) => cell('td', text(c, datum), isNumber(c.field)))));
+  for (const texts of await textsOf(shown, columns, spec.config))
+    body.append(row(texts.map((text, i) => cell('td', text, isNumber[i]))));
 
   details.querySelector('.table').append(table);
   details.querySelector('summary').textContent =

@@ -42,8 +42,7 @@ void writeChart(const std::filesystem::path& chartFolder) {
   try {
     const ChartFolder chart = ChartFolder::read(folder);
     const Json spec = specification(chart);
-    writeFile(folder / "chart.vg.json",
-              spec.dump(1, ' ', false, Json::error_handler_t::replace) + "\n");
+    writeFile(folder / "chart.vg.json", laidOut(spec));
     writeFile(page, chartPage(chart.manifest, spec));
   } catch (const RenderError& e) {
     const std::string_view reason = e.what();

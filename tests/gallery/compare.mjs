@@ -1,27 +1,37 @@
-// Runs a procedure and compares the chart folder that it makes with the one that is
-// committed. Numbers are compared to nine digits: the last ones differ between
+// Runs a procedure in a language and compares the charts that it makes with those
+// that are committed. Numbers are compared to nine digits: the last ones differ between
 // LAPACK libraries. What differs stays in the output folder, to be looked at.
 //
-// usage: node compare.mjs <procedure> <data set> <expected folder> <output folder>
+// usage: node compare.mjs <procedure> <data set> <language> <expected folder> <output folder>
 import {execFileSync} from 'node:child_process';
 import {readdirSync, readFileSync, rmSync} from 'node:fs';
 import {join} from 'node:path';
 
-const [procedure, dataSet, expected, output] = process.argv.slice(2);
+const [procedure, dataSet, language, expected, output] = process.argv.slice(2);
 const digits = 9;
 
 const rounded = (text) =>
   text.replace(/-?\d+\.\d+(e[+-]?\d+)?/g, (number) => String(Number(Number(number).toPrecision(digits))));
 
-rmSync(output, {recursive: true, force: true});
-execFileSync(procedure, [dataSet], {env: {...process.env, CHARTXML_OUTPUT: output}, stdio: 'inherit'});
-const chart = readdirSync(output).find((name) => name.startsWith('0001-'));
+const charts = (folder) => readdirSync(folder).filter((name) => /^\d{4}-/.test(name));
 
-let same = true;
-for (const name of readdirSync(expected)) {
-  const actual = join(output, chart, name);
-  if (rounded(readFileSync(actual, 'utf8')) === rounded(readFileSync(join(expected, name), 'utf8'))) continue;
-  same = false;
-  console.error(`differs: ${join(expected, name)}\n     now: ${actual}`);
+rmSync(output, {recursive: true, force: true});
+execFileSync(procedure, [dataSet], {
+  env: {...process.env, CHARTXML_OUTPUT: output, CHARTXML_LANG: language},
+  stdio: 'inherit',
+});
+
+function differences() {
+  if (charts(output).join() !== charts(expected).join())
+    return [`expected the charts ${charts(expected)}; there are now: ${charts(output)}`];
+  const files = charts(expected).flatMap((chart) =>
+    readdirSync(join(expected, chart)).map((name) => join(chart, name)));
+  const text = (folder, file) => rounded(readFileSync(join(folder, file), 'utf8'));
+  return files
+    .filter((file) => text(expected, file) !== text(output, file))
+    .map((file) => `differs: ${join(expected, file)}\n     now: ${join(output, file)}`);
 }
-process.exit(same ? 0 : 1);
+
+const found = differences();
+found.forEach((difference) => console.error(difference));
+process.exit(found.length === 0 ? 0 : 1);

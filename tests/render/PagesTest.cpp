@@ -102,7 +102,8 @@ TEST(ChartFolder, WithoutAnyFileIsRefused) {
 TEST(Gallery, ListsTheChartsInTheOrderOfTheirNamesAndTheErrors) {
   const TestFolder output;
   output.write("0002-b & c/chart.xml", "<graph/>")
-      .write("0002-b & c/manifest.json", R"({"name": "second", "description": "<about>"})")
+      .write("0002-b & c/manifest.json",
+             R"({"name": "second", "description": "<about>", "language": "de"})")
       .write("0001-a/chart.xml", "<graph/>")
       .write("0001-a/chart.svg", "<svg/>")
       .write(".0003-c/chart.xml", "<graph/>")
@@ -110,11 +111,11 @@ TEST(Gallery, ListsTheChartsInTheOrderOfTheirNamesAndTheErrors) {
   render::writeGallery(output.path());
   const std::string page = output.read("index.html");
   EXPECT_THAT(page, HasSubstr(R"(<ul class="cards">
-<li><a href="0001-a/chart.html"><img src="0001-a/chart.svg" alt="0001-a" loading="lazy"></a>
+<li lang="en"><a href="0001-a/chart.html"><img src="0001-a/chart.svg" alt="0001-a" loading="lazy"></a>
 <h2><a href="0001-a/chart.html">0001-a</a></h2>
 <p></p>
 <p class="soft">0001-a</p></li>
-<li><a href="0002-b%20%26%20c/chart.html"></a>
+<li lang="de"><a href="0002-b%20%26%20c/chart.html"></a>
 <h2><a href="0002-b%20%26%20c/chart.html">second</a></h2>
 <p>&lt;about&gt;</p>
 <p class="soft">0002-b &amp; c</p></li>

@@ -49,6 +49,7 @@ CTVariableType variableOf(const Attributes& attributes) {
 
 std::vector<std::pair<std::string, std::string>> allOf(const Attributes& attributes) {
   std::vector<std::pair<std::string, std::string>> all;
+  all.reserve(attributes.getLength());
   for (XMLSize_t i = 0; i < attributes.getLength(); ++i)
     all.emplace_back(utf8(attributes.getLocalName(i)), utf8(attributes.getValue(i)));
   return all;

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 #include <host/ChartError.h>
 #include <host/Missing.h>
+#include <host/Settings.h>
 
 namespace host {
 namespace {
@@ -43,18 +44,47 @@ private:
   std::unordered_map<std::string_view, Columns> ofSource_;
 };
 
+/// {"numberFormat": {"prefix": "$"}}, {"dateTimeFormat": {"dateFormat": {"year": {}}}}
+ordered_json formatsJson(const std::vector<CTFormatType>& formats) {
+  ordered_json json = ordered_json::object();
+  for (const CTFormatType& format : formats) {
+    ordered_json parts = formatsJson(format.parts);
+    for (const auto& [name, value] : format.attributes)
+      parts[name] = value;
+    json[format.kind] = std::move(parts);
+  }
+  return json;
+}
+
+ordered_json categoriesJson(const CTVariableType& variable) {
+  ordered_json json = ordered_json::array();
+  for (const auto& [value, label] : variable.categories)
+    json.push_back({{"value", value}, {"label", label}});
+  return json;
+}
+
 ordered_json columnJson(const VarDataProcessor::Variable& column, const Variables& variables) {
   static const CTVariableType unnamed;
   const CTVariableType& first = variables.empty() ? unnamed : *variables.front();
   ordered_json ids = ordered_json::array();
   for (const CTVariableType* variable : variables)
     ids.push_back(variable->id);
-  return {{"name", column.name},
-          {"variables", std::move(ids)},
-          {"label", first.label},
-          {"shortLabel", first.shortLabel},
-          {"kind", column.column->hasTexts() ? "string" : "number"},
-          {"categorical", first.categorical == "true"}};
+  ordered_json json{{"name", column.name},
+                    {"variables", std::move(ids)},
+                    {"label", first.label},
+                    {"shortLabel", first.shortLabel},
+                    {"kind", column.column->hasTexts() ? "string" : "number"},
+                    {"categorical", first.categorical == "true"}};
+  if (!first.formats.empty()) json["format"] = formatsJson(first.formats);
+  if (!first.categories.empty()) json["categories"] = categoriesJson(first);
+  return json;
+}
+
+/// The signs of numbers in the chart's texts.
+ordered_json numberSigns() {
+  const CmnLoc* locale = CmnLoc::shared();
+  return {{"decimal", locale ? locale->decimalSeparator : "."},
+          {"grouping", locale ? locale->groupingSeparator : ","}};
 }
 
 ordered_json sourceJson(const Source& source, const VariablesOfColumns& variables) {
@@ -123,7 +153,8 @@ ordered_json manifestOf(const SentChart& chart, const std::string& name,
                            {"description", chart.description},
                            {"splitHeader", chart.splitHeader},
                            {"template", chart.chartTemplate},
-                           {"language", chart.language}};
+                           {"language", chart.language},
+                           {"numberSigns", numberSigns()}};
   if (const auto horizontal = chart.visualization.icicleHorizontal) {
     manifest["type"] = "icicle";
     manifest["icicle"] = {{"orientation", *horizontal ? "horizontal" : "vertical"},

@@ -1,5 +1,7 @@
 #include "assemble/Assemble.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "text/Expression.h"
@@ -51,15 +53,10 @@ void addPositionScale(Json& scales, const Dimension& dimension) {
          {"zero", false}});
     return;
   }
-  Json labels = Json::array();
-  for (const Category& category : dimension.categories)
-    labels.push_back(category.label);
   Json scale = categoryScale(std::string(dimension.role), dimension.categories, range);
   scale["type"] = "point";
   scale["padding"] = 0.5;
   scales.push_back(std::move(scale));
-  scales.push_back(
-      categoryScale(scaleName("label", dimension.role), dimension.categories, std::move(labels)));
 }
 
 /// The legend of the function lines that have a name.
@@ -89,24 +86,39 @@ void addFunctionLegend(Parts& parts) {
 
 /// Texts as the lines of one title. Whole lines are left out past the limit,
 /// which is more than anybody prints under a chart.
-Json lines(const std::vector<std::string>& texts, double fontSize, std::size_t most) {
+Json lines(const std::vector<std::string>& texts, WrapLimits limits) {
+  limits.width = theme::textWidth;
   Json all = Json::array();
   for (const std::string& text : texts)
-    append(all, wrap(text, {.width = theme::textWidth, .fontSize = fontSize, .lines = most}));
+    append(all, wrap(text, limits));
   return all;
 }
 
 void addTitles(Json& spec, Json& plot, const Parts& parts) {
   if (!parts.title.empty() || !parts.subtitle.empty())
-    spec["title"] = {{"text", lines(parts.title, theme::titleSize * 1.06, 6)}};
+    spec["title"] = {
+        {"text", lines(parts.title, {.fontSize = theme::titleSize, .lines = 6, .bold = true})}};
   if (!parts.subtitle.empty())
-    spec["title"]["subtitle"] = lines(parts.subtitle, theme::subtitleSize, 8);
+    spec["title"]["subtitle"] =
+        lines(parts.subtitle, {.fontSize = theme::subtitleSize, .lines = 8});
   if (!parts.footnotes.empty())
-    plot["title"] = {{"text", lines(parts.footnotes, theme::footnoteSize, 40)},
-                     {"orient", "bottom"},
-                     {"fontSize", theme::footnoteSize},
-                     {"fontWeight", "normal"},
-                     {"lineHeight", theme::footnoteSize + 5}};
+    plot["title"] = {
+        {"text", lines(parts.footnotes, {.fontSize = theme::footnoteSize, .lines = 40})},
+        {"orient", "bottom"},
+        {"fontSize", theme::footnoteSize},
+        {"fontWeight", "normal"},
+        {"lineHeight", theme::footnoteSize + 5}};
+}
+
+/// "Species: Adélie, Gentoo" of the first element with groups; empty without.
+std::string describeGroups(const Chart& chart) {
+  const auto grouped =
+      std::ranges::find_if(chart.elements, [](const Element& e) { return e.group != nullptr; });
+  if (grouped == chart.elements.end()) return {};
+  std::string labels;
+  for (const Category& category : grouped->group->categories)
+    if (category.expression.empty()) labels += (labels.empty() ? "" : ", ") + category.label;
+  return labels.empty() ? labels : fmt::format("{}: {}", grouped->group->title, labels);
 }
 
 /// What the picture shows, for those who cannot see it.
@@ -114,7 +126,8 @@ std::string describe(const Chart& chart, const Parts& parts) {
   std::string text;
   const auto add = [&text](std::string_view sentence) {
     if (sentence.empty()) return;
-    if (!text.empty()) text += text.ends_with('.') ? " " : ". ";
+    const bool isClosed = text.ends_with('.') || text.ends_with("。");
+    if (!text.empty()) text += isClosed ? " " : ". ";
     text += sentence;
   };
   for (const std::string& title : parts.title)
@@ -123,14 +136,7 @@ std::string describe(const Chart& chart, const Parts& parts) {
   for (const Dimension* dimension : {&chart.x, &chart.y})
     if (!dimension->variables.empty())
       add(fmt::format("{}: {}", dimension->role, dimension->variables.front()->title));
-  for (const Element& element : chart.elements) {
-    if (element.group == nullptr) continue;
-    std::string groups;
-    for (const Category& category : element.group->categories)
-      groups += (groups.empty() ? "" : ", ") + category.label;
-    add(fmt::format("{}: {}", element.group->title, groups));
-    break;
-  }
+  add(describeGroups(chart));
   return text.empty() ? chart.folder->manifest.name : text;
 }
 
@@ -143,6 +149,11 @@ Json tableColumns(const Chart& chart) {
     Json column{{"field", variable.id}, {"title", variable.title}};
     for (const Category& category : variable.categories)
       if (category.label != category.key) column["labels"][category.key] = category.label;
+    const std::string value = datum(variable.id);
+    if (!variable.categorical)
+      column["text"] = valueText(variable.format, value);
+    else if (!std::holds_alternative<std::monostate>(variable.format))
+      column["text"] = valueText(variable.format, fmt::format("toNumber({})", value));
     columns.push_back(std::move(column));
   }
   return columns;
@@ -160,7 +171,7 @@ Json assemble(const Chart& chart, Parts parts, const Notes& notes) {
             {"height", theme::plotHeight},
             {"padding", 20},
             {"background", {{"signal", "paper"}}},
-            {"config", theme::config(chart.folder->manifest.language)},
+            {"config", theme::config(chart.folder->manifest)},
             {"signals", theme::signals()}};
   addTitles(spec, plot, parts);
 

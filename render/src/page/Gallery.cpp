@@ -48,10 +48,11 @@ std::string card(const std::filesystem::path& folder) {
   const std::string& alternative =
       manifest.description.empty() ? manifest.name : manifest.description;
   const std::string page = escapeUrl((folder.filename() / "chart.html").native());
-  return fmt::format("<li><a href=\"{0}\">{1}</a>\n<h2><a href=\"{0}\">{2}</a></h2>\n"
+  return fmt::format("<li lang=\"{6}\"><a href=\"{0}\">{1}</a>\n<h2><a href=\"{0}\">{2}</a></h2>\n"
                      "<p>{3}</p>\n<p class=\"soft\">{4}</p>{5}</li>\n",
                      page, picture(folder, alternative), escapeHtml(manifest.name),
-                     escapeHtml(manifest.description), escapeHtml(number), trouble);
+                     escapeHtml(manifest.description), escapeHtml(number), trouble,
+                     escapeHtml(manifest.language));
 }
 
 /// The entries of errors.json: texts, or objects that hold one as "message".

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include <fmt/format.h>
+#include <host/Locale.h>
 #include <nlohmann/json.hpp>
 #include <render/Pages.h>
 
@@ -40,6 +41,10 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
     manifest.description = json.value("description", "");
     manifest.splitHeader = json.value("splitHeader", "");
     manifest.language = json.value("language", manifest.language);
+    const host::NumberSymbols& usual = host::numberSymbols(manifest.language);
+    const nlohmann::json signs = json.value("numberSigns", nlohmann::json::object());
+    manifest.signs = {.decimal = signs.value("decimal", usual.decimal),
+                      .grouping = signs.value("grouping", usual.grouping)};
   } catch (const nlohmann::json::exception& e) {
     throw RenderError(fmt::format("{}: {}", file.native(), e.what()));
   }

@@ -9,12 +9,19 @@
 
 namespace render {
 
+/// The signs of numbers in texts that people read.
+struct NumberSigns {
+  std::string decimal = ".";
+  std::string grouping = ",";
+};
+
 /// What a chart's manifest says that its document does not.
 struct Manifest {
   std::string name;
   std::string description{};
   std::string splitHeader{};
   std::string language = "en";
+  NumberSigns signs{}; ///< those of the language, unless the manifest has its own
 
   /// Reads manifest.json of a chart folder; a folder without one has a manifest
   /// that names the folder. Throws RenderError.

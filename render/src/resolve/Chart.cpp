@@ -111,6 +111,13 @@ bool Element::draws(std::size_t row) const {
   return !x->isMissing(row) && !y->isMissing(row) && (group == nullptr || !group->isMissing(row));
 }
 
+const Format& Dimension::format() const {
+  static const Format none;
+  for (const Variable* variable : variables)
+    if (!std::holds_alternative<std::monostate>(variable->format)) return variable->format;
+  return none;
+}
+
 const Element* Chart::find(const Node& node) const {
   const auto found = std::ranges::find(elements, &node, &Element::node);
   return found == elements.end() ? nullptr : &*found;

@@ -31,6 +31,10 @@ struct Dimension {
   std::vector<Category> categories{}; ///< of a categorical dimension
   double low = 0;                     ///< of a continuous one, margins included
   double high = 1;
+
+  /// That of the first of the variables that has one: a fitted value is shown as the
+  /// values that it is fitted to.
+  const Format& format() const;
 };
 
 /// A chart with every reference resolved. It borrows the folder.

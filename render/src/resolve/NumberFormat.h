@@ -9,18 +9,18 @@
 
 namespace render {
 
-/// How the numbers of a variable are shown.
+/// How the numbers of a variable are shown: as the formatter of the texts shows
+/// them, so that a number reads the same in a footnote and on an axis.
 struct NumberFormat {
   enum class Scientific { never, automatic, always };
-  /// How a negative number stands to its prefix and suffix: $-1, -$1, ($1).
-  enum class Negative { inside, outside, parentheses };
 
   std::optional<int> minimumFractionDigits{};
   std::optional<int> maximumFractionDigits{};
-  bool grouping = true;
+  int minimumIntegerDigits = 1; ///< with 0 a number below one begins with the decimal sign
+  bool grouping = false;
+  bool parentheses = false; ///< around negative numbers, in place of the sign
   Scientific scientific = Scientific::never;
-  Negative negative = Negative::inside;
-  std::string prefix{};
+  std::string prefix{}; ///< stands behind the sign: -$1
   std::string suffix{};
 
   /// Reads a "numberFormat" node; an attribute with a value that is not known is

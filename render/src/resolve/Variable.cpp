@@ -11,6 +11,8 @@
 #include <fmt/format.h>
 #include <unicode/coll.h>
 
+#include "text/Expression.h"
+
 namespace render {
 namespace {
 
@@ -62,8 +64,17 @@ void sortKeys(std::vector<std::string>& keys, const std::string& language) {
   });
 }
 
+/// A value without a label of its own shows itself, in the variable's format.
+Category unlabelled(const std::string& key, const Format& format) {
+  const double value = number(key);
+  const bool isFormatted = !std::holds_alternative<std::monostate>(format) && !std::isnan(value);
+  return {.key = key,
+          .label = key,
+          .expression = isFormatted ? valueText(format, literal(value)) : std::string()};
+}
+
 std::vector<Category> readCategories(const Node& node, const Table::Column& texts,
-                                     const std::string& language) {
+                                     const Format& format, const std::string& language) {
   const std::unordered_set<std::string_view> distinct(texts.begin(), texts.end());
   std::vector<std::string> keys;
   for (const std::string_view key : distinct)
@@ -78,8 +89,10 @@ std::vector<Category> readCategories(const Node& node, const Table::Column& text
   std::vector<Category> categories;
   for (const std::string& key : keys) {
     const auto label = labelOfKey.find(key);
-    categories.push_back(
-        {.key = key, .label = label == labelOfKey.end() ? key : std::string(label->second)});
+    if (label == labelOfKey.end())
+      categories.push_back(unlabelled(key, format));
+    else
+      categories.push_back({.key = key, .label = std::string(label->second)});
   }
   return categories;
 }
@@ -103,9 +116,7 @@ Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes)
   for (const std::string_view name : {"label", "shortLabel", "id"})
     if (variable.title.empty()) variable.title = node.attribute(name);
 
-  const Node* meta = node.child("meta");
-  if (const Node* format = meta ? meta->child("numberFormat") : nullptr)
-    variable.format = NumberFormat::read(*format, notes);
+  variable.format = readFormat(node, folder.manifest.signs, notes);
   if (!variable.categorical && node.child("relabel") != nullptr)
     notes.add(fmt::format("the value labels of {} are not drawn on its continuous scale",
                           variable.title));
@@ -113,7 +124,8 @@ Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes)
   variable.texts = findColumn(node, folder);
   if (variable.texts == nullptr) return variable;
   if (variable.categorical)
-    variable.categories = readCategories(node, *variable.texts, folder.manifest.language);
+    variable.categories =
+        readCategories(node, *variable.texts, variable.format, folder.manifest.language);
   else
     variable.numbers = readNumbers(*variable.texts, variable.title, notes);
   return variable;

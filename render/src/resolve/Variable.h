@@ -1,20 +1,20 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "read/ChartFolder.h"
+#include "resolve/Format.h"
 #include "resolve/Notes.h"
-#include "resolve/NumberFormat.h"
 
 namespace render {
 
 struct Category {
-  std::string key;   ///< the value as the data hold it
-  std::string label; ///< the text shown for it
+  std::string key;          ///< the value as the data hold it
+  std::string label;        ///< the text shown for it
+  std::string expression{}; ///< of Vega, in place of the label of a value with a format
 };
 
 /// A variable of the chart with its values. Its id names its field in Vega.
@@ -23,7 +23,7 @@ struct Variable {
   std::string title; ///< its label, else its short label, else its id
   std::string source;
   bool categorical = false;
-  std::optional<NumberFormat> format;
+  Format format;
 
   const Table::Column* texts = nullptr; ///< null when it has no data
   std::vector<double> numbers;          ///< of a continuous variable; NaN is missing

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include <nlohmann/json.hpp>
 
 namespace render {
@@ -9,5 +11,9 @@ using Json = nlohmann::ordered_json;
 
 /// A number of a specification: whole numbers without a decimal point.
 Json jsonNumber(double value);
+
+/// The text of a specification for files that people compare: what holds nothing but
+/// plain values, such as a row of data, takes one line.
+std::string laidOut(const Json& json);
 
 } // namespace render

@@ -3,9 +3,10 @@
 
 #include <fmt/format.h>
 
+#include "resolve/DateTicks.h"
 #include "resolve/Ticks.h"
 #include "text/Wrap.h"
-#include "translate/Groups.h"
+#include "translate/CategoryLabels.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
@@ -25,37 +26,47 @@ std::string titleOf(const Node& axis, const Dimension& dimension) {
   return title;
 }
 
-void labelNumbers(Json& axis, const Dimension& dimension) {
-  constexpr int ticksAlongX = 9;
-  constexpr int ticksAlongY = 7;
+constexpr int ticksAlongX = 9;
+constexpr int ticksAlongY = 7;
+
+void setTicks(Json& axis, const std::vector<double>& values, std::string text) {
+  axis["values"] = Json::array();
+  for (const double value : values)
+    axis["values"].push_back(jsonNumber(value));
+  axis["encode"]["labels"]["update"]["text"] = {{"signal", std::move(text)}};
+}
+
+/// At places of the calendar; far outside of it there are none.
+std::vector<double> timeTicks(const Dimension& dimension, const DateFormat& format,
+                              const Context& context) {
+  constexpr double gap = 16;
+  constexpr int mostDates = 12;
+  int most = ticksAlongY;
+  if (dimension.role == "x") {
+    const double width =
+        gap + widestDate(format, context.chart.folder->manifest.language, theme::labelSize);
+    most = std::clamp(static_cast<int>(theme::plotWidth / width), 2, mostDates);
+  }
+  const auto ticks = format.isDuration() ? durationTicks : dateTicks;
+  return ticks(dimension.low, dimension.high, format.resolution(), static_cast<std::size_t>(most));
+}
+
+void labelNumbers(Json& axis, const Dimension& dimension, const Context& context) {
+  const Format& format = dimension.format();
+  if (const auto* date = std::get_if<DateFormat>(&format)) {
+    const std::vector<double> values = timeTicks(dimension, *date, context);
+    if (!values.empty()) return setTicks(axis, values, dateText(*date, "datum.value"));
+  }
+  const auto* number = std::get_if<NumberFormat>(&format);
   const Ticks ticks =
       ticksWithin(dimension.low, dimension.high, dimension.role == "x" ? ticksAlongX : ticksAlongY);
   const double magnitude = std::max(std::abs(dimension.low), std::abs(dimension.high));
-  const auto& format =
-      dimension.variables.empty() ? std::nullopt : dimension.variables.front()->format;
-  axis["values"] = Json::array();
-  for (const double value : ticks.values)
-    axis["values"].push_back(jsonNumber(value));
-  axis["encode"]["labels"]["update"]["text"] = {
-      {"signal", tickText(format, "datum.value", ticks.decimals, magnitude)}};
+  setTicks(axis, ticks.values,
+           tickText(number != nullptr ? std::optional(*number) : std::nullopt, "datum.value",
+                    ticks.decimals, magnitude));
 }
 
-void labelCategories(Json& axis, const Dimension& dimension) {
-  axis["encode"]["labels"]["update"]["text"] = {{"scale", scaleName("label", dimension.role)},
-                                                {"field", "value"}};
-  axis["labelLimit"] = theme::legendWidth;
-  if (dimension.role == "y") return;
-  double width = 0;
-  for (const Category& category : dimension.categories)
-    width = std::max(width, textWidth(category.label, theme::labelSize));
-  const double room = theme::plotWidth / static_cast<double>(dimension.categories.size());
-  if (width < room) return;
-  axis["labelAngle"] = -45;
-  axis["labelAlign"] = "right";
-  axis["labelBaseline"] = "middle";
-}
-
-Json axisOf(const Node& axis, const Dimension& dimension) {
+Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
   const bool alongX = dimension.role == "x";
   const bool opposite = axis.attribute("opposite") == "true";
   const char* nearSide = alongX ? "bottom" : "left";
@@ -72,9 +83,9 @@ Json axisOf(const Node& axis, const Dimension& dimension) {
             {"ticks", ticks != nullptr},
             {"labels", ticks != nullptr}};
   if (dimension.categorical)
-    labelCategories(json, dimension);
+    labelCategories(json, dimension, context);
   else
-    labelNumbers(json, dimension);
+    labelNumbers(json, dimension, context);
   return json;
 }
 
@@ -85,7 +96,7 @@ void translateDimension(const Node& node, Context& context) {
   const Dimension* dimension = context.chart.dimension(node.attribute("role"));
   if (dimension == nullptr) return;
   for (const Node& child : node.children)
-    if (child.kind == "axis") context.parts.axes.push_back(axisOf(child, *dimension));
+    if (child.kind == "axis") context.parts.axes.push_back(axisOf(child, *dimension, context));
 }
 
 } // namespace render

@@ -33,7 +33,7 @@ std::string tooltipEntry(const Variable& variable, Parts& parts) {
   const std::string text =
       variable.categorical
           ? fmt::format("scale({},{})", literal(scaleName("label", variable.id)), value)
-          : numberText(variable.format, value);
+          : valueText(variable.format, value);
   return fmt::format("[{},{}]", literal(variable.title), text);
 }
 

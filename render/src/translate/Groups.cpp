@@ -22,13 +22,26 @@ Json categoryScale(const std::string& name, const std::vector<Category>& categor
           {"range", std::move(range)}};
 }
 
+Json labelRange(const std::vector<Category>& categories,
+                const std::function<Json(const std::string&)>& lay) {
+  Json labels = Json::array();
+  std::string expressions;
+  bool isComputed = false;
+  for (const Category& category : categories) {
+    isComputed = isComputed || !category.expression.empty();
+    labels.push_back(lay ? lay(category.label) : Json(category.label));
+    expressions += expressions.empty() ? "[" : ",";
+    expressions +=
+        category.expression.empty() ? labels.back().dump(-1, ' ', true) : category.expression;
+  }
+  if (!isComputed) return labels;
+  return {{"signal", expressions + "]"}};
+}
+
 void addLabelScale(const Variable& variable, Parts& parts) {
   std::string name = scaleName("label", variable.id);
   if (parts.hasScale(name)) return;
-  Json labels = Json::array();
-  for (const Category& category : variable.categories)
-    labels.push_back(category.label);
-  parts.scales.push_back(categoryScale(name, variable.categories, std::move(labels)));
+  parts.scales.push_back(categoryScale(name, variable.categories, labelRange(variable.categories)));
 }
 
 void addGroupScales(const Variable& group, Parts& parts) {

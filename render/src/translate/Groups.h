@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,11 @@ std::string scaleName(std::string_view purpose, std::string_view id);
 
 /// An ordinal scale from the keys of categories to a range.
 Json categoryScale(const std::string& name, const std::vector<Category>& categories, Json range);
+
+/// A range of the texts of categories, which `lay` turns into what Vega draws: a text
+/// or lines. Texts that Vega computes come in a signal.
+Json labelRange(const std::vector<Category>& categories,
+                const std::function<Json(const std::string&)>& lay = {});
 
 /// Adds the scale "label" of a categorical variable, unless it is there.
 void addLabelScale(const Variable& variable, Parts& parts);

@@ -51,11 +51,11 @@ void addTarget(const Node& target, std::vector<Entry>& entries, Context& context
 std::string addLegendLabels(const Variable& group, Parts& parts) {
   std::string name = scaleName("legend", group.id);
   if (parts.hasScale(name)) return name;
-  Json labels = Json::array();
-  for (const Category& category : group.categories)
-    labels.push_back(wrap(category.label,
-                          {.width = theme::legendWidth, .fontSize = theme::labelSize, .lines = 3}));
-  parts.scales.push_back(categoryScale(name, group.categories, std::move(labels)));
+  const auto lines = [](const std::string& label) -> Json {
+    return wrap(label, {.width = theme::legendWidth, .fontSize = theme::labelSize, .lines = 3});
+  };
+  parts.scales.push_back(
+      categoryScale(name, group.categories, labelRange(group.categories, lines)));
   return name;
 }
 
@@ -75,10 +75,11 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
   const Node* label = legend.child("label");
   const std::string& title = label && !label->text.empty() ? label->text : group.title;
 
-  Json json{
-      {"title",
-       wrap(title, {.width = theme::legendWidth, .fontSize = theme::labelSize + 1, .lines = 4})},
-      {"stroke", scaleName("color", group.id)}};
+  Json json{{"title", wrap(title, {.width = theme::legendWidth,
+                                   .fontSize = theme::labelSize + 1,
+                                   .lines = 4,
+                                   .bold = true})},
+            {"stroke", scaleName("color", group.id)}};
   if (entry.points) {
     json["shape"] =
         entry.lines ? addSymbolsOnLines(group, context.parts) : scaleName("symbol", group.id);

@@ -1,16 +1,35 @@
 #include "translate/Theme.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
-#include <host/Text.h>
-#include <unicode/dcfmtsym.h>
+#include <host/Locale.h>
 
 namespace render::theme {
 namespace {
 
-/// Faces of one width first. The free one leads, because a renderer without a
-/// browser may try the first name only.
-constexpr const char* font =
-    "'Liberation Sans', Arial, Helvetica, 'Noto Sans', 'DejaVu Sans', sans-serif";
+/// Letters come from faces of one width, whatever the language. What these do not have
+/// comes from the next that does; the characters that Chinese, Japanese and Korean
+/// share look different in each, so that the language's own faces have to come first.
+struct EastAsianFaces {
+  std::string_view language;
+  std::string_view families;
+};
+constexpr EastAsianFaces eastAsianFaces[] = {
+    {"ko", "'Noto Sans CJK KR', 'Noto Sans KR', 'Apple SD Gothic Neo', 'Malgun Gothic'"},
+    {"zh-cn", "'Noto Sans CJK SC', 'Noto Sans SC', 'PingFang SC', 'Microsoft YaHei'"},
+    {"zh-tw", "'Noto Sans CJK TC', 'Noto Sans TC', 'PingFang TC', 'Microsoft JhengHei'"},
+    {"ja", "'Noto Sans CJK JP', 'Noto Sans JP', 'Hiragino Sans', 'Yu Gothic', Meiryo"},
+};
+
+/// The Japanese faces have the characters of the others too.
+std::string fontOf(std::string_view language) {
+  const auto* faces = std::ranges::find(eastAsianFaces, language, &EastAsianFaces::language);
+  if (faces == std::end(eastAsianFaces)) --faces;
+  return fmt::format("'Liberation Sans', Arial, Helvetica, 'Noto Sans', {}, 'DejaVu Sans', "
+                     "sans-serif",
+                     faces->families);
+}
 
 /// Colors that people with any color vision tell apart; the order gives the first
 /// few the most contrast.
@@ -20,17 +39,76 @@ constexpr const char* palette =
 
 const Json ink{{"signal", "ink"}};
 
-Json numberLocale(const std::string& language) {
-  UErrorCode status = U_ZERO_ERROR;
-  const icu::DecimalFormatSymbols symbols(icu::Locale(language.c_str()), status);
-  const auto text = [&](icu::DecimalFormatSymbols::ENumberFormatSymbol symbol) {
-    std::string utf8;
-    return symbols.getSymbol(symbol).toUTF8String(utf8);
-  };
-  return {{"decimal", text(icu::DecimalFormatSymbols::kDecimalSeparatorSymbol)},
-          {"thousands", text(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol)},
+/// A hyphen for minus, as in the texts of the chart.
+Json numberLocale(const NumberSigns& signs) {
+  return {{"decimal", signs.decimal},
+          {"thousands", signs.grouping},
           {"grouping", Json::array({3})},
-          {"currency", {"", ""}}};
+          {"currency", {"", ""}},
+          {"minus", "-"}};
+}
+
+/// Only the names are used.
+Json timeLocale(std::string_view language) {
+  const host::DateNames& names = host::dateNames(language);
+  return {{"dateTime", "%c"},       {"date", "%x"},
+          {"time", "%X"},           {"periods", {"AM", "PM"}},
+          {"days", names.days},     {"shortDays", names.shortDays},
+          {"months", names.months}, {"shortMonths", names.shortMonths}};
+}
+
+Json axes(const std::string& font) {
+  return {{"domainColor", ink},
+          {"tickColor", ink},
+          {"gridColor", {{"signal", "faint"}}},
+          {"labelColor", ink},
+          {"labelFont", font},
+          {"labelFontSize", labelSize},
+          {"labelOverlap", true},
+          {"labelPadding", 5},
+          {"titleColor", ink},
+          {"titleFont", font},
+          {"titleFontSize", axisTitleSize},
+          {"titleFontWeight", "normal"},
+          {"titlePadding", 12}};
+}
+
+Json legends(const std::string& font) {
+  return {{"labelColor", ink},
+          {"labelFont", font},
+          {"labelFontSize", labelSize},
+          {"labelLimit", 0},
+          {"labelOffset", 12},
+          {"offset", 24},
+          {"padding", 0},
+          {"rowPadding", 7},
+          {"symbolLimit", legendEntries},
+          {"symbolOffset", 6}, // room for the lines that reach out of symbols
+          {"symbolSize", pointSize},
+          {"symbolStrokeWidth", 1.75},
+          {"titleColor", ink},
+          {"titleFont", font},
+          {"titleFontSize", labelSize + 1},
+          {"titleFontWeight", "bold"},
+          {"titleLimit", 0},
+          {"titlePadding", 9}};
+}
+
+Json titles(const std::string& font) {
+  return {{"anchor", "start"},
+          {"frame", "bounds"},
+          {"color", ink},
+          {"font", font},
+          {"fontSize", titleSize},
+          {"fontWeight", "bold"},
+          {"limit", 0},
+          {"lineHeight", titleSize + 5},
+          {"offset", 18},
+          {"subtitleColor", ink},
+          {"subtitleFont", font},
+          {"subtitleFontSize", subtitleSize},
+          {"subtitleLineHeight", subtitleSize + 5},
+          {"subtitlePadding", 6}};
 }
 
 } // namespace
@@ -56,56 +134,13 @@ Json signals() {
           {{"name", "palette"}, {"update", palette}}};
 }
 
-Json config(const std::string& language) {
-  return {{"locale", {{"number", numberLocale(language)}}},
-          {"axis",
-           {{"domainColor", ink},
-            {"tickColor", ink},
-            {"gridColor", {{"signal", "faint"}}},
-            {"labelColor", ink},
-            {"labelFont", font},
-            {"labelFontSize", labelSize},
-            {"labelOverlap", true},
-            {"labelPadding", 5},
-            {"titleColor", ink},
-            {"titleFont", font},
-            {"titleFontSize", axisTitleSize},
-            {"titleFontWeight", "normal"},
-            {"titlePadding", 12}}},
-          {"legend",
-           {{"labelColor", ink},
-            {"labelFont", font},
-            {"labelFontSize", labelSize},
-            {"labelLimit", 0},
-            {"labelOffset", 12},
-            {"offset", 24},
-            {"padding", 0},
-            {"rowPadding", 7},
-            {"symbolLimit", legendEntries},
-            {"symbolOffset", 6}, // room for the lines that reach out of symbols
-            {"symbolSize", pointSize},
-            {"symbolStrokeWidth", 1.75},
-            {"titleColor", ink},
-            {"titleFont", font},
-            {"titleFontSize", labelSize + 1},
-            {"titleFontWeight", "bold"},
-            {"titleLimit", 0},
-            {"titlePadding", 9}}},
-          {"title",
-           {{"anchor", "start"},
-            {"frame", "bounds"},
-            {"color", ink},
-            {"font", font},
-            {"fontSize", titleSize},
-            {"fontWeight", "bold"},
-            {"limit", 0},
-            {"lineHeight", titleSize + 5},
-            {"offset", 18},
-            {"subtitleColor", ink},
-            {"subtitleFont", font},
-            {"subtitleFontSize", subtitleSize},
-            {"subtitleLineHeight", subtitleSize + 5},
-            {"subtitlePadding", 6}}}};
+Json config(const Manifest& manifest) {
+  const std::string font = fontOf(manifest.language);
+  return {{"locale",
+           {{"number", numberLocale(manifest.signs)}, {"time", timeLocale(manifest.language)}}},
+          {"axis", axes(font)},
+          {"legend", legends(font)},
+          {"title", titles(font)}};
 }
 
 } // namespace render::theme

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "read/ChartFolder.h"
 #include "text/Json.h"
 
 /// How every chart looks: sizes in pixels, colors, symbols, fonts.
@@ -58,7 +59,8 @@ Json functionDash(std::size_t index);
 /// "faint" and "palette", the colors of groups, follow.
 Json signals();
 
-/// Vega's configuration. `language` chooses the decimal and grouping separators.
-Json config(const std::string& language);
+/// Vega's configuration. The manifest's language chooses the names of months and days
+/// and the faces of Chinese, Japanese and Korean characters.
+Json config(const Manifest& manifest);
 
 } // namespace render::theme

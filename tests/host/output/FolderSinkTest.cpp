@@ -5,6 +5,7 @@
 
 #include <host/ChartError.h>
 #include <host/Missing.h>
+#include <host/Settings.h>
 #include <nlohmann/json.hpp>
 
 #include "OutputTest.h"
@@ -24,6 +25,10 @@ CTVariableType variable(const std::string& id, const std::string& source,
   made.label = "Label \"of\" " + id;
   made.shortLabel = id;
   made.categorical = sourceName == "V2" ? "true" : "false";
+  if (sourceName == "V2") made.categories = {{"a", "\"A\""}, {"2", "two"}};
+  if (sourceName == "V1")
+    made.formats = {
+        {"dateTimeFormat", {{"prefix", " WK "}}, {{"dateFormat", {}, {{"week", {}, {}}}}}}};
   return made;
 }
 
@@ -56,8 +61,10 @@ TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
   const std::string empty;
   const std::string language = "de";
   host::FolderSink sink({});
+  CmnLoc::set({"·", ""});
   for (int i = 0; i < 2; ++i)
     sink.send({name, xml, description, empty, empty, language, visualization, &columns});
+  CmnLoc::followLanguage();
 
   EXPECT_EQ(names(output), (Names{".lock", "0001-gr-e-gewicht", "0002-gr-e-gewicht"}));
   const auto folder = output / "0001-gr-e-gewicht";
@@ -71,14 +78,17 @@ TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
   EXPECT_EQ(read(folder / "manifest.json"), manifest.dump(2) + "\n");
   EXPECT_EQ(manifest.dump(), R"({"name":"Größe & Gewicht","description":"a�\"",)"
                              R"("splitHeader":"","template":"","language":"de",)"
+                             R"("numberSigns":{"decimal":"·","grouping":""},)"
                              R"("type":"icicle","icicle":{"orientation":"horizontal","rows":3},)"
                              R"("sources":[{"name":"source0","file":"source0.csv","rows":3,)"
                              R"("columns":[{"name":"V1","variables":["x","aggregate"],)"
                              R"("label":"Label \"of\" x","shortLabel":"x",)"
-                             R"("kind":"number","categorical":false},)"
+                             R"("kind":"number","categorical":false,"format":{"dateTimeFormat":)"
+                             R"({"dateFormat":{"week":{}},"prefix":" WK "}}},)"
                              R"({"name":"V2","variables":["group"],)"
                              R"("label":"Label \"of\" group","shortLabel":"group",)"
-                             R"("kind":"string","categorical":true}]},)"
+                             R"("kind":"string","categorical":true,"categories":[{"value":"a",)"
+                             R"("label":"\"A\""},{"value":"2","label":"two"}]}]},)"
                              R"({"name":"source1","file":"","rows":0,"columns":[]}],)"
                              R"("statistics":{"aggregate":)"
                              R"({"statistic":"range","min":1.0,"max":null}},"errors":[]})");

@@ -7,12 +7,26 @@
 
 namespace {
 
-TEST(XDocument, reads_the_variables_of_the_graph_with_their_descriptions) {
+std::string shown(const std::vector<CTFormatType>& formats) {
+  std::string text;
+  for (const CTFormatType& format : formats) {
+    text += format.kind + "(";
+    for (const auto& [name, value] : format.attributes)
+      text.append(name).append("=").append(value).append(",");
+    text += shown(format.parts) + ")";
+  }
+  return text;
+}
+
+TEST(XDocument, reads_the_variables_of_the_graph_with_all_that_tells_how_they_are_shown) {
   const std::string xml = R"(<?xml version="1.0" encoding="UTF-8"?>
     <graph name="Regression">
       <variable id="variable3" sourceName="V3" source="source0" categorical="false"
                 label="Body&#10;mass" shortLabel="mäss">
-        <meta creator="external_datasource" description="mean;12.5"><number/></meta>
+        <meta creator="external_datasource" description="mean;12.5"><dateTimeFormat prefix=" WK ">
+          <dateFormat><week/><year showCentury="true"/></dateFormat><timeFormat/>
+        </dateTimeFormat></meta>
+        <relabel from="1" to="&#xE9;ins"/><relabel from="2" to="zwei"/>
       </variable>
       <frame><variable id="inner"/><meta description="of no variable"/></frame>
       <variable id="variable4" categorical="true"/>
@@ -25,7 +39,12 @@ TEST(XDocument, reads_the_variables_of_the_graph_with_their_descriptions) {
                          first.shortLabel, first.getDescription()}),
             (std::vector<std::string>{"variable3", "V3", "source0", "false", "Body\nmass", "mäss",
                                       "mean;12.5"}));
+  EXPECT_EQ(shown(first.formats),
+            "dateTimeFormat(prefix= WK ,dateFormat(week()year(showCentury=true,))timeFormat())");
+  EXPECT_EQ(first.categories,
+            (std::vector<std::pair<std::string, std::string>>{{"1", "éins"}, {"2", "zwei"}}));
   EXPECT_EQ(variables[1].id, "variable4");
+  EXPECT_TRUE(variables[1].formats.empty() && variables[1].categories.empty());
   EXPECT_EQ(variables[1].source + variables[1].getDescription(), "");
 }
 

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fmt/format.h>
+
 #include "resolve/NumberFormat.h"
 
 namespace {
@@ -24,62 +26,50 @@ struct Shown {
   std::string expression;
 };
 
+/// The looks that no display format asks for; the others are compared with the formatter.
 class NumberTextTest : public testing::TestWithParam<Shown> {};
 
 TEST_P(NumberTextTest, GivesAnExpressionForTheText) {
   EXPECT_EQ(numberText(formatOf(GetParam().attributes), "v"), GetParam().expression);
 }
 
+const std::string upToThree =
+    R"(format((abs(v)*16%2==1&&floor(abs(v)*1000)%2==0?v*(1-1e-15):v),".3f"))";
+
 INSTANTIATE_TEST_SUITE_P(
     Formats, NumberTextTest,
-    testing::Values(
-        Shown{"plain",
-              {{"minimumFractionDigits", "0"}, {"useGrouping", "false"}},
-              R"(format(v,".3~f"))"},
-        Shown{"comma", {{"minimumFractionDigits", "2"}}, R"(format(v,",.2f"))"},
-        Shown{
-            "dollar", {{"minimumFractionDigits", "2"}, {"prefix", "$"}}, R"("$"+format(v,",.2f"))"},
-        Shown{"percent",
-              {{"minimumFractionDigits", "1"}, {"suffix", "%"}, {"useGrouping", "false"}},
-              R"(format(v,".1f")+"%")"},
-        Shown{"most",
-              {{"minimumFractionDigits", "4"}, {"maximumFractionDigits", "1"}},
-              R"(format(v,",.1f"))"},
-        Shown{"none",
-              {{"minimumFractionDigits", "0"}, {"maximumFractionDigits", "0"}},
-              R"(format(v,",.0f"))"},
-        Shown{"scientific", {{"scientific", "always"}}, R"(format(v,"~e"))"},
-        Shown{"automatic", {{"scientific", "auto"}}, R"(format(v,".6~g"))"},
-        Shown{"outside",
-              {{"minimumFractionDigits", "0"},
-               {"maximumFractionDigits", "0"},
-               {"prefix", "€"},
-               {"negativesOutside", "true"}},
-              R"((v < 0 ? "\u2212" : "")+"\u20ac"+format(abs(v),",.0f"))"},
-        Shown{"parentheses",
-              {{"minimumFractionDigits", "2"}, {"prefix", "$"}, {"negativesInParentheses", "true"}},
-              R"e((v < 0 ? "("+"$"+format(abs(v),",.2f")+")" : "$"+format(abs(v),",.2f")))e"},
-        Shown{"hostile",
-              {{"minimumFractionDigits", "2"}, {"suffix", "\"+x\xE2\x80\xA8"}},
-              R"(format(v,",.2f")+"\"+x\u2028")"}),
+    testing::Values(Shown{"open", {}, fmt::format("replace({},/[^0-9]0+$|0+$/,\"\")", upToThree)},
+                    Shown{"most",
+                          {{"minimumFractionDigits", "1"}, {"maximumFractionDigits", "3"}},
+                          fmt::format("replace({},/0{{1,2}}$/,\"\")", upToThree)},
+                    Shown{"contrary",
+                          {{"minimumFractionDigits", "4"}, {"maximumFractionDigits", "3"}},
+                          upToThree},
+                    Shown{"scientific",
+                          {{"minimumFractionDigits", "2"}, {"scientific", "always"}},
+                          R"(replace(replace(format(v,".2e"),/e/,"E"),/[+-](?=[0-9]$)/,"$&0"))"},
+                    Shown{"hostile",
+                          {{"maximumFractionDigits", "3"},
+                           {"minimumFractionDigits", "3"},
+                           {"prefix", "$&\\"},
+                           {"suffix", "\"+x\xE2\x80\xA8"}},
+                          fmt::format(R"(replace({},/^-?/,"$&$$&\\")+"\"+x\u2028")", upToThree)}),
     [](const auto& test) { return test.param.name; });
 
-TEST(NumberText, WithoutAFormatIsTheShortestInSixDigits) {
-  EXPECT_EQ(render::numberText(std::nullopt, "v"), R"(format(v,".6~g"))");
-}
-
 TEST(TickText, ShowsAsManyDecimalsAsTellTheTicksApart) {
-  const NumberFormat whole = formatOf({{"minimumFractionDigits", "0"}, {"useGrouping", "false"}});
-  EXPECT_EQ(tickText(whole, "v", 0, 100), R"(format(v,".0f"))");
-  EXPECT_EQ(tickText(whole, "v", 2, 100), R"(format(v,".2f"))");
+  const NumberFormat whole = formatOf({{"minimumFractionDigits", "0"}, {"useGrouping", "true"}});
+  EXPECT_EQ(tickText(whole, "v", 0, 100), R"(format(v,",.0f"))");
+  EXPECT_EQ(tickText(whole, "v", 2, 100), R"(format(v,",.2f"))");
   const NumberFormat atMostOne = formatOf({{"maximumFractionDigits", "1"}});
-  EXPECT_EQ(tickText(atMostOne, "v", 2, 100), R"(format(v,",.1f"))");
+  EXPECT_EQ(tickText(atMostOne, "v", 2, 100), R"(format(v,".1f"))");
   EXPECT_EQ(render::tickText(std::nullopt, "v", 1, 2030), R"(format(v,".1f"))");
 }
 
 TEST(TickText, IsScientificWhereThePlainTextWouldCrowdTheAxis) {
-  EXPECT_EQ(render::tickText(std::nullopt, "v", 0, 1e12), R"(format(v,"~e"))");
-  EXPECT_EQ(render::tickText(std::nullopt, "v", 10, 1), R"(format(v,"~e"))");
+  const char* const scientific =
+      R"(replace(replace(format(v,"~e"),/e/,"E"),/[+-](?=[0-9]$)/,"$&0"))";
+  EXPECT_EQ(render::tickText(std::nullopt, "v", 0, 1e12), scientific);
+  EXPECT_EQ(render::tickText(std::nullopt, "v", 10, 1), scientific);
 }
 
 TEST(NumberFormat, NotesDigitsThatAreNoNumber) {

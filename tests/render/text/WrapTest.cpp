@@ -32,6 +32,14 @@ TEST(Wrap, BreaksTextWithoutBlanksWhereItsLanguageAllows) {
               ElementsAre("ペンギン", "の体重"));
 }
 
+TEST(Wrap, IsWholeWhenNoWordIsBrokenAndNothingLeftOut) {
+  const render::WrapLimits limits{.width = 40, .fontSize = 10, .lines = 2};
+  EXPECT_TRUE(render::wrapsWhole("one two three", {.width = 40, .fontSize = 10, .lines = 3}));
+  EXPECT_FALSE(render::wrapsWhole("one two three four", limits));
+  EXPECT_FALSE(render::wrapsWhole("penguins", limits));
+  EXPECT_TRUE(render::wrapsWhole("ペンギンの体重", limits));
+}
+
 TEST(Wrap, EndsInAnEllipsisPastTheLastLine) {
   EXPECT_THAT(wrap("one two three four", {.width = 60, .fontSize = 12, .lines = 1}),
               ElementsAre("one two…"));

@@ -1,12 +1,20 @@
+#include <algorithm>
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fmt/format.h>
 #include <render/Pages.h>
 
 #include "render/support/ChartFolder.h"
+#include "render/support/Node.h"
+#include "resolve/NumberFormat.h"
 
 namespace {
 
 using nlohmann::json;
+using testing::HasSubstr;
+using testing::StartsWith;
 
 class TranslateTest : public testing::Test {
 protected:
@@ -22,7 +30,6 @@ protected:
     return spec(plot, rest, table)["usermeta"]["notes"];
   }
 
-private:
   TestFolder folder_;
 };
 
@@ -42,15 +49,18 @@ TEST_F(TranslateTest, APointElementBecomesSymbolsOfItsCompleteRows) {
                                    {"v1": 10, "v2": null, "v3": "a"}]},
     {"name": "points", "source": "source0", "transform": [{"type": "filter",
      "expr": "isValid(datum[\"v1\"]) && isValid(datum[\"v2\"]) && isValid(datum[\"v3\"])"}]}])json"));
-  EXPECT_EQ(drawn["marks"][0]["marks"], json::parse(R"json([
+  const auto shortest = [](const char* field) { return render::numberText(std::nullopt, field); };
+  const std::string tooltip =
+      fmt::format(R"([["Group",scale("label_v3",datum["v3"])],["A label",{}],["b",{}]])",
+                  shortest(R"(datum["v1"])"), shortest(R"(datum["v2"])"));
+  json marks = json::parse(R"json([
     {"type": "symbol", "from": {"data": "points"}, "clip": false, "encode": {"update": {
       "x": {"scale": "x", "field": "v1"}, "y": {"scale": "y", "field": "v2"},
       "size": {"value": 56}, "shape": {"scale": "symbol_v3", "field": "v3"},
       "stroke": {"scale": "color_v3", "field": "v3"}, "strokeWidth": {"value": 1.5},
-      "fill": {"scale": "color_v3", "field": "v3"}, "fillOpacity": {"value": 0.55},
-      "tooltip": {"signal":
-"[[\"Group\",scale(\"label_v3\",datum[\"v3\"])],[\"A label\",format(datum[\"v1\"],\".6~g\")],[\"b\",format(datum[\"v2\"],\".6~g\")]]"
-      }}}}])json"));
+      "fill": {"scale": "color_v3", "field": "v3"}, "fillOpacity": {"value": 0.55}}}}])json");
+  marks[0]["encode"]["update"]["tooltip"] = {{"signal", tooltip}};
+  EXPECT_EQ(drawn["marks"][0]["marks"], marks);
   EXPECT_EQ(drawn["usermeta"]["notes"], json({missingRow}));
 }
 
@@ -84,6 +94,89 @@ TEST_F(TranslateTest, AnAxisHasTicksAndGridAsAsked) {
   EXPECT_EQ(axes[1]["orient"], "right");
   EXPECT_EQ(axes[1]["title"], json({"b"}));
   EXPECT_EQ(axes[1]["labels"], false);
+}
+
+const std::string monthAndYear = R"(<meta><dateTimeFormat><dateFormat><monthName/>
+  <year showCentury="true"/></dateFormat><timeFormat/></dateTimeFormat></meta>)";
+/// 1 January 2000, and a day and a year later.
+constexpr auto dates = "A,B,Group\n13166064000,1,13166064000\n13166150400,2,13166064000\n"
+                       "13197686400,3,\n";
+
+TEST_F(TranslateTest, ADateAxisHasTicksAtPlacesOfTheCalendarInTheChartsLanguage) {
+  folder_.write("manifest.json", R"({"language": "de", "numberSigns": {"decimal": "·"}})");
+  const json drawn =
+      spec(R"(<dimension role="x"><axis><majorTicks/></axis></dimension>
+    <element type="point" id="points"><x variable="v4"/><y variable="v2"/></element>)",
+           R"(<variable id="v4" sourceName="A" source="source0" categorical="false">)" +
+               monthAndYear + "</variable>",
+           dates);
+  const json& axis = drawn["marks"][0]["axes"][0];
+  EXPECT_EQ(axis["values"], json({13166064000, 13171248000, 13176518400, 13181788800, 13187145600,
+                                  13192416000, 13197686400}));
+  const std::string text = axis["encode"]["labels"]["update"]["text"]["signal"];
+  EXPECT_THAT(text, HasSubstr(R"(,"%b ")"));
+  EXPECT_EQ(drawn["config"]["locale"]["time"]["months"][2], "März");
+  EXPECT_EQ(drawn["config"]["locale"]["number"]["decimal"], "·");
+  EXPECT_EQ(drawn["config"]["locale"]["number"]["thousands"], ".");
+  EXPECT_EQ(drawn["usermeta"]["notes"], json::array());
+}
+
+TEST_F(TranslateTest, CategoriesWithAFormatAreLabelledByIt) {
+  const json drawn = spec(R"(<element type="point" id="points"><x variable="v1"/><y variable="v2"/>
+    <color variable="v4"/></element>)",
+                          R"(<variable id="v4" sourceName="A" source="source0" categorical="true">
+    <relabel from="13166064000" to="&quot;first&quot;"/>)" +
+                              monthAndYear + "</variable>",
+                          dates);
+  const json& scale = drawn["marks"][0]["scales"].back();
+  EXPECT_EQ(scale["name"], "label_v4");
+  const std::string labels = scale["range"]["signal"];
+  EXPECT_THAT(labels, StartsWith(R"(["\"first\"",(abs(13166150400)<)"));
+  const json rows = scriptOutput("texts.mjs", {folder_.path().native()});
+  EXPECT_EQ(rows[0].back(), "\"first\"");
+  EXPECT_EQ(rows[1].back(), "Jan 2000");
+}
+
+TEST_F(TranslateTest, LabelsOfACategoricalAxisAreWrappedBeforeTheyAreSlanted) {
+  const auto axisOf = [this](const char* role, const std::string& label, int categories) {
+    std::string table = "A,B,Group\n";
+    for (int i = 0; i < categories; ++i)
+      table += fmt::format("1,{},{}\n", i, i == 0 ? label : std::to_string(i));
+    const std::string variables = role == std::string("x")
+                                      ? R"(<x variable="v3"/><y variable="v2"/>)"
+                                      : R"(<x variable="v2"/><y variable="v3"/>)";
+    const json plot =
+        spec(fmt::format(R"(<dimension role="{}"><axis><majorTicks/></axis></dimension>
+      <element type="point" id="points">{}</element>)",
+                         role, variables),
+             "", table)["marks"][0];
+    const auto scale = std::ranges::find_if(plot["scales"], [&](const json& each) {
+      return each["name"] == std::string("label_") + role;
+    });
+    return std::pair(plot["axes"][0], (*scale)["range"].back());
+  };
+  const struct {
+    const char* role;
+    std::string label;
+    int categories;
+    json lines;
+    bool slanted;
+  } cases[] = {
+      {"x", "one category", 2, {"one category"}, false},
+      {"x", "one category of ten", 10, {"one", "category", "of ten"}, false},
+      {"x", "Kategorienbezeichnung", 10, {"Kategorienbezeichnung"}, true},
+      {"x", "とても長い日本語の分類", 10, {"とても長", "い日本語", "の分類"}, false},
+      {"y",
+       "a label that is wider than its room",
+       3,
+       {"a label that is wider than its", "room"},
+       false},
+  };
+  for (const auto& [role, label, categories, lines, slanted] : cases) {
+    const auto [axis, shown] = axisOf(role, label, categories);
+    EXPECT_EQ(shown, lines) << label;
+    EXPECT_EQ(axis.contains("labelAngle"), slanted) << label;
+  }
 }
 
 TEST_F(TranslateTest, ALegendShowsTheSymbolsOfItsTargets) {

@@ -1,0 +1,337 @@
+! How fast does consumer spending in the United States grow, how much is saved, and is it
+! the same in every decade?
+!
+! usage: economics [data set]
+!
+! Draws two charts over dates: spending per person with a growth curve for each decade, and
+! the savings rate with a line for each decade, both by least squares. The data set is a
+! data package or a CSV file with these columns; data/economics below the working directory
+! when none is named.
+program economics
+  use, intrinsic :: iso_c_binding, only: dp => c_double
+  use charts
+  use chartxml
+  use korva
+  implicit none
+
+  character(*), parameter :: procedure_name = 'economics'
+  real(dp), parameter :: seconds_per_year = 365.2425_dp*86400
+
+  ! The variables of this run, in the order in which open_observations names them.
+  integer(cx), parameter :: date = 1, decade = 2, consumption = 3, population = 4, &
+    savings_rate = 5
+
+  !> The cases without missing values; case i belongs to decades(group(i)).
+  type :: sample
+    real(dp), allocatable :: date(:), spending(:), savings(:)
+    integer, allocatable :: group(:), decades(:)
+  end type
+
+  !> What one of the charts shows; texts are keys of the string table.
+  type :: series
+    character(:), allocatable :: title, subtitle, trend_label, trend_line, description
+    logical :: grows  !< the trend is a growth curve, not a straight line
+    real(dp), allocatable :: value(:)
+  end type
+
+  !> The trend of one decade: of the value, or of its logarithm when it grows.
+  type :: trend
+    logical :: grows
+    real(dp) :: intercept, slope  !< at the first date; a year
+    real(dp) :: mean              !< of the value
+    integer :: cases
+  end type
+
+  !> The chart and the nodes that several steps refer to.
+  type :: drawing
+    integer(cx) :: chart, source, graph, data
+    integer(cx) :: decade, date, value, trend  !< variables
+    integer(cx) :: points                      !< the element that the legend explains
+  end type
+
+  call run
+
+contains
+
+  subroutine run
+    type(data_set) :: observations
+    type(sample) :: cases
+
+    call open_observations(observations)
+    call load_cases(observations, cases)
+
+    call draw(observations, cases, series( &
+      title='Consumer spending per person in the United States', &
+      subtitle='Growth by decade^2', trend_label='Growth curve of its decade', &
+      trend_line='Growth of a decade^4', description='Description of spending', &
+      grows=.true., value=cases%spending))
+    call draw(observations, cases, series( &
+      title='Personal savings rate in the United States', &
+      subtitle='Trend by decade^2', trend_label='Trend of its decade', &
+      trend_line='Trend of a decade^4', description='Description of savings', &
+      grows=.false., value=cases%savings))
+
+    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call observations%close()
+  end subroutine
+
+  ! Data
+
+  subroutine open_observations(observations)
+    type(data_set), intent(inout) :: observations
+    character(:), allocatable :: path
+    integer :: columns(5)
+
+    path = first_argument(otherwise='data/economics')
+    call require(observations%open(path), 'cannot open the data set '//path)
+    columns = [observations%find_column('date'), observations%find_column('decade'), &
+      observations%find_column('consumption'), observations%find_column('population'), &
+      observations%find_column('savings_rate')]
+    call require(all(columns > 0), 'this is not the data set that was expected')
+    call require(observations%use_variables(columns), 'cannot use the variables')
+    call require(observations%cell_count() == size(columns), 'a column is not of numbers')
+    call require(observations%split_by(columns(decade:decade)), 'cannot split by decade')
+  end subroutine
+
+  !> Reads the cases in the order of their dates and drops those with a missing value.
+  subroutine load_cases(observations, cases)
+    type(data_set), intent(in) :: observations
+    type(sample), intent(out) :: cases
+    real(dp) :: cells(5)
+    integer :: row
+
+    allocate (cases%date(0), cases%spending(0), cases%savings(0), cases%group(0))
+    allocate (cases%decades(0))
+    do row = 1, observations%row_count()
+      call require(observations%read_row(row, cells), 'cannot read the data set')
+      if (any(cells <= missing_value()) .or. cells(population) <= 0) cycle
+      cases%date = [cases%date, cells(date)]
+      ! Billions of dollars for thousands of persons.
+      cases%spending = [cases%spending, 1.0e6_dp*cells(consumption)/cells(population)]
+      cases%savings = [cases%savings, cells(savings_rate)]
+      if (.not. any(cases%decades == nint(cells(decade)))) &
+        cases%decades = [cases%decades, nint(cells(decade))]
+      cases%group = [cases%group, findloc(cases%decades, nint(cells(decade)), dim=1)]
+    end do
+    call require(size(cases%date) > 0, 'the data set has no complete case')
+  end subroutine
+
+  ! Estimation
+
+  !> The least-squares trend of the cases of one decade.
+  type(trend) function fit(cases, shown, decade)
+    type(sample), intent(in) :: cases
+    type(series), intent(in) :: shown
+    integer, intent(in) :: decade
+    real(dp), allocatable :: x(:), y(:)
+
+    x = pack(years(cases, cases%date), cases%group == decade)
+    y = pack(shown%value, cases%group == decade)
+    call require(maxval(x) > minval(x), 'no trend: a decade needs two different dates')
+    call require(.not. shown%grows .or. all(y > 0), 'no growth curve: a value is not positive')
+
+    fit%grows = shown%grows
+    fit%cases = size(x)
+    fit%mean = mean(y)
+    if (shown%grows) y = log(y)
+    fit%slope = sum((x - mean(x))*(y - mean(y)))/sum((x - mean(x))**2)
+    fit%intercept = mean(y) - fit%slope*mean(x)
+  end function
+
+  pure real(dp) function mean(values)
+    real(dp), intent(in) :: values(:)
+
+    mean = sum(values)/size(values)
+  end function
+
+  elemental real(dp) function years(cases, date)
+    type(sample), intent(in) :: cases
+    real(dp), intent(in) :: date
+
+    years = (date - cases%date(1))/seconds_per_year
+  end function
+
+  elemental real(dp) function predicted(line, year)
+    type(trend), intent(in) :: line
+    real(dp), intent(in) :: year
+
+    predicted = line%intercept + line%slope*year
+    if (line%grows) predicted = exp(predicted)
+  end function
+
+  ! The chart
+
+  subroutine draw(observations, cases, shown)
+    type(data_set), intent(in) :: observations
+    type(sample), intent(in) :: cases
+    type(series), intent(in) :: shown
+    type(trend) :: trends(size(cases%decades))
+    type(drawing) :: plot
+    integer :: i
+
+    trends = [(fit(cases, shown, i), i=1, size(trends))]
+    plot%chart = made('a chart', create_chart(observations%dictionary, procedure_name, &
+      plot%source, plot%graph, plot%data))
+    call declare_variables(plot, shown)
+    call fill_rows(plot, cases, shown, trends)
+    call draw_axes(plot, shown)
+    call draw_elements(plot)
+    call draw_legend(plot)
+    call write_texts(plot, cases, shown, trends)
+    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
+  end subroutine
+
+  subroutine declare_variables(plot, shown)
+    type(drawing), intent(inout) :: plot
+    type(series), intent(in) :: shown
+
+    integer(cx) :: format
+
+    plot%decade = variable(plot, decade, true)
+    call make('the names of the decades', cx_addrelabels(plot%chart, plot%decade, decade))
+    plot%date = variable(plot, date, false)
+    if (shown%grows) then
+      format = display_format(dollar_format, 8, 0)
+      plot%value = computed(plot, 'Spending per person (dollars a year)', format)
+    else
+      format = made('a display format', cx_getvariableformat(plot%chart, savings_rate))
+      plot%value = variable(plot, savings_rate, false)
+    end if
+    plot%trend = computed(plot, shown%trend_label, format)
+  end subroutine
+
+  function variable(plot, number, categorical)
+    type(drawing), intent(in) :: plot
+    integer(cx), intent(in) :: number, categorical
+    integer(cx) :: variable
+
+    variable = made('a variable', &
+      cx_addvariable(plot%chart, plot%source, number, categorical))
+  end function
+
+  !> A variable whose values the procedure computes.
+  function computed(plot, label, format) result(variable)
+    type(drawing), intent(in) :: plot
+    character(*), intent(in) :: label
+    integer(cx), intent(in) :: format
+    integer(cx) :: variable
+
+    variable = made('a computed variable', cx_addaggregate(plot%chart, plot%source, absent, &
+      false, made('a text', translated(label)), absent, absent))
+    call make('a display format', cx_setvariableformat(plot%chart, variable, format))
+  end function
+
+  subroutine fill_rows(plot, cases, shown, trends)
+    type(drawing), intent(in) :: plot
+    type(sample), intent(in) :: cases
+    type(series), intent(in) :: shown
+    type(trend), intent(in) :: trends(:)
+    integer :: i, g
+
+    do i = 1, size(cases%date)
+      g = cases%group(i)
+      call require(cx_addrow(plot%chart, plot%source) >= 0, 'cannot add a row')
+      call store_numbers(plot%chart, plot%source, &
+        [plot%decade, plot%date, plot%value, plot%trend], &
+        [real(cases%decades(g), dp), cases%date(i), shown%value(i), &
+         predicted(trends(g), years(cases, cases%date(i)))])
+    end do
+  end subroutine
+
+  !> x and y with 5% of room at either end.
+  subroutine draw_axes(plot, shown)
+    type(drawing), intent(in) :: plot
+    type(series), intent(in) :: shown
+    integer(cx) :: x_style, x_axis, y_style, y_axis, y_title
+
+    call make('the axes', cx_addxydimensionwithaxis(plot%chart, plot%data, absent, absent, &
+      false, false, x_style, x_axis, y_style, y_axis))
+    if (shown%grows) then
+      y_title = translated('Spending per person (dollars a year)')
+    else
+      y_title = variable_label(savings_rate)
+    end if
+    call make('the title of x', &
+      cx_addlabel(plot%chart, x_axis, x_style, made('a text', variable_label(date))))
+    call make('the title of y', &
+      cx_addlabel(plot%chart, y_axis, y_style, made('a text', y_title)))
+  end subroutine
+
+  !> A point for each case and a line for each decade.
+  subroutine draw_elements(plot)
+    type(drawing), intent(inout) :: plot
+    integer(cx) :: lines
+
+    call make('the points', cx_addxyelementex(plot%chart, plot%data, 1_cx, word_point, &
+      plot%date, plot%value, word_scatter, plot%points))
+    call make('the colors of the points', &
+      cx_addstylebycolor(plot%chart, plot%points, plot%decade))
+    call make('the trends', cx_addxyelementex(plot%chart, plot%data, 1_cx, &
+      word_line, plot%date, plot%trend, word_simple_line, lines))
+    call make('the colors of the trends', cx_addstylebycolor(plot%chart, lines, plot%decade))
+  end subroutine
+
+  subroutine draw_legend(plot)
+    type(drawing), intent(in) :: plot
+    integer(cx) :: legend, style
+
+    call make('the legend', cx_addlegendframe(plot%chart, plot%graph, plot%points, 1_cx, &
+      word_style_by, ignored, style, legend))
+    call make('the title of the legend', &
+      cx_addlabel(plot%chart, legend, style, made('a text', variable_label(decade))))
+  end subroutine
+
+  ! Texts
+
+  subroutine write_texts(plot, cases, shown, trends)
+    type(drawing), intent(in) :: plot
+    type(sample), intent(in) :: cases
+    type(series), intent(in) :: shown
+    type(trend), intent(in) :: trends(:)
+    character(*), parameter :: one_a_line = '[%1:\n^1:]1'
+    integer(cx) :: lines(size(trends))
+    integer :: i
+
+    call write_text(plot%chart, plot%graph, word_title, translated(shown%title))
+    call write_text(plot%chart, plot%graph, word_subtitle, composed(shown%subtitle, &
+      [cx_value(date, [minval(cases%date)]), cx_value(date, [maxval(cases%date)])]))
+    do i = 1, size(trends)
+      lines(i) = composed(shown%trend_line, [header_of(cases%decades(i)), &
+        slope_of(trends(i)), mean_of(trends(i)), number_text(real(trends(i)%cases, dp), 0)])
+    end do
+    call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
+    call describe_chart(plot%chart, translated(shown%description))
+  end subroutine
+
+  !> "Decade: 1970s"
+  function header_of(code) result(string)
+    integer, intent(in) :: code
+    integer(cx) :: string
+
+    string = cx_splitheader([real(code, dp)], ignored)
+  end function
+
+  !> Growth in percent a year, or percentage points a year.
+  function slope_of(line) result(string)
+    type(trend), intent(in) :: line
+    integer(cx) :: string
+
+    if (line%grows) then
+      string = number_text(100*(exp(line%slope) - 1), 1, percent_format)
+    else
+      string = number_text(line%slope, 2)
+    end if
+  end function
+
+  function mean_of(line) result(string)
+    type(trend), intent(in) :: line
+    integer(cx) :: string
+
+    if (line%grows) then
+      string = number_text(line%mean, 0, dollar_format)
+    else
+      string = cx_meanvalue(savings_rate, [line%mean])
+    end if
+  end function
+
+end program

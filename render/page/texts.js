@@ -1,0 +1,25 @@
+import {parse, View} from 'vega';
+import {expressionInterpreter} from 'vega-interpreter';
+
+/**
+ * The texts of the columns of rows, as tooltips and axes show them: the label of a
+ * category, else what Vega computes by the column's display format.
+ */
+export async function textsOf(rows, columns, config) {
+  const transform = columns.map(({field, text}, i) => ({
+    type: 'formula',
+    as: `text${i}`,
+    expr: `isValid(datum[${JSON.stringify(field)}]) ? ${text ?? '""'} : ""`,
+  }));
+  const values = rows.map((datum) => ({...datum}));
+  const runtime = parse({config, data: [{name: 'texts', values, transform}]}, null, {ast: true});
+  const view = new View(runtime, {renderer: 'none', expr: expressionInterpreter});
+  await view.runAsync();
+  return view.data('texts').map((datum) =>
+    columns.map(({field, labels, text}, i) => {
+      const value = datum[field] ?? '';
+      if (labels && Object.hasOwn(labels, value)) return labels[value];
+      return text ? datum[`text${i}`] : value;
+    }),
+  );
+}

@@ -1,0 +1,84 @@
+#include "translate/CategoryLabels.h"
+
+#include <algorithm>
+#include <variant>
+
+#include <fmt/format.h>
+
+#include "text/Expression.h"
+#include "text/Wrap.h"
+#include "translate/Groups.h"
+#include "translate/Theme.h"
+
+namespace render {
+namespace {
+
+constexpr double lineHeight = theme::labelSize + 2;
+constexpr std::size_t mostLines = 3;
+
+struct Layout {
+  int width; ///< of a label, in pixels
+  std::size_t lines;
+  bool slanted = false;
+
+  WrapLimits limits() const {
+    return {.width = width, .fontSize = theme::labelSize, .lines = lines};
+  }
+};
+
+/// How many lines fit into the room of a category.
+std::size_t linesIn(double room) {
+  return std::clamp(static_cast<std::size_t>(room / lineHeight), std::size_t{1}, mostLines);
+}
+
+bool fits(const Category& category, const Layout& layout, double widthOfComputed) {
+  if (!category.expression.empty()) return widthOfComputed <= layout.width;
+  return wrapsWhole(category.label, layout.limits());
+}
+
+Layout layoutOf(const Dimension& dimension, const Manifest& manifest) {
+  constexpr int gap = 10;
+  constexpr double slant = 1.42; // lines at 45 degrees lie that much farther apart
+  const double count = std::max(1.0, static_cast<double>(dimension.categories.size()));
+  if (dimension.role == "y")
+    return {.width = theme::legendWidth, .lines = linesIn(theme::plotHeight / count)};
+
+  const double room = theme::plotWidth / count;
+  const auto* date = std::get_if<DateFormat>(&dimension.format());
+  const double widthOfComputed =
+      date != nullptr ? widestDate(*date, manifest.language, theme::labelSize) : 0;
+  const Layout upright{.width = static_cast<int>(room) - gap, .lines = mostLines};
+  const bool allFit = std::ranges::all_of(dimension.categories, [&](const Category& category) {
+    return fits(category, upright, widthOfComputed);
+  });
+  if (allFit) return upright;
+  return {.width = theme::legendWidth, .lines = linesIn(room / slant), .slanted = true};
+}
+
+/// Vega puts the first line beside the tick, not the middle of the lines.
+Json middleOf(const std::string& labels) {
+  const std::string label = fmt::format("scale({},datum.value)", literal(labels));
+  return {{"signal", fmt::format("isArray({0})?(1-length({0}))*{1}:0", label, lineHeight / 2)}};
+}
+
+} // namespace
+
+void labelCategories(Json& axis, const Dimension& dimension, Context& context) {
+  const Layout layout = layoutOf(dimension, context.chart.folder->manifest);
+  const std::string labels = scaleName("label", dimension.role);
+  if (!context.parts.hasScale(labels))
+    context.parts.scales.push_back(
+        categoryScale(labels, dimension.categories,
+                      labelRange(dimension.categories, [&](const std::string& label) -> Json {
+                        return wrap(label, layout.limits());
+                      })));
+  axis["encode"]["labels"]["update"]["text"] = {{"scale", labels}, {"field", "value"}};
+  axis["labelLimit"] = 0;
+  if (dimension.role == "y") axis["encode"]["labels"]["update"]["dy"] = middleOf(labels);
+  if (!layout.slanted) return;
+  axis["labelAngle"] = -45;
+  axis["labelAlign"] = "right";
+  axis["labelBaseline"] = "middle";
+}
+
+} // namespace render
