@@ -88,6 +88,7 @@ TEST_F(Dimensions, AreFoundWhereverTheyStand) {
 }
 
 TEST_F(Dimensions, StandBackForOtherChildrenInTheirRole) {
+  followsGrammar = false; // a frame gets the attributes of a dimension
   const int variable = c.AddFacetVariable(frame, 1, frame);
   EXPECT_EQ(c.AddDimension(frame, 1, -1), variable);
   EXPECT_EQ(c.GetDimension(frame, 1), -1) << "it is no dimension";

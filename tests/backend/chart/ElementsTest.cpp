@@ -83,6 +83,7 @@ TEST_F(Elements, AreBinnedInOneCall) {
 }
 
 TEST_F(Elements, TellWhichSummaryOfAVariableIsShown) {
+  followsGrammar = false; // a description is made by hand
   const char* names[] = {"customStatistic",
                          nullptr,
                          "numberOfCases",

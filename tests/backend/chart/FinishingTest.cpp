@@ -69,6 +69,7 @@ TEST_F(Finishing, GivesAestheticsVariablesOfTheirOwnInChartsWithFacets) {
 }
 
 TEST_F(Finishing, GroupsBySplitsOfElementsOnly) {
+  followsGrammar = false; // a split stands below a frame
   const int v = c.AddVariable(source, 0, true);
   const int element = c.AddElement(frame, 21, -1);
   c.AddFacetVariable(c.AddCoordinateFacet(frame), 1, v);
@@ -237,6 +238,8 @@ using FinishingWithoutMemory = BuilderTest;
 
 TEST_F(FinishingWithoutMemory, TellsThatStylesCouldNotBeAdded) {
   static Memory memory; // until the platform ends, which is after the test
+  forgetGrammar();
+  followsGrammar = false; // which must not come to live in this memory
   xercesc::XMLPlatformUtils::Initialize("en_US", nullptr, nullptr, &memory);
   const int handle = registry().CreateChart();
   const int frame = chart(handle).AddFrame(0, -1);

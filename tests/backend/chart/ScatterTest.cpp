@@ -320,9 +320,13 @@ TEST_F(Scatter, RelabelsValuesAsTheyAreStored) {
   EXPECT_EQ(c.AddRelabels(node, 0), node);
   EXPECT_EQ(c.AddRelabels(node, 1), node);
   EXPECT_EQ(c.AddRelabel(node, 17, text("bad\x01")), -1) << "silently";
+  ASSERT_TRUE(CmnLoc::set({",", "."}));
+  EXPECT_EQ(c.AddRelabels(node, 0), node) << "whatever the decimal sign";
+  CmnLoc::followLanguage();
   EXPECT_THAT(fragment(made, node),
               HasSubstr(R"(<relabel from="2" to="two"/><relabel from="1" to="first"/>)"
-                        R"(<relabel from="b" to="second"/></variable>)"));
+                        R"(<relabel from="b" to="second"/><relabel from="2" to="two"/>)"
+                        R"(</variable>)"));
   EXPECT_THAT(takeReports(), IsEmpty());
 }
 
@@ -345,6 +349,7 @@ TEST_F(Scatter, KeepsOneStyleCycleForEachPalette) {
 }
 
 TEST_F(Scatter, TurnsTheSafeParameterOfTheYScaleOff) {
+  followsGrammar = false; // a scale is made by hand
   Chart& c = chart(registry().CreateChart());
   const int frame = c.AddFrame(0, -1);
   const int y = c.AddDimension(frame, 2, -1);

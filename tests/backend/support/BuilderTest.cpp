@@ -4,6 +4,9 @@
 #include <xercesc/dom/DOM.hpp>
 
 #include <host/Text.h>
+#include <schema/SchemaCheck.h>
+
+using ::testing::IsEmpty;
 
 namespace {
 
@@ -59,6 +62,24 @@ void print(const xercesc::DOMElement& element, std::string& out) {
   out += "</" + name + '>';
 }
 
+std::unique_ptr<schema::SchemaCheck> grammar;
+
+void expectToFollowGrammar(const std::string& xml) {
+  if (!grammar) grammar = std::make_unique<schema::SchemaCheck>();
+  EXPECT_THAT(grammar->findings(xml), IsEmpty()) << xml;
+}
+
+// The chart as it would be sent; empty when it cannot be printed.
+std::string finished(Chart& chart) {
+  std::string xml;
+  try {
+    if (chart.AddStyles() == 0) chart.GetXmlBuffer(xml, true);
+  } catch (const ChartException&) {
+    xml.clear();
+  }
+  return xml;
+}
+
 } // namespace
 
 BuilderTest::BuilderTest() {
@@ -72,6 +93,21 @@ BuilderTest::~BuilderTest() {
   host::setErrorCallback({});
   host::setChartSink(nullptr);
 }
+
+void BuilderTest::TearDown() {
+  if (!followsGrammar) return;
+  for (const Sent& chart : sent) {
+    if (!chart.xml.empty()) expectToFollowGrammar(chart.xml);
+  }
+  const int end = registry().CreateChart();
+  for (int handle = 0; handle < end; ++handle) {
+    Chart* open = registry().getValidChart(handle, "", 0, false);
+    const std::string xml = open ? finished(*open) : "";
+    if (!xml.empty()) expectToFollowGrammar(xml);
+  }
+}
+
+void BuilderTest::forgetGrammar() { grammar.reset(); }
 
 int BuilderTest::chartOn(Dictionary* dictionary) {
   const int handle = registry().CreateChart();

@@ -1,9 +1,13 @@
 #include <chartxml/Chart.h>
 
+#include <cstddef>
+#include <string>
+
 #include "DisplayText.h"
 #include "NodeRule.h"
 #include <chartxml/ChartXml.h>
 #include <host/Missing.h>
+#include <host/Settings.h>
 #include <host/ZephUni.h>
 
 using xercesc::DOMElement;
@@ -12,6 +16,17 @@ namespace {
 
 constexpr NodeRule relabelled{
     "variable", {ZephUni::_variable}, "can't add relabel to anything but a variable - "};
+
+// Display texts have the locale's decimal sign, stored numbers a point.
+ChartString withPoint(ChartString text) {
+  const CmnLoc* locale = CmnLoc::shared();
+  if (!locale) return text;
+  std::string shown = text.toUTF8();
+  const std::size_t sign = shown.find(locale->decimalSeparator);
+  if (sign == std::string::npos) return text;
+  text.assignUTF8(shown.replace(sign, locale->decimalSeparator.size(), "."));
+  return text;
+}
 
 } // namespace
 
@@ -51,9 +66,10 @@ int Chart::AddRelabels(int variable, int column) {
     if (described.GetType() == 0 && value->number == host::systemMissing) continue;
     const ChartString to = ChartXml::GetInstance()->transcode(label);
     ChartString from = ChartXml::GetInstance()->transcode(displayText(described, *value));
-    if (from.isNumber()) {
-      from.assignUTF8(asString(described.GetType() == 0 ? value->number : from.convertToDouble()));
-    }
+    if (described.GetType() == 0 && withPoint(from).isNumber())
+      from.assignUTF8(asString(value->number));
+    else if (from.isNumber())
+      from.assignUTF8(asString(from.convertToDouble()));
     if (isValidXMLString(from) && isValidXMLString(to))
       addRelabel(*target, from.c_str(), to.c_str());
   }

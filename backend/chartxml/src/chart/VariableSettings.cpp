@@ -78,7 +78,7 @@ int Chart::CreateLogVar(int variable) {
 
 // A meta that is made to be described only stands last, and has no handle.
 DOMElement& Chart::describedMeta(DOMElement& variable) {
-  DOMElement* known = childOrder_->first(variable, _meta);
+  DOMElement* known = knownMeta(variable);
   return known ? *known : appendElement(variable, _meta);
 }
 
