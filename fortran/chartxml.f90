@@ -289,7 +289,8 @@ module chartxml
       integer(c_int64_t), intent(in) :: ignored, number
     end function
 
-    !> Registers the text of a whole number in a display format. Returns the new string handle.
+    !> Registers the text of a whole number in a display format. Returns the new string handle, or
+    !> -1 for a format that shows no number, silently.
     integer(c_int64_t) function cx_ivalue(ignored, number, format) bind(C, name="cx_ivalue_")
       import
       integer(c_int64_t), intent(in) :: ignored, number, format
@@ -311,7 +312,7 @@ module chartxml
     end function
 
     !> Registers the text of a number in a display format. Returns the new string handle, or -1 for
-    !> the system-missing value, silently.
+    !> the system-missing value and for a format that shows no number, silently.
     integer(c_int64_t) function cx_lrvalue(ignored, number, format) bind(C, name="cx_lrvalue_")
       import
       integer(c_int64_t), intent(in) :: ignored
@@ -378,7 +379,7 @@ module chartxml
     end function
 
     !> Registers one text of all split variables and their values. Returns the new string handle.
-    !> Reports that there are no data.
+    !> Reports that there are no data, or no values of the split variables.
     integer(c_int64_t) function cx_splitlist(ignored1, split_cells, ignored2, show_name, &
         show_label, show_value, show_value_label) bind(C, name="cx_splitlist_")
       import
@@ -389,7 +390,7 @@ module chartxml
     end function
 
     !> Registers "label: value, label: value" of the split variables. Returns the new string handle.
-    !> Reports that there are no data.
+    !> Reports that there are no data, or no values of the split variables.
     integer(c_int64_t) function cx_splitheader(split_cells, ignored1) &
         bind(C, name="cx_splitheader_")
       import
@@ -411,8 +412,8 @@ module chartxml
     end function
 
     !> Registers the text that names the weight variable. Returns the new string handle, or -1 for a
-    !> number of 0 or less, silently. Reports a variable number out of range; that there are no
-    !> data.
+    !> number of 0 or less, silently; that of the unfinished text when the label could not be added.
+    !> Reports a variable number out of range; that there are no data.
     integer(c_int64_t) function cx_weightinfo(ignored1, ignored2, weight_number, tells_cases) &
         bind(C, name="cx_weightinfo_")
       import
@@ -705,7 +706,7 @@ module chartxml
     end function
 
     !> Adds a frame with the text of cx_splitheader_ as a subtitle. Returns the new frame. Reports
-    !> that there are no data.
+    !> that there are no data, or no values of the split variables.
     integer(c_int64_t) function cx_addsplitheaderex(chart, parent, split_cells, ignored1) &
         bind(C, name="cx_addsplitheaderex_")
       import

@@ -126,8 +126,9 @@ public:
   /// element, also while it is not attached to the tree.
   static void AddID(xercesc::DOMElement& element, const XMLCh* id);
 
-  /// Takes the id of an element that leaves the tree out of the register.
-  static void releaseID(xercesc::DOMElement& element);
+  /// Takes the ids of an element that leaves the tree, and of all below it, out of
+  /// the register.
+  static void releaseIDs(xercesc::DOMElement& root);
 
   /// Sets an attribute. Returns 0.
   static int AddAttribute(xercesc::DOMElement& element, const XMLCh* name, const XMLCh* value);

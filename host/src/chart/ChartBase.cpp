@@ -48,12 +48,8 @@ template <class Action> bool succeeds(const Action& action) {
   return false;
 }
 
-void releaseIDsBelow(const DOMElement& element) {
-  for (auto* child = element.getFirstElementChild(); child;
-       child = child->getNextElementSibling()) {
-    ChartBase::releaseID(*child);
-    releaseIDsBelow(*child);
-  }
+void releaseID(DOMElement& element) {
+  if (element.hasAttribute(ZephUni::_id)) element.setIdAttribute(ZephUni::_id, false);
 }
 
 } // namespace
@@ -77,8 +73,19 @@ void ChartBase::AddID(DOMElement& element, const XMLCh* id) {
   element.setIdAttribute(ZephUni::_id, true);
 }
 
-void ChartBase::releaseID(DOMElement& element) {
-  if (element.hasAttribute(ZephUni::_id)) element.setIdAttribute(ZephUni::_id, false);
+void ChartBase::releaseIDs(DOMElement& root) {
+  releaseID(root);
+  DOMElement* at = root.getFirstElementChild();
+  while (at) { // however deep the tree, the stack stays flat
+    releaseID(*at);
+    if (DOMElement* child = at->getFirstElementChild()) {
+      at = child;
+      continue;
+    }
+    while (at != &root && !at->getNextElementSibling())
+      at = static_cast<DOMElement*>(at->getParentNode());
+    at = at == &root ? nullptr : at->getNextElementSibling();
+  }
 }
 
 int ChartBase::AddAttribute(DOMElement& element, const XMLCh* name, const XMLCh* value) {
@@ -104,7 +111,8 @@ DOMElement* ChartBase::getChildByTagName(const DOMElement& parent, const XMLCh* 
 }
 
 void ChartBase::removeAllChildren(DOMElement& element) {
-  releaseIDsBelow(element);
+  for (auto* child = element.getFirstElementChild(); child; child = child->getNextElementSibling())
+    releaseIDs(*child);
   while (auto* child = element.getFirstChild())
     element.removeChild(child);
 }

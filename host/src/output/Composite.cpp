@@ -92,6 +92,7 @@ void OmComposite::End() {
 
 void OmComposite::Substitute(const void* /*parseTree*/, bool) {
   state_->need(State::Phase::ended, "substitute");
+  state_->phase = State::Phase::open; // and stays so when there is no text
   state_->text = {state_->assembled(&host::Wording::display),
                   state_->assembled(&host::Wording::english)};
   state_->phase = State::Phase::substituted;

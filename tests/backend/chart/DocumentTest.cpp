@@ -217,7 +217,10 @@ TEST_F(Document, ReplacesALabelAndFreesItsId) {
   EXPECT_EQ(fragment(handle, second - 1),
             "<label id=\"label_title\" style=\"label_titledefault_style\">a\nb</label>")
       << "its node lives as long as its handle";
-  EXPECT_THAT(takeReports(), IsEmpty());
+  made.AddLabel(second, 15, text("below"));
+  made.AddLabel(frame, 17, text("d"));
+  made.AddLabel(made.AddFrame(0, -1), 15, text("e"));
+  EXPECT_THAT(takeReports(), IsEmpty()) << "the id of what stood below is free too";
 }
 
 TEST_F(Document, DrawsFunctionsAsGuides) {

@@ -5,6 +5,8 @@
 
 #include <fmt/format.h>
 
+#include <host/StringTables.h>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -183,7 +185,21 @@ TEST_F(Formats, ReplaceFormerOnesInTheOneMetaOfAVariable) {
   EXPECT_THAT(takeReports(), IsEmpty());
 }
 
+TEST_F(Formats, NameQuartersAndWeeksInTheOutputLanguage) {
+  ASSERT_TRUE(host::setOutputLanguage("de"));
+  registry().Terminate();
+  ChartXml& german = *ChartXml::Initialize();
+  Chart& c = chart(german.CreateChart());
+  const int own = c.AddMeta(c.AddFrame(0, -1));
+  EXPECT_EQ(c.AddDateFormat(own, 29, 8), -1);
+  EXPECT_EQ(fragment(0, own),
+            R"(<meta><dateTimeFormat><dateFormat><quarter suffix=". Quartal "/>)"
+            R"(<year showCentury="true"/></dateFormat><timeFormat/></dateTimeFormat></meta>)");
+  ASSERT_TRUE(host::setOutputLanguage(""));
+}
+
 TEST_F(Formats, ForgetThePlacesOfNodesThatTheyReplace) {
+  followsGrammar = false; // nodes of no kind
   xercesc::DOMElement& node = *made.getElement(meta);
   const XMLCh* const first[] = {u"first"};
   const XMLCh* const second[] = {u"second"};
@@ -195,6 +211,7 @@ TEST_F(Formats, ForgetThePlacesOfNodesThatTheyReplace) {
 }
 
 TEST_F(Formats, MarkWeightsAndTakeAffixes) {
+  followsGrammar = false; // several date formats below one meta
   EXPECT_EQ(made.SetMetaWeight(meta, true), meta);
   EXPECT_EQ(metaText(), R"(<meta weight="true"/>)");
   EXPECT_EQ(made.SetMetaWeight(meta, false), meta);

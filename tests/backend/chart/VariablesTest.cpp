@@ -53,6 +53,15 @@ TEST_F(Variables, AreDeclaredInFrontOfDomainsAndFrames) {
   EXPECT_THAT(takeReports(), IsEmpty());
 }
 
+TEST_F(Variables, HaveOneMetaWhoeverAsksForItFirst) {
+  const int copy = c.CopyVariable(c.AddVariable(source, 1, true));
+  EXPECT_EQ(c.CreateLogVar(copy), -1);
+  const int meta = copy + 1;
+  EXPECT_EQ(c.SetVariableExternal(copy), meta) << "it has no handle until then";
+  EXPECT_EQ(c.AddMeta(copy), meta);
+  EXPECT_EQ(fragment(handle, meta), R"(<meta creator="external_aggregate" description="log"/>)");
+}
+
 TEST_F(Variables, ArePointedAtOtherColumnsAndRelabelled) {
   const int v = c.AddVariable(source, 0, false);
   EXPECT_EQ(c.SetVariable(v, 2, false), v);

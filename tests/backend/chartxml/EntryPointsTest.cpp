@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include <chartxml/EntryPoints.h>
+#include <host/OutputText.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -169,6 +170,44 @@ TEST_F(EntryTexts, TellOfWeightsAndSplits) {
   EXPECT_THAT(takeReports(),
               ElementsAre("variable index out of range 3 2", "invalid variable index -1",
                           "parameter handle out of range"));
+}
+
+// Every leading argument that is not read is there, and no more.
+TEST_F(EntryTexts, PassTheirArgumentsInOrder) {
+  const Int none = 0;
+  const OBS* isle = row + 1;
+  const double half = 0.5;
+  const Int first = cx_nstringnotranslate_(none, "one", Int(3));
+  const Int list = cx_compositestring_(none, "^1[: ^2-^1:]1", Int(13));
+  EXPECT_EQ(cx_addparameter_(none, list, first), 0);
+  EXPECT_EQ(cx_beginrepeat_(none, list), 0);
+  for (const Int handle :
+       {cx_variablename_(none, none, Int(2)), cx_variablelabel_(none, none, Int(1)),
+        cx_value_(Int(2), isle), cx_objectlabel_(Int(1), row)}) {
+    EXPECT_EQ(cx_addparameter_(none, list, handle), 0);
+  }
+  EXPECT_EQ(cx_endrepeat_(none, list), 0);
+  EXPECT_EQ(cx_endcompositestring_(none, list), list.value);
+  EXPECT_EQ(read(list.value), "one 2-Torgersen");
+  EXPECT_EQ(SkCellText::text(static_cast<int>(cx_tosk_(none, list))), "one 2-Torgersen");
+
+  const std::pair<std::int64_t, const char*> texts[] = {
+      {cx_stylestring_(none, Int(17), Int(2)), "title_2"},
+      {cx_meanvalue_(Int(1), row), "2.00"},
+      {cx_valuelabel_(none, Int(2), isle), "Torgersen"},
+      {cx_valuelabelshort_(Int(2), isle, Int(3)), "Tor"},
+      {cx_splitlist_(none, row, none, Int(1), Int(0), Int(1), Int(0)), "sex = 2; isle = Torgersen"},
+      {cx_splitlist_(none, row, none, Int(0), Int(1), Int(0), Int(1)), "Sex = 2; isle = Torgersen"},
+      {cx_splitheader_(row, Int(1)), "Sex: 2, isle: Torgersen"},
+      {cx_lrvalue_(none, &half, Int(5 << 16 | 8 << 8 | 3)), "0.500"},
+      {cx_double_(&half), "0.5"},
+      {cx_variablelabelfromdictionary_(nullptr, run, Int(1)), "Sex"},
+  };
+  for (const auto& [handle, expected] : texts)
+    EXPECT_EQ(read(handle), expected);
+  EXPECT_EQ(cx_lrvalue_(none, &half, Int(41 << 16 | 8 << 8)), -1) << "a format of no numbers";
+  EXPECT_EQ(cx_splitlist_(none, nullptr, none, Int(1), Int(1), Int(1), Int(1)), -1);
+  EXPECT_THAT(takeReports(), ElementsAre("no values of the split variables"));
 }
 
 TEST_F(EntryTexts, FormatAndWeightVariables) {

@@ -58,7 +58,7 @@ TEST_F(ChartBaseTest, FreesTheIdsOfWhatLeavesTheTree) {
   EXPECT_EQ(document->getElementById(u"parent"), &parent);
   auto& successor = make(ZephUni::_label, u"child");
   EXPECT_EQ(document->getElementById(u"child"), &successor);
-  ChartBase::releaseID(*document->createElement(ZephUni::_label)); // has none
+  ChartBase::releaseIDs(*document->createElement(ZephUni::_label)); // has none
 }
 
 TEST_F(ChartBaseTest, MergesAttributesButNotTheId) {

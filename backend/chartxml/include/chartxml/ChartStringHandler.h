@@ -136,7 +136,7 @@ private:
   int addComposite(const OmStringCell& pattern);
   std::string variableLabel(const KORVA_Variable& variable) const;
   template <class Visit>
-  void visitSplits(const OBS* values, Visit visit,
+  bool visitSplits(const OBS* values, Visit visit,
                    std::source_location where = std::source_location::current()) const;
   void report(const std::string& message, std::source_location where) const;
 

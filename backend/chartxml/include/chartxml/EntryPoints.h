@@ -159,7 +159,8 @@ CHARTXML_API int64_t cx_stylestring_(const int64_t* ignored, const int64_t* styl
 /** Registers the text of a whole number, as for machines. Returns the new string handle. */
 CHARTXML_API int64_t cx_integer_(const int64_t* ignored, const int64_t* number);
 
-/** Registers the text of a whole number in a display format. Returns the new string handle. */
+/** Registers the text of a whole number in a display format. Returns the new string handle, or
+ *  -1 for a format that shows no number, silently. */
 CHARTXML_API int64_t cx_ivalue_(const int64_t* ignored, const int64_t* number,
                                 const int64_t* format);
 
@@ -172,7 +173,7 @@ CHARTXML_API int64_t cx_ivalueasstring_(const int64_t* number, const int64_t* fo
 CHARTXML_API int64_t cx_double_(const double* number);
 
 /** Registers the text of a number in a display format. Returns the new string handle, or -1 for
- *  the system-missing value, silently. */
+ *  the system-missing value and for a format that shows no number, silently. */
 CHARTXML_API int64_t cx_lrvalue_(const int64_t* ignored, const double* number,
                                  const int64_t* format);
 
@@ -208,14 +209,14 @@ CHARTXML_API int64_t cx_valuelabelshort_(const int64_t* variableNumber, const vo
 CHARTXML_API int64_t cx_objectlabel_(const int64_t* variableNumber, const void* cells);
 
 /** Registers one text of all split variables and their values. Returns the new string handle.
- *  Reports that there are no data. */
+ *  Reports that there are no data, or no values of the split variables. */
 CHARTXML_API int64_t cx_splitlist_(const int64_t* ignored1, const void* splitCells,
                                    const int64_t* ignored2, const int64_t* showName,
                                    const int64_t* showLabel, const int64_t* showValue,
                                    const int64_t* showValueLabel);
 
 /** Registers "label: value, label: value" of the split variables. Returns the new string handle.
- *  Reports that there are no data. */
+ *  Reports that there are no data, or no values of the split variables. */
 CHARTXML_API int64_t cx_splitheader_(const void* splitCells, const int64_t* ignored1);
 
 /** Registers a label followed by all split variables and their values. Returns the new string
@@ -228,8 +229,8 @@ CHARTXML_API int64_t cx_splitvariableinfo_(const int64_t* ignored, const int64_t
                                            const int64_t* showSplits, const int64_t* keyed);
 
 /** Registers the text that names the weight variable. Returns the new string handle, or -1 for a
- *  number of 0 or less, silently. Reports a variable number out of range; that there are no
- *  data. */
+ *  number of 0 or less, silently; that of the unfinished text when the label could not be added.
+ *  Reports a variable number out of range; that there are no data. */
 CHARTXML_API int64_t cx_weightinfo_(const int64_t* ignored1, const int64_t* ignored2,
                                     const int64_t* weightNumber, const int64_t* tellsCases);
 
@@ -408,7 +409,7 @@ CHARTXML_API int64_t cx_addframewithlabel_(const int64_t* chart, const int64_t* 
                                            const int64_t* content);
 
 /** Adds a frame with the text of cx_splitheader_ as a subtitle. Returns the new frame. Reports
- *  that there are no data. */
+ *  that there are no data, or no values of the split variables. */
 CHARTXML_API int64_t cx_addsplitheaderex_(const int64_t* chart, const int64_t* parent,
                                           const void* splitCells, const int64_t* ignored1);
 

@@ -200,11 +200,11 @@ int Chart::addChild(int parent, const ChildRule& rule, Where where) {
   return rule.before.empty() ? append(*target, child) : place(*target, child, rule.before);
 }
 
-// A node that leaves the tree stays alive, because its handle does, but its id
-// becomes free again.
+// A node that leaves the tree stays alive, because its handle does, but its id and
+// those below it become free again.
 void Chart::takeOut(DOMElement& child) {
   childOrder_->remove(child);
-  releaseID(child);
+  releaseIDs(child);
 }
 
 // Writing texts

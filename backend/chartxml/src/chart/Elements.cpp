@@ -49,7 +49,7 @@ int Chart::AddElement(int parent, int type, int suffix) {
   setText(element, ZephUni::_type, type);
   AddIDAttribute(element, suffix);
   if (hasValue(element, ZephUni::_type, ZephUni::_point)) {
-    appendToStyle(element, u"fill-pattern:0");
+    appendToStyle(element, std::u16string(_fill_pattern) + u":0");
     element.setAttribute(ZephUni::_labelCollisionHandling, ZephUni::_normal);
   }
   element.setAttribute(ZephUni::_showCollidingLabels, ZephUni::_true);

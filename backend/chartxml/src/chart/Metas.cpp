@@ -38,9 +38,11 @@ DOMElement& Chart::metaOf(DOMElement& variable) {
   return meta;
 }
 
+// A meta that was made to be described only gets its handle here.
 int Chart::AddMeta(DOMElement& parent, DOMElement*& meta) {
   meta = &metaOf(parent);
-  return getHandle(meta);
+  const int handle = getHandle(meta);
+  return handle != -1 ? handle : mapElement(meta);
 }
 
 int Chart::AddMeta(int variable) {
@@ -56,7 +58,8 @@ int Chart::AddMetaFormat(DOMElement& variable, int column) {
 }
 
 int Chart::AddMetaFormatFromCode(DOMElement& variable, long packed) {
-  return formatMeta(variable, packed) ? getHandle(&metaOf(variable)) : -1;
+  DOMElement* meta = nullptr;
+  return formatMeta(variable, packed) ? AddMeta(variable, meta) : -1;
 }
 
 bool Chart::formatMeta(DOMElement& variable, long packed) {
@@ -89,6 +92,7 @@ int Chart::SetVariableFormat(int variable, long packed) {
 // Callers do not read the answer: it is -1 whatever was added.
 int Chart::AddFormat(int meta, int column) {
   if (!validHandle(meta, "meta") || !validVariable(column)) return -1;
+  if (!elementOfKind(meta, _meta)) return -1;
   int type = 0;
   int width = 0;
   int decimals = 0;

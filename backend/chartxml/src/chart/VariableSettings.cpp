@@ -19,9 +19,12 @@ int Chart::SetVariable(int variable, int column, bool categorical) {
 
 int Chart::SetVariableExternal(int variable) {
   if (!validHandle(variable, "variable")) return -1;
-  const int meta = AddMeta(variable);
-  if (meta != -1) setCreator(*getElement(meta), _external_, _aggregate);
-  return meta;
+  DOMElement* target = getElement(variable);
+  if (!target) return -1;
+  DOMElement* meta = nullptr;
+  const int handle = AddMeta(*target, meta);
+  setCreator(*meta, _external_, _aggregate);
+  return handle;
 }
 
 int Chart::setVariableText(int variable, int string, const char* what, const XMLCh* attribute,
@@ -76,7 +79,8 @@ int Chart::CreateLogVar(int variable) {
   return -1;
 }
 
-// A meta that is made to be described only stands last, and has no handle.
+// A meta that is made to be described only stands last, and has no handle until it
+// is asked for.
 DOMElement& Chart::describedMeta(DOMElement& variable) {
   DOMElement* known = knownMeta(variable);
   return known ? *known : appendElement(variable, _meta);

@@ -117,6 +117,7 @@ bool Chart::mapSourceName(int variable, const XMLCh* sourceId, const XMLCh* sour
   auto store = std::make_unique<VarDataProcessor::_varinfo>();
   dataProcessor_->AddVariable(host::utf8(sourceId), host::utf8(sourceName), *store);
   variableStores_[variable] = std::move(store);
+  latestStore_ = nullptr; // may be the one that was there before
   return true;
 }
 

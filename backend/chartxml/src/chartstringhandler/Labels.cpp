@@ -94,25 +94,29 @@ int ChartStringHandler::ValueObjectLabel(int index, const OBS& value, const std:
 // Split variables
 
 // Calls `visit` with column and value of each split variable that has one in the
-// row; one that has none takes no cells either.
-template <class Visit> void ChartStringHandler::visitSplits(const OBS* values, Visit visit,
+// row; one that has none takes no cells either. False when values are missing.
+template <class Visit> bool ChartStringHandler::visitSplits(const OBS* values, Visit visit,
                                                             std::source_location where) const {
   const int count = dataSource_->SplitVariableCount();
-  if (!values && count > 0) return report("no values of the split variables", where);
+  if (!values && count > 0) {
+    report("no values of the split variables", where);
+    return false;
+  }
   for (int i = 0; i < count; ++i) {
     const int index = dataSource_->SplitVariableIndex(i);
     if (index < 0) continue;
-    if (!validVariable(index, where)) return; // where the next value begins is unknown
+    if (!validVariable(index, where)) return false; // where the next value begins is unknown
     visit(i, index, *values);
     values += host::cellsOfWidth(dataSource_->GetVariable(index).GetType());
   }
+  return true;
 }
 
 int ChartStringHandler::SplitList(const OBS* values, bool name, bool label, bool value,
                                   bool valueLabel) {
   if (!validDataSource()) return -1;
   std::string list;
-  visitSplits(values, [&](int i, int index, const OBS& cell) {
+  const auto append = [&](int i, int index, const OBS& cell) {
     const KORVA_Variable& variable = dataSource_->GetVariable(index);
     const std::string itsLabel = variableLabel(variable);
     const std::string itsValue = displayText(variable, cell);
@@ -125,7 +129,8 @@ int ChartStringHandler::SplitList(const OBS* values, bool name, bool label, bool
     if (value) list += itsValue;
     if (valueLabel && !itsValueLabel.empty()) list.append(value ? " " : "").append(itsValueLabel);
     if (valueLabel && itsValueLabel.empty() && !value) list += itsValue;
-  });
+  };
+  if (!visitSplits(values, append)) return -1;
   return ChartXml::GetInstance()->NStringNoTranslate(list);
 }
 
