@@ -1,6 +1,8 @@
 #include <chartxml/ChartStringHandler.h>
 
 #include <cstring>
+#include <string>
+#include <string_view>
 
 #include "../DisplayText.h"
 #include <chartxml/ChartXml.h>
@@ -22,6 +24,16 @@ std::string groupingSeparator() {
   if (!locale) return ",";
   if (locale->groupingSeparator == "\u00A0") return " ";
   return KORVAMBTranscodeGeneric(host::utf16(locale->groupingSeparator));
+}
+
+// The text when asked for and its label behind it; in the place of a label that is
+// missing, the text.
+void appendLabelled(std::string& list, bool showsText, bool showsLabel, std::string_view text,
+                    std::string_view label) {
+  if (showsText || (showsLabel && label.empty())) list += text;
+  if (!showsLabel || label.empty()) return;
+  if (showsText) list += ' ';
+  list += label;
 }
 
 } // namespace
@@ -118,17 +130,11 @@ int ChartStringHandler::SplitList(const OBS* values, bool name, bool label, bool
   std::string list;
   const auto append = [&](int i, int index, const OBS& cell) {
     const KORVA_Variable& variable = dataSource_->GetVariable(index);
-    const std::string itsLabel = variableLabel(variable);
-    const std::string itsValue = displayText(variable, cell);
-    const std::string itsValueLabel = this->valueLabel(index, cell);
     if (i > 0) list += "; ";
-    if (name) list += variable.GetName();
-    if (label && !itsLabel.empty()) list.append(name ? " " : "").append(itsLabel);
-    if (label && itsLabel.empty() && !name) list += variable.GetName();
+    appendLabelled(list, name, label, variable.GetName(), variableLabel(variable));
     list += " = ";
-    if (value) list += itsValue;
-    if (valueLabel && !itsValueLabel.empty()) list.append(value ? " " : "").append(itsValueLabel);
-    if (valueLabel && itsValueLabel.empty() && !value) list += itsValue;
+    appendLabelled(list, value, valueLabel, displayText(variable, cell),
+                   this->valueLabel(index, cell));
   };
   if (!visitSplits(values, append)) return -1;
   return ChartXml::GetInstance()->NStringNoTranslate(list);
