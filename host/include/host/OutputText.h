@@ -55,7 +55,8 @@ public:
   void EndRepeatList();
   void End();
   /// Assembles the texts for good; needs End. Refused when the pattern and what it
-  /// shows come to more than 64 MiB: the composite is open again then. The parse tree and the flag are unused.
+  /// shows come to more than 64 MiB: the composite is open again then. The parse tree and the flag
+  /// are unused.
   void Substitute(const void* parseTree, bool);
 
   /// The assembled text; before Substitute, what the composite has so far, or
