@@ -126,6 +126,18 @@ public:
   /// element, also while it is not attached to the tree.
   static void AddID(xercesc::DOMElement& element, const XMLCh* id);
 
+  /// The element after `at` below `root` in document order, or null; below `at` only
+  /// when `enter` answers true for it. However deep the tree, the stack stays flat.
+  template <class Enter> static xercesc::DOMElement*
+  nextBelow(const xercesc::DOMElement& root, xercesc::DOMElement& at, Enter enter) {
+    xercesc::DOMElement* child = at.getFirstElementChild();
+    if (child && enter(at)) return child;
+    xercesc::DOMElement* left = &at;
+    while (left != &root && !left->getNextElementSibling())
+      left = static_cast<xercesc::DOMElement*>(left->getParentNode());
+    return left == &root ? nullptr : left->getNextElementSibling();
+  }
+
   /// Takes the ids of an element that leaves the tree, and of all below it, out of
   /// the register.
   static void releaseIDs(xercesc::DOMElement& root);

@@ -74,18 +74,10 @@ void ChartBase::AddID(DOMElement& element, const XMLCh* id) {
 }
 
 void ChartBase::releaseIDs(DOMElement& root) {
+  const auto always = [](const DOMElement&) { return true; };
   releaseID(root);
-  DOMElement* at = root.getFirstElementChild();
-  while (at) { // however deep the tree, the stack stays flat
+  for (auto* at = root.getFirstElementChild(); at; at = nextBelow(root, *at, always))
     releaseID(*at);
-    if (DOMElement* child = at->getFirstElementChild()) {
-      at = child;
-      continue;
-    }
-    while (at != &root && !at->getNextElementSibling())
-      at = static_cast<DOMElement*>(at->getParentNode());
-    at = at == &root ? nullptr : at->getNextElementSibling();
-  }
 }
 
 int ChartBase::AddAttribute(DOMElement& element, const XMLCh* name, const XMLCh* value) {

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <chrono>
 
-#include "text/Calendar.h"
+#include <host/Calendar.h>
 
 namespace host {
 namespace {

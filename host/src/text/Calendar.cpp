@@ -1,4 +1,4 @@
-#include "Calendar.h"
+#include <host/Calendar.h>
 
 #include <cmath>
 #include <limits>

@@ -7,13 +7,13 @@
 #include <limits>
 #include <string_view>
 
+#include <host/Calendar.h>
 #include <host/ChartTranscoder.h>
 #include <host/Locale.h>
 #include <host/Settings.h>
 #include <host/StringTables.h>
 #include <host/Text.h>
 
-#include "Calendar.h"
 #include "Converter.h"
 #include "Languages.h"
 

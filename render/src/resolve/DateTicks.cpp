@@ -5,13 +5,12 @@
 #include <cmath>
 #include <cstdint>
 
+#include <host/Calendar.h>
+
 namespace render {
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr double day = 86400;
-constexpr std::chrono::sys_days start = 1582y / 10 / 14;
+constexpr double day = host::secondsPerDay;
 
 /// A distance of ticks: a multiple of a unit, counted from a place where the unit
 /// begins.
@@ -44,15 +43,14 @@ constexpr Step calendar[] = {
 double secondsOf(std::int64_t monthsSinceYearZero) {
   const auto year = static_cast<int>(std::floor(static_cast<double>(monthsSinceYearZero) / 12));
   const auto month = static_cast<unsigned>(monthsSinceYearZero - 12 * std::int64_t{year}) + 1;
-  const std::chrono::sys_days date =
-      std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(1);
-  return static_cast<double>((date - start).count()) * day;
+  return host::secondsOf(std::chrono::year(year) / std::chrono::month(month) / 1);
 }
 
 /// The months since the year 0 that begin at or before a point in time.
 std::int64_t monthOf(double seconds) {
   const std::chrono::year_month_day date(
-      start + std::chrono::days(static_cast<std::int64_t>(std::floor(seconds / day))));
+      host::calendarStart +
+      std::chrono::days(static_cast<std::int64_t>(std::floor(seconds / day))));
   return 12 * std::int64_t{static_cast<int>(date.year())} + static_cast<unsigned>(date.month()) - 1;
 }
 

@@ -7,6 +7,7 @@
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/util/XMLString.hpp>
 
+#include <host/ChartBase.h>
 #include <host/Text.h>
 
 inline bool isNamed(const xercesc::DOMNode& node, const XMLCh* name) {
@@ -28,23 +29,12 @@ inline bool hasValue(const xercesc::DOMElement& element, const XMLCh* attribute,
 }
 
 /// Calls `visit` for every element of that name below `root`, in document order,
-/// until it answers true, and goes down only where `enter` answers true. However deep
-/// the tree, the stack stays flat.
+/// until it answers true, and goes down only where `enter` answers true.
 template <class Visit, class Enter> bool
 visitDescendants(const xercesc::DOMElement& root, const XMLCh* name, Visit visit, Enter enter) {
-  const xercesc::DOMElement* const end = &root;
-  xercesc::DOMElement* at = root.getFirstElementChild();
-  while (at) {
+  for (xercesc::DOMElement* at = root.getFirstElementChild(); at;
+       at = ChartBase::nextBelow(root, *at, enter)) {
     if (isNamed(*at, name) && visit(*at)) return true;
-    xercesc::DOMElement* child = at->getFirstElementChild();
-    if (child && enter(*at)) {
-      at = child;
-      continue;
-    }
-    while (at != end && !at->getNextElementSibling()) {
-      at = static_cast<xercesc::DOMElement*>(at->getParentNode());
-    }
-    at = at == end ? nullptr : at->getNextElementSibling();
   }
   return false;
 }
