@@ -7,7 +7,6 @@
 
 #include <xercesc/dom/DOM.hpp>
 
-#include <chartxml/ChartXml.h>
 #include <chartxml/EntryPoints.h>
 #include <host/ChartBase.h>
 #include <host/Text.h>
@@ -78,27 +77,6 @@ void nodesBare(benchmark::State& state) {
   xercesc::XMLPlatformUtils::Terminate();
 }
 
-// Dimensions, positions and their like go before siblings: here every frame goes
-// before the first style of a parent that has as many frames already.
-void nodesPlaced(benchmark::State& state) {
-  for (auto _ : state) {
-    state.PauseTiming();
-    auto chart = std::make_unique<OpenChart>();
-    ChartXml::GetInstance()
-        ->getValidChart(static_cast<int>(chart->chart), "", 0, false)
-        ->AddStyles();
-    const std::int64_t root = 0;
-    state.ResumeTiming();
-    for (std::int64_t i = 0; i < state.range(0); ++i) {
-      cx_addframe_(&chart->chart, &root, &none);
-    }
-    state.PauseTiming();
-    chart.reset();
-    state.ResumeTiming();
-  }
-  state.SetItemsProcessed(state.iterations() * state.range(0));
-}
-
 // A dimension that the frame has, one that it has not, and its facet labeling: what
 // is asked for before it is added.
 void nodesFound(benchmark::State& state) {
@@ -118,7 +96,6 @@ void nodesFound(benchmark::State& state) {
 
 BENCHMARK(nodesBare)->Name("node/bare")->Arg(1000)->Arg(100000);
 BENCHMARK(nodesThroughEntryPoint)->Name("node/entry")->Arg(1000)->Arg(100000);
-BENCHMARK(nodesPlaced)->Name("node/placed")->Arg(1000)->Arg(100000);
 BENCHMARK(nodesFound)->Name("node/found")->Arg(1000)->Arg(100000);
 
 } // namespace

@@ -20,6 +20,9 @@ namespace {
 constexpr auto sendErrorShow = SkErrorShow(2);
 constexpr auto sendErrorLevel = SkErrorLevel(3);
 constexpr auto firstSource = "source0";
+// A node prints shorter. Room that is not used costs nothing; a text that outgrows
+// its room is copied, and held twice meanwhile.
+constexpr std::size_t printedNode = 1024;
 
 std::vector<std::string> splitAtSemicolons(std::string_view text) {
   std::vector<std::string> tokens;
@@ -130,7 +133,9 @@ void Chart::GetXmlBuffer(std::string& buffer, bool printWhiteSpace) const {
   writeStyleValues();
   ChartPrinter printer;
   printer.setPrintWhiteSpace(printWhiteSpace);
-  std::ostringstream text;
+  std::string room;
+  room.reserve(printedNode * static_cast<std::size_t>(nextHandle_ + 1));
+  std::ostringstream text(std::move(room));
   printer.Print(*document_, text);
   buffer = std::move(text).str();
 }
