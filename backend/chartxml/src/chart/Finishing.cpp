@@ -1,7 +1,11 @@
 #include <chartxml/Chart.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <new>
 #include <sstream>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "ChildOrder.h"
@@ -20,9 +24,6 @@ namespace {
 constexpr auto sendErrorShow = SkErrorShow(2);
 constexpr auto sendErrorLevel = SkErrorLevel(3);
 constexpr auto firstSource = "source0";
-// A node prints shorter. Room that is not used costs nothing; a text that outgrows
-// its room is copied, and held twice meanwhile.
-constexpr std::size_t printedNode = 1024;
 
 std::vector<std::string> splitAtSemicolons(std::string_view text) {
   std::vector<std::string> tokens;
@@ -38,6 +39,20 @@ double toNumber(const std::string& token) {
   ChartString text;
   text.assignUTF8(token);
   return text.convertToDouble();
+}
+
+// A node prints shorter than this. Room that is not used costs nothing; a text that
+// outgrows its room is copied, and held twice meanwhile. Where so much room can't be
+// had, the text may still fit.
+std::string roomFor(int nodes) {
+  constexpr std::size_t printedNode = 1024;
+  std::string room;
+  try {
+    room.reserve(printedNode * static_cast<std::size_t>(nodes + 1));
+  } catch (const std::bad_alloc&) {
+    return {};
+  }
+  return room;
 }
 
 } // namespace
@@ -133,9 +148,7 @@ void Chart::GetXmlBuffer(std::string& buffer, bool printWhiteSpace) const {
   writeStyleValues();
   ChartPrinter printer;
   printer.setPrintWhiteSpace(printWhiteSpace);
-  std::string room;
-  room.reserve(printedNode * static_cast<std::size_t>(nextHandle_ + 1));
-  std::ostringstream text(std::move(room));
+  std::ostringstream text(roomFor(nextHandle_));
   printer.Print(*document_, text);
   buffer = std::move(text).str();
 }
