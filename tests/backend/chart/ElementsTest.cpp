@@ -6,6 +6,7 @@
 #include <xercesc/dom/DOM.hpp>
 
 #include <host/Missing.h>
+#include <host/Text.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -43,14 +44,14 @@ TEST_F(Elements, KeepAestheticsInOneOrderWhateverTheOrderOfCalls) {
       R"(<color variable="variable1"/><labeling style="labeling_ldefault_style" )"
       R"(variable="variable1"><size low="1" variable="variable1"/>)"
       R"(<size high="9" variable="variable1"/><numberFormat/></labeling>)"
-      R"(<labeling style="labelingdefault_style" variable="frame2"/>)"
+      R"(<labeling style="labeling_default_style" variable="frame2"/>)"
       R"(<split variable="variable1"/><size variable="variable1"/></element>)");
   EXPECT_THAT(fragment(handle, v), HasSubstr(R"(description="labeling")"));
   EXPECT_THAT(fragment(handle, frame), HasSubstr(R"(<meta description="labeling"/>)"))
       << "any node serves as the variable";
   EXPECT_EQ(c.AddStyles(), 0);
   EXPECT_THAT(fragment(handle, 0), HasSubstr(R"(<style id="labeling_ldefault_style"/>)"));
-  EXPECT_THAT(fragment(handle, 0), HasSubstr(R"(<style id="labelingdefault_style"/>)"));
+  EXPECT_THAT(fragment(handle, 0), HasSubstr(R"(<style id="labeling_default_style"/>)"));
   EXPECT_THAT(takeReports(), IsEmpty());
 }
 
@@ -61,6 +62,14 @@ TEST_F(Elements, AreStackedByTheirPosition) {
   EXPECT_THAT(fragment(handle, element), HasSubstr(R"(positionModifier="stack")"));
   EXPECT_EQ(c.AddStack(position, false), position);
   EXPECT_THAT(fragment(handle, element), HasSubstr(R"(positionModifier="none")"));
+}
+
+TEST_F(Elements, HaveTheirStyleValuesWhenTheDocumentIsRead) {
+  const int element = c.AddElement(frame, 23, text("e"));
+  c.AddStyleBy(element, v);
+  const auto* style = registry().getChart(handle)->getElementById(u"element_edefault_style");
+  ASSERT_NE(style, nullptr);
+  EXPECT_EQ(host::utf8(style->getAttribute(u"value")), "fill-pattern:0;fill:transparent");
 }
 
 TEST_F(Elements, AreBinnedInOneCall) {

@@ -86,7 +86,7 @@ TEST_F(ElementEntryPoints, PassElementsAndAestheticsInOrder) {
             R"(value="grid"/><parameter name="grid" value="hex"/></statistic><x )"
             R"(variable="variable2"/><y variable="variable1"/></position><size )"
             R"(high="binhighval" low="binlowval" variable="variable2"><statistic )"
-            R"(method="count"/></size><labeling style="labelingdefault_style" )"
+            R"(method="count"/></size><labeling style="labeling_default_style" )"
             R"(variable="variable2"/><labeling style="labeling_suffixdefault_style" )"
             R"(variable="variable1"/><labeling style="labeling_insidedefault_style" )"
             R"(variable="variable2"/><split variable="variable1"/></element>)");

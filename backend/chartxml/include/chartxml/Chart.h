@@ -77,7 +77,9 @@ public:
 
   /// Builds the document's skeleton; false when no document can be made.
   bool CreateChart();
-  xercesc::DOMDocument* getChart() const { return document_; }
+  /// The document as it stands, for reading: what changes it by another way than
+  /// this class is not seen when the next node is placed.
+  xercesc::DOMDocument* getChart() const;
 
   // Settings
 

@@ -48,6 +48,8 @@ public:
   int CreateChart();
   /// The chart of a handle, or null, which is reported when `report` is set.
   Chart* getValidChart(int handle, const char* sourceFile, unsigned line, bool report) const;
+  /// The chart's document as it stands, for reading; the chart's own. Null when there
+  /// is no such chart, which is reported.
   xercesc::DOMDocument* getChart(int chart) const;
   /// The node handle of an element of the chart, or -1.
   int getHandle(int chart, const xercesc::DOMElement* element) const;

@@ -169,7 +169,12 @@ int Chart::AddLabelingSuffix(int element, int variable, int suffix) {
   if (!target) return -1;
   DOMElement& labeling = makeBound(ZephUni::_labeling, variable);
   describeAsLabeling(*getElement(variable));
-  setOwnStyle(labeling, ZephUni::_style, styleName(ZephUni::_labeling, suffix));
+  // Templates know the name with its underscore, suffix or not.
+  std::u16string style = ZephUni::_labeling;
+  style += _underscore;
+  if (suffix >= 0) style += legalText(suffix);
+  style += _default_style;
+  setOwnStyle(labeling, ZephUni::_style, style);
   return place(*target, labeling, rule::labeling.before);
 }
 

@@ -144,6 +144,11 @@ void Chart::updateVariableStatistics(ZephVisualization& chart) const {
   }
 }
 
+xercesc::DOMDocument* Chart::getChart() const {
+  writeStyleValues();
+  return document_;
+}
+
 void Chart::GetXmlBuffer(std::string& buffer, bool printWhiteSpace) const {
   writeStyleValues();
   ChartPrinter printer;
