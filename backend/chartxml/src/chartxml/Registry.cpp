@@ -62,9 +62,8 @@ ChartXml* ChartXml::GetInstance() {
 }
 
 ChartXml* ChartXml::Initialize() {
-  GetInstance();
   _initialized = true;
-  return _instance;
+  return GetInstance();
 }
 
 ChartXml* ChartXml::Terminate() {
