@@ -54,8 +54,9 @@ module chartxml
     cx_addfacetlabeling, cx_addfacetlabel, cx_setfacetlabelcellstyle, cx_getfacetlabel, &
     cx_setfacetlabellevel, cx_setfacetlabelgap, cx_setfacetlabelingcellaspect, cx_addtablefacet, &
     cx_addcoordinatefacet, cx_addnest, cx_addblend, cx_addcross, cx_addfacetvariable, &
-    cx_addfacetstyle, cx_addcoordinatetransform, cx_addelement, cx_addelementgroup, &
-    cx_addxyelementex, cx_setelementname, cx_setelementdot, cx_setelementpositionmodifier, &
+    cx_addfacetstyle, cx_addcoordinatetransform, cx_addxyzwireframe, cx_addxyzbackplanes, &
+    cx_addelement, cx_addelementgroup, cx_addxyelementex, cx_addsplomelement, &
+    cx_addsplomelementex, cx_setelementname, cx_setelementdot, cx_setelementpositionmodifier, &
     cx_addbinnedelement, cx_addposition, cx_addx, cx_addy, cx_addz, cx_addtheta, cx_addcolor, &
     cx_addstyleby, cx_addstylebycolor, cx_addstylebypattern, cx_addstylebycolorandpattern, &
     cx_addsplit, cx_addlabeling, cx_addlabelingsuffix, cx_addlabelinginside, &
@@ -69,8 +70,10 @@ module chartxml
     cx_addaxis, cx_addmajorticks, cx_addminorticks, cx_setaxispercent, cx_setlogunsafe, &
     cx_adddimensionaxis, cx_addxydimension, cx_addxydimensionwithaxis, &
     cx_addxydimaxiswithsameratio, cx_addguide, cx_addxreferenceline, cx_addyreferenceline, &
-    cx_addyfunctionofx, cx_addyofxlinear, cx_addlegend, cx_addlegendtargetex, cx_addlegendframe, &
-    cx_addlegendframeex
+    cx_addyfunctionofx, cx_addyofxlinear, cx_addyofxlogarithmic, cx_addyofxinverse, &
+    cx_addyofxquadratic, cx_addyofxcubic, cx_addyofxcompound, cx_addyofxpower, cx_addyofxs, &
+    cx_addyofxgrowth, cx_addyofxexponential, cx_addyofxlogistic, cx_addlegend, &
+    cx_addlegendtargetex, cx_addlegendframe, cx_addlegendframeex
 
   interface
 
@@ -830,6 +833,22 @@ module chartxml
       integer(c_int64_t), intent(in) :: chart, frame, method
     end function
 
+    !> Shows a frame as a space of three dimensions, with a wire frame and three planes. Returns the
+    !> parent. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addxyzwireframe(chart, parent) &
+        bind(C, name="cx_addxyzwireframe_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent
+    end function
+
+    !> Shows a frame as a space of three dimensions, with three planes. Returns the parent. Reports
+    !> a node that is no frame.
+    integer(c_int64_t) function cx_addxyzbackplanes(chart, parent) &
+        bind(C, name="cx_addxyzbackplanes_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent
+    end function
+
     ! Elements and aesthetics
 
     !> Adds an element to a frame or an element group. Returns the new element. Reports any other
@@ -854,6 +873,27 @@ module chartxml
       import
       integer(c_int64_t), intent(in) :: chart, parent, style_index, type, x, y, style_kind
       integer(c_int64_t), intent(inout) :: element
+    end function
+
+    !> Adds a matrix of scatterplots to a frame, every variable against every other, with margins of
+    !> 15%. Returns the new element. Reports a node that is no variable.
+    integer(c_int64_t) function cx_addsplomelement(chart, parent, variables, variable_count, &
+        element) bind(C, name="cx_addsplomelement_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, variables(*), variable_count
+      integer(c_int64_t), intent(inout) :: element
+    end function
+
+    !> Adds a matrix of scatterplots to a frame, every variable against every other, with margins
+    !> and mappings. Returns the new element. Reports a node that is no variable.
+    integer(c_int64_t) function cx_addsplomelementex(chart, parent, variables, variable_count, &
+        element, x_upper_margin, x_lower_margin, y_upper_margin, y_lower_margin, x_upper_mapping, &
+        x_lower_mapping, y_upper_mapping, y_lower_mapping) bind(C, name="cx_addsplomelementex_")
+      import
+      integer(c_int64_t), intent(in) :: chart, parent, variables(*), variable_count
+      integer(c_int64_t), intent(inout) :: element
+      integer(c_int64_t), intent(in) :: x_upper_margin, x_lower_margin, y_upper_margin, &
+        y_lower_margin, x_upper_mapping, x_lower_mapping, y_upper_mapping, y_lower_mapping
     end function
 
     !> Names an element or a guide, as a legend shows it. Returns the element or guide, or -1 for
@@ -1320,6 +1360,109 @@ module chartxml
       import
       integer(c_int64_t), intent(in) :: chart, frame, guide_style
       real(c_double), intent(in) :: intercept, slope
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve b1 + b2 * log(x) to a frame and names it after its model. Returns the new
+    !> guide, or -1 for an infinite coefficient, silently. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addyofxlogarithmic(chart, frame, guide_style, b1, b2, &
+        date_scale) bind(C, name="cx_addyofxlogarithmic_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve b1 + b2 / x to a frame and names it after its model. Returns the new guide, or
+    !> -1 for an infinite coefficient, silently. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addyofxinverse(chart, frame, guide_style, b1, b2, date_scale) &
+        bind(C, name="cx_addyofxinverse_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve b1 + b2 * x + b3 * x*x to a frame and names it after its model. Returns the
+    !> new guide; infinite coefficients are not looked at. Reports a node that is no frame, and then
+    !> also that there is no curve to name.
+    integer(c_int64_t) function cx_addyofxquadratic(chart, frame, guide_style, b1, b2, b3, &
+        date_scale) bind(C, name="cx_addyofxquadratic_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2, b3
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve b1 + b2 * x + b3 * x*x + b4 * x*x*x to a frame and names it after its model.
+    !> Returns the new guide; infinite coefficients are not looked at. Reports a node that is no
+    !> frame, and then also that there is no curve to name.
+    integer(c_int64_t) function cx_addyofxcubic(chart, frame, guide_style, b1, b2, b3, b4, &
+        date_scale) bind(C, name="cx_addyofxcubic_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2, b3, b4
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve b1 * b2**x to a frame and names it after its model. Returns the new guide, or
+    !> -1 for an infinite coefficient, silently. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addyofxcompound(chart, frame, guide_style, b1, b2, date_scale) &
+        bind(C, name="cx_addyofxcompound_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve b1 * x**b2 to a frame and names it after its model. Returns the new guide, or
+    !> -1 for an infinite coefficient, silently. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addyofxpower(chart, frame, guide_style, b1, b2, date_scale) &
+        bind(C, name="cx_addyofxpower_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve exp(b1 + b2 / x) to a frame and names it after its model. Returns the new
+    !> guide, or -1 for an infinite coefficient, silently. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addyofxs(chart, frame, guide_style, b1, b2, date_scale) &
+        bind(C, name="cx_addyofxs_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve exp(b1 + b2 * x) to a frame and names it after its model. Returns the new
+    !> guide, or -1 for an infinite coefficient, silently. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addyofxgrowth(chart, frame, guide_style, b1, b2, date_scale) &
+        bind(C, name="cx_addyofxgrowth_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve b1 * exp(b2 * x) to a frame and names it after its model. Returns the new
+    !> guide, or -1 for an infinite coefficient, silently. Reports a node that is no frame.
+    integer(c_int64_t) function cx_addyofxexponential(chart, frame, guide_style, b1, b2, &
+        date_scale) bind(C, name="cx_addyofxexponential_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2
+      integer(c_int64_t), intent(in) :: date_scale
+    end function
+
+    !> Adds the curve 1 / (b3 + b1 * b2**x) to a frame and names it after its model. Returns the new
+    !> guide; infinite coefficients are not looked at. Reports a node that is no frame, and then
+    !> also that there is no curve to name.
+    integer(c_int64_t) function cx_addyofxlogistic(chart, frame, guide_style, b1, b2, b3, &
+        date_scale) bind(C, name="cx_addyofxlogistic_")
+      import
+      integer(c_int64_t), intent(in) :: chart, frame, guide_style
+      real(c_double), intent(in) :: b1, b2, b3
       integer(c_int64_t), intent(in) :: date_scale
     end function
 

@@ -3,7 +3,6 @@
 #include <cstdint>
 
 #include <host/CodePages.h>
-#include <host/Missing.h>
 #include <host/OutputText.h>
 #include <host/Settings.h>
 
@@ -258,26 +257,6 @@ TEST_F(Registry, EndsWithChartsOpenAndStartsAgain) {
   }
   EXPECT_EQ(registry().CreateChart(), 0);
   EXPECT_THAT(takeReports(), IsEmpty());
-}
-
-TEST_F(Registry, DrawsFittedLinesUnlessACoefficientIsInfinite) {
-  const double infinity = std::numeric_limits<double>::infinity();
-  const int chart = registry().CreateChart();
-  const int frame = registry().AddFrame(chart, 0, -1);
-  const int line = registry().AddYOfXLinear(chart, frame, 1, 2.0, 3.5, false);
-  EXPECT_EQ(fragment(chart, line), R"(<guide id="guide_yFunctionOfX_1" name="Linear" )"
-                                   R"(style="guide_yFunctionOfX_1default_style" type="function">)"
-                                   R"(<parameter name="y" value="3.5 * x + 2"/>)"
-                                   R"(<parameter name="numPoints" value="1000"/></guide>)");
-  const int dates = registry().AddYOfXLinear(chart, frame, 2, 0.1, 2, true);
-  EXPECT_THAT(
-      fragment(chart, dates),
-      testing::HasSubstr(R"(value="2 * (x - datetodouble("1582-10-14T00:00:00.000") ) + 0.1")"));
-  EXPECT_EQ(registry().AddYOfXLinear(chart, frame, 3, 1, infinity, false), -1);
-  EXPECT_EQ(registry().AddYOfXLinear(chart, frame, 3, host::systemMissing, 1, false), -1);
-  EXPECT_EQ(registry().AddYOfXLinear(9, frame, 3, 1, 1, false), -1);
-  EXPECT_THAT(takeReports(),
-              ElementsAre("parameter handle out of range", "chart handle (9) out of range (0-1)"));
 }
 
 // The program's error callback may hand control back to the procedure at any report.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <memory>
 #include <source_location>
 #include <string>
@@ -137,10 +138,33 @@ public:
   int AllDataDoubles(int chart);
 
   // Fit lines: the formula with its coefficients as a function guide, named by
-  // the model. The guide, or -1; -1 when a coefficient is infinite.
+  // the model. The guide, or -1. Lines of two coefficients are refused silently
+  // when one is infinite; the others do not look.
 
   int AddYOfXLinear(int chart, int parent, int functionArgument, const double& b1, const double& b2,
                     bool dateScale);
+  int AddYOfXLogarithmic(int chart, int parent, int functionArgument, const double& b1,
+                         const double& b2, bool dateScale);
+  int AddYOfXInverse(int chart, int parent, int functionArgument, const double& b1,
+                     const double& b2, bool dateScale);
+  int AddYOfXQuadratic(int chart, int parent, int functionArgument, const double& b1,
+                       const double& b2, const double& b3, bool dateScale);
+  int AddYOfXCubic(int chart, int parent, int functionArgument, const double& b1, const double& b2,
+                   const double& b3, const double& b4, bool dateScale);
+  int AddYOfXCompound(int chart, int parent, int functionArgument, const double& b1,
+                      const double& b2, bool dateScale);
+  int AddYOfXPower(int chart, int parent, int functionArgument, const double& b1, const double& b2,
+                   bool dateScale);
+  int AddYOfXS(int chart, int parent, int functionArgument, const double& b1, const double& b2,
+               bool dateScale);
+  int AddYOfXGrowth(int chart, int parent, int functionArgument, const double& b1, const double& b2,
+                    bool dateScale);
+  int AddYOfXExponential(int chart, int parent, int functionArgument, const double& b1,
+                         const double& b2, bool dateScale);
+  int AddYOfXLogistic(int chart, int parent, int functionArgument, const double& b1,
+                      const double& b2, const double& b3, bool dateScale);
+  /// The end of a line of two coefficients: fills the formula, which is open, and
+  /// draws it.
   int AddYOfXWithAB(int chart, int parent, int formula, int functionArgument, const double& b1,
                     const double& b2);
 
@@ -291,6 +315,8 @@ private:
   using Where = std::source_location;
   struct At;
   struct Column;
+  struct FitLine;
+  struct FitModel;
 
   struct XmlPlatform;
 
@@ -305,6 +331,10 @@ private:
   Chart* findChart(At chart) const;
   Chart* findSilently(int chart) const;
   int keepOrKill(int chart, int result);
+  int addLineOfTwo(const FitModel& model, const FitLine& line, const double& b1, const double& b2);
+  int addLine(const FitModel& model, const FitLine& line,
+              std::initializer_list<double> coefficients);
+  int fillFormula(int formula, std::initializer_list<double> coefficients);
   void removeChart(int chart);
   void forgetStringsAndData();
   int handDataSourceTo(At chart);

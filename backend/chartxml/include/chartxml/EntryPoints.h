@@ -482,6 +482,14 @@ CHARTXML_API int64_t CX_AddFacetStyle(const int64_t* chart, const int64_t* eleme
 CHARTXML_API int64_t cx_addcoordinatetransform_(const int64_t* chart, const int64_t* frame,
                                                 const int64_t* method);
 
+/** Shows a frame as a space of three dimensions, with a wire frame and three planes. Returns the
+ *  parent. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addxyzwireframe_(const int64_t* chart, const int64_t* parent);
+
+/** Shows a frame as a space of three dimensions, with three planes. Returns the parent. Reports
+ *  a node that is no frame. */
+CHARTXML_API int64_t cx_addxyzbackplanes_(const int64_t* chart, const int64_t* parent);
+
 /* Elements and aesthetics */
 
 /** Adds an element to a frame or an element group. Returns the new element. Reports any other
@@ -499,6 +507,24 @@ CHARTXML_API int64_t cx_addxyelementex_(const int64_t* chart, const int64_t* par
                                         const int64_t* styleIndex, const int64_t* type,
                                         const int64_t* x, const int64_t* y,
                                         const int64_t* styleKind, int64_t* element);
+
+/** Adds a matrix of scatterplots to a frame, every variable against every other, with margins of
+ *  15%. Returns the new element. Reports a node that is no variable. */
+CHARTXML_API int64_t cx_addsplomelement_(const int64_t* chart, const int64_t* parent,
+                                         const int64_t* variables, const int64_t* variableCount,
+                                         int64_t* element);
+
+/** Adds a matrix of scatterplots to a frame, every variable against every other, with margins
+ *  and mappings. Returns the new element. Reports a node that is no variable. */
+CHARTXML_API int64_t cx_addsplomelementex_(const int64_t* chart, const int64_t* parent,
+                                           const int64_t* variables, const int64_t* variableCount,
+                                           int64_t* element, const int64_t* xUpperMargin,
+                                           const int64_t* xLowerMargin, const int64_t* yUpperMargin,
+                                           const int64_t* yLowerMargin,
+                                           const int64_t* xUpperMapping,
+                                           const int64_t* xLowerMapping,
+                                           const int64_t* yUpperMapping,
+                                           const int64_t* yLowerMapping);
 
 /** Names an element or a guide, as a legend shows it. Returns the element or guide, or -1 for
  *  any other node, silently. */
@@ -797,6 +823,71 @@ CHARTXML_API int64_t cx_addyfunctionofx_(const int64_t* chart, const int64_t* fr
 CHARTXML_API int64_t cx_addyofxlinear_(const int64_t* chart, const int64_t* frame,
                                        const int64_t* guideStyle, const double* intercept,
                                        const double* slope, const int64_t* dateScale);
+
+/** Adds the curve b1 + b2 * log(x) to a frame and names it after its model. Returns the new
+ *  guide, or -1 for an infinite coefficient, silently. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addyofxlogarithmic_(const int64_t* chart, const int64_t* frame,
+                                            const int64_t* guideStyle, const double* b1,
+                                            const double* b2, const int64_t* dateScale);
+
+/** Adds the curve b1 + b2 / x to a frame and names it after its model. Returns the new guide, or
+ *  -1 for an infinite coefficient, silently. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addyofxinverse_(const int64_t* chart, const int64_t* frame,
+                                        const int64_t* guideStyle, const double* b1,
+                                        const double* b2, const int64_t* dateScale);
+
+/** Adds the curve b1 + b2 * x + b3 * x*x to a frame and names it after its model. Returns the
+ *  new guide; infinite coefficients are not looked at. Reports a node that is no frame, and then
+ *  also that there is no curve to name. */
+CHARTXML_API int64_t cx_addyofxquadratic_(const int64_t* chart, const int64_t* frame,
+                                          const int64_t* guideStyle, const double* b1,
+                                          const double* b2, const double* b3,
+                                          const int64_t* dateScale);
+
+/** Adds the curve b1 + b2 * x + b3 * x*x + b4 * x*x*x to a frame and names it after its model.
+ *  Returns the new guide; infinite coefficients are not looked at. Reports a node that is no
+ *  frame, and then also that there is no curve to name. */
+CHARTXML_API int64_t cx_addyofxcubic_(const int64_t* chart, const int64_t* frame,
+                                      const int64_t* guideStyle, const double* b1, const double* b2,
+                                      const double* b3, const double* b4, const int64_t* dateScale);
+
+/** Adds the curve b1 * b2**x to a frame and names it after its model. Returns the new guide, or
+ *  -1 for an infinite coefficient, silently. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addyofxcompound_(const int64_t* chart, const int64_t* frame,
+                                         const int64_t* guideStyle, const double* b1,
+                                         const double* b2, const int64_t* dateScale);
+
+/** Adds the curve b1 * x**b2 to a frame and names it after its model. Returns the new guide, or
+ *  -1 for an infinite coefficient, silently. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addyofxpower_(const int64_t* chart, const int64_t* frame,
+                                      const int64_t* guideStyle, const double* b1, const double* b2,
+                                      const int64_t* dateScale);
+
+/** Adds the curve exp(b1 + b2 / x) to a frame and names it after its model. Returns the new
+ *  guide, or -1 for an infinite coefficient, silently. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addyofxs_(const int64_t* chart, const int64_t* frame,
+                                  const int64_t* guideStyle, const double* b1, const double* b2,
+                                  const int64_t* dateScale);
+
+/** Adds the curve exp(b1 + b2 * x) to a frame and names it after its model. Returns the new
+ *  guide, or -1 for an infinite coefficient, silently. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addyofxgrowth_(const int64_t* chart, const int64_t* frame,
+                                       const int64_t* guideStyle, const double* b1,
+                                       const double* b2, const int64_t* dateScale);
+
+/** Adds the curve b1 * exp(b2 * x) to a frame and names it after its model. Returns the new
+ *  guide, or -1 for an infinite coefficient, silently. Reports a node that is no frame. */
+CHARTXML_API int64_t cx_addyofxexponential_(const int64_t* chart, const int64_t* frame,
+                                            const int64_t* guideStyle, const double* b1,
+                                            const double* b2, const int64_t* dateScale);
+
+/** Adds the curve 1 / (b3 + b1 * b2**x) to a frame and names it after its model. Returns the new
+ *  guide; infinite coefficients are not looked at. Reports a node that is no frame, and then
+ *  also that there is no curve to name. */
+CHARTXML_API int64_t cx_addyofxlogistic_(const int64_t* chart, const int64_t* frame,
+                                         const int64_t* guideStyle, const double* b1,
+                                         const double* b2, const double* b3,
+                                         const int64_t* dateScale);
 
 /** Adds a legend to a frame. Returns the new legend. */
 CHARTXML_API int64_t cx_addlegend_(const int64_t* chart, const int64_t* parent,

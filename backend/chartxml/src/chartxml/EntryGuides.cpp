@@ -26,12 +26,6 @@ int64_t cx_addyfunctionofx_(const int64_t* chart, const int64_t* frame, const in
                             const int64_t* styleIndex) {
   return call(__func__, &ChartXml::AddYFunctionOfX, chart, frame, function, styleIndex);
 }
-int64_t cx_addyofxlinear_(const int64_t* chart, const int64_t* parent,
-                          const int64_t* functionArgument, const double* b1, const double* b2,
-                          const int64_t* dateScale) {
-  return call(__func__, &ChartXml::AddYOfXLinear, chart, parent, functionArgument, b1, b2,
-              dateScale);
-}
 int64_t cx_addlegend_(const int64_t* chart, const int64_t* frame, const int64_t* suffix) {
   return call(__func__, &ChartXml::AddLegend, chart, frame, suffix);
 }

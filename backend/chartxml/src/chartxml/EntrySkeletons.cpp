@@ -2,10 +2,10 @@
 // first step that fails, with that step's result, and leaves what it made so far.
 #include "EntryCall.h"
 
-#include <array>
 #include <optional>
 
-#include "StringHandles.h"
+#include "../StringHandles.h"
+#include "Extents.h"
 #include <chartxml/EntryPoints.h>
 
 using namespace entry;
@@ -23,26 +23,18 @@ struct DimensionAxis {
   const int64_t* opposite;
   int64_t* style;
   int64_t* axis;
-  std::array<const int64_t*, 4> extents; ///< upper, lower margin; upper, lower mapping
+  Extents extents;
 };
 
 int64_t addDimensionAxis(ChartXml& registry, int role, const DimensionAxis& given) {
-  using SetExtent = int (ChartXml::*)(int, int, int);
-  static constexpr std::array<SetExtent, 4> setters{
-      &ChartXml::SetDimensionUpperMargin, &ChartXml::SetDimensionLowerMargin,
-      &ChartXml::SetDimensionUpperMapping, &ChartXml::SetDimensionLowerMapping};
-
   const int chart = integer(given.chart);
   const int style = registry.StyleString(role, 1);
   if (store(given.style, style) < 0) return style;
   const int dimension =
       registry.AddDimension(chart, integer(given.parent), role, integer(given.domain));
   if (dimension < 0) return dimension;
-  for (std::size_t i = 0; i < setters.size(); ++i) {
-    if (!isGiven(given.extents[i])) continue;
-    const int set = (registry.*setters[i])(chart, dimension, integer(given.extents[i]));
-    if (set < 0) return set;
-  }
+  const int set = setExtents(registry, chart, dimension, given.extents);
+  if (set < 0) return set;
   const int axis = registry.AddAxis(chart, dimension, style, logical(given.opposite));
   if (store(given.axis, axis) < 0) return axis;
   const int ticks = registry.AddMajorTicks(chart, axis, -1, false, -1, -1, false, -1);
@@ -201,8 +193,9 @@ int64_t cx_addxydimaxiswithsameratio_(const int64_t* chart, const int64_t* paren
                                       int64_t* yStyle, int64_t* yAxis) {
   return guarded(__func__, [&](ChartXml& registry) -> int64_t {
     const int64_t margin = registry.NStringNoTranslate("0%");
+    if (margin < 0) return margin;
     const int64_t none = -1;
-    const std::array extents{&margin, &margin, &none, &none};
+    const Extents extents{&margin, &margin, &none, &none};
     const int64_t x =
         addDimensionAxis(registry, 1, {chart, parent, xDomain, xOpposite, xStyle, xAxis, extents});
     if (x < 0) return x;
