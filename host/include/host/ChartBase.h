@@ -6,9 +6,11 @@
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMElement.hpp>
 
+#include <host/Export.h>
+
 /// What every holder of chart XML shares: the vocabulary of style and label
 /// names, the document factory and the attribute helpers.
-class ChartBase {
+class KORVA_API ChartBase {
 public:
   // Characters and prefixes: these members' texts differ from their names.
   static constexpr XMLCh _dollarSign[] = u"$";

@@ -5,9 +5,11 @@
 #include <xercesc/dom/DOMException.hpp>
 #include <xercesc/util/XMLException.hpp>
 
+#include <host/Export.h>
+
 /// What was refused and why, with the place that refused it. It is handed to
 /// ChartErrorHandler::error, not thrown, except by the output side.
-class ChartException {
+class KORVA_API ChartException {
 public:
   ChartException(std::string message, std::string source, unsigned line);
 
@@ -23,12 +25,12 @@ private:
 
 /// Thrown by an error handler that hands control back to the calling procedure;
 /// whoever catches exceptions lets it pass.
-class KorvaGoToCaller {};
+class KORVA_API KorvaGoToCaller{};
 
 /// Reports go to the host's error log (host/ErrorLog.h). The operations are
 /// static because the first report can come before a handler exists and the
 /// last one after it is destroyed.
-class ChartErrorHandler {
+class KORVA_API ChartErrorHandler {
 public:
   virtual ~ChartErrorHandler() = default;
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include <host/Export.h>
 #include <host/VarDataProcessor.h>
 #include <host/XDocument.h>
 
@@ -24,7 +25,7 @@ struct SentChart {
   const VarDataProcessor* data; ///< may be null: a chart without data
 };
 
-class ChartSink {
+class KORVA_API ChartSink {
 public:
   virtual ~ChartSink() = default;
   /// Takes one chart. Throws ChartException when it cannot; nothing of the chart
@@ -36,10 +37,10 @@ public:
 };
 
 /// The sink in use: the folder sink unless the program set its own.
-ChartSink& chartSink();
+KORVA_API ChartSink& chartSink();
 /// Sets the sink; null restores the folder sink. Not to be called by a sink while
 /// it takes a chart.
-void setChartSink(std::unique_ptr<ChartSink> sink);
+KORVA_API void setChartSink(std::unique_ptr<ChartSink> sink);
 
 /// What is done beside the bare files: pages for a chart folder that is still
 /// being written aside, and the gallery page of the whole output folder. Either
@@ -65,7 +66,7 @@ struct PageWriter {
 /// same chart gives the same bytes, and processes that share an output folder take
 /// turns by the lock file .lock and lose nothing. What a process that died was
 /// writing, .tmp-<process>-<n>/, is removed by the next one.
-class FolderSink final : public ChartSink {
+class KORVA_API FolderSink final : public ChartSink {
 public:
   explicit FolderSink(PageWriter pages) : pages_(std::move(pages)) {}
   /// Pages that fail are reported and, in the manifest's "errors", told; the bare
@@ -78,12 +79,12 @@ private:
 };
 
 /// The page writer of this library; defined by the part that draws.
-PageWriter defaultPageWriter();
+KORVA_API PageWriter defaultPageWriter();
 
 /// The folder that charts go to: what setOutputFolder set, else what
 /// CHARTXML_OUTPUT names, else charts/ below the working directory.
-std::filesystem::path outputFolder();
+KORVA_API std::filesystem::path outputFolder();
 /// An empty path takes back what was set.
-void setOutputFolder(std::filesystem::path folder);
+KORVA_API void setOutputFolder(std::filesystem::path folder);
 
 } // namespace host

@@ -5,9 +5,11 @@
 
 #include <xercesc/util/XercesDefs.hpp>
 
+#include <host/Export.h>
+
 /// A text on its way into a chart document: UTF-16 for display and, beside it,
 /// the same text in English.
-class ChartString {
+class KORVA_API ChartString {
 public:
   ChartString() = default;
   explicit ChartString(std::u16string text) : text_(std::move(text)) {}

@@ -5,6 +5,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include <host/Export.h>
+
 /// One 8-byte cell of an observation as procedures pass it: a number, or eight
 /// bytes of a string value, which takes as many cells as it needs.
 union OBS {
@@ -17,12 +19,12 @@ namespace host {
 constexpr int cellsOfWidth(int width) { return width <= 8 ? 1 : (width + 7) / 8; }
 /// Writes a text into the first `width` bytes of cells, padded with blanks to
 /// the end of the last cell; a longer text is cut.
-void writeText(std::string_view text, int width, OBS* cells);
+KORVA_API void writeText(std::string_view text, int width, OBS* cells);
 } // namespace host
 
 /// A display format: type code, width and decimals, packed into one long as
 /// type << 16 | width << 8 | decimals, each part 0 to 255.
-class KORVA_Format {
+class KORVA_API KORVA_Format {
 public:
   /// A part outside 0 to 255 becomes the nearer end.
   KORVA_Format(int type, int width, int decimals);
@@ -41,7 +43,7 @@ private:
 };
 
 /// The value labels of a variable, in the order of its description.
-class KORVA_ValueLabelMap {
+class KORVA_API KORVA_ValueLabelMap {
 public:
   /// `width` is 0 for numeric values, else the bytes of a string value.
   explicit KORVA_ValueLabelMap(int width = 0) : width_(width) {}
@@ -81,7 +83,7 @@ private:
 };
 
 /// One column's description. Its texts are bytes of the process code page.
-class KORVA_Variable {
+class KORVA_API KORVA_Variable {
 public:
   virtual ~KORVA_Variable() = default;
 
@@ -97,7 +99,7 @@ public:
 };
 
 /// The columns that a procedure works on.
-class KORVA_DataSource {
+class KORVA_API KORVA_DataSource {
 public:
   virtual ~KORVA_DataSource() = default;
 
@@ -118,7 +120,7 @@ public:
 /// maps the run's variable numbers, from 1, to column indexes, from 0. All live
 /// dictionaries stand in one table, so that an address from outside can be
 /// checked before it is used.
-class KORVA_FortranDictionary : public KORVA_DataSource {
+class KORVA_API KORVA_FortranDictionary : public KORVA_DataSource {
 public:
   KORVA_FortranDictionary();
   ~KORVA_FortranDictionary() override;
@@ -140,7 +142,7 @@ public:
 
 /// The data as one procedure's run sees it. It does not own the dictionary, but
 /// keeps it in use while it lives.
-class ProcedureDataSource : public KORVA_DataSource {
+class KORVA_API ProcedureDataSource : public KORVA_DataSource {
 public:
   /// `dictionary` must be alive.
   ProcedureDataSource(void* procedureHandle, KORVA_FortranDictionary* dictionary);

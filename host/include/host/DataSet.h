@@ -8,13 +8,14 @@
 #include <string_view>
 
 #include <host/Data.h>
+#include <host/Export.h>
 
 /// Data sets read from files: a data package (datapackage.json in the Table
 /// Schema standard, with its CSV), or a bare CSV.
 namespace host {
 
 /// A data set that cannot be read: what, and where in which file.
-class DataError : public std::runtime_error {
+class KORVA_API DataError : public std::runtime_error {
 public:
   using std::runtime_error::runtime_error;
 };
@@ -25,7 +26,7 @@ public:
 /// Files are UTF-8; names, labels and values are given out as bytes of the
 /// process code page. A missing number is the system-missing value, a missing
 /// text is empty. Limits: 65 536 columns, 2^31 rows, 32 767 bytes a text.
-class DataSet final : public KORVA_FortranDictionary {
+class KORVA_API DataSet final : public KORVA_FortranDictionary {
 public:
   /// Opens a data package (its folder, or its datapackage.json), of which the
   /// first resource is read, or a CSV file. Of a folder datapackage.<language>.json

@@ -5,6 +5,8 @@
 #include <source_location>
 #include <string>
 
+#include <host/Export.h>
+
 /// The one place where errors of the builder and of the host arrive.
 namespace host {
 
@@ -21,16 +23,17 @@ using ErrorCallback = std::function<void(const ErrorReport&)>;
 /// on standard error, or hands it to the callback when one is set, and keeps it
 /// for takeError. Control characters are shown as "\n", "\x01" on that line. A
 /// report made while the callback runs goes to standard error.
-void reportError(const ErrorReport& report);
+KORVA_API void reportError(const ErrorReport& report);
 
 /// A report of the host itself, from the caller's place in the code.
-void reportError(std::string message, std::source_location where = std::source_location::current());
+KORVA_API void reportError(std::string message,
+                           std::source_location where = std::source_location::current());
 
 /// Sets who takes the reports instead of standard error; an empty function
 /// restores standard error. The callback may throw KorvaGoToCaller.
-void setErrorCallback(ErrorCallback callback);
+KORVA_API void setErrorCallback(ErrorCallback callback);
 
 /// The oldest report not yet taken, if any. The log keeps the latest 1000.
-std::optional<ErrorReport> takeError();
+KORVA_API std::optional<ErrorReport> takeError();
 
 } // namespace host

@@ -13,11 +13,7 @@
 
 #include <stdint.h>
 
-#if defined(__GNUC__)
-#define KORVA_API __attribute__((visibility("default")))
-#else
-#define KORVA_API
-#endif
+#include <host/Export.h>
 
 #ifdef __cplusplus
 extern "C" {

@@ -5,8 +5,10 @@
 #include <string>
 #include <utility>
 
+#include <host/Export.h>
+
 /// System settings shared with the engine; the host program may set them at any time.
-struct CmnSys {
+struct KORVA_API CmnSys {
   unsigned optionFlags = 0;     ///< bit 0: digit grouping
   int minimumIntegerDigits = 1; ///< 0 to mostIntegerDigits, the nearer end beyond
 
@@ -20,7 +22,7 @@ struct CmnSys {
 
 /// Locale settings shared with the engine: the signs of numbers in display texts.
 /// Texts for machines never follow them.
-struct CmnLoc {
+struct KORVA_API CmnLoc {
   std::string decimalSeparator = "."; ///< one character, UTF-8
   std::string groupingSeparator;      ///< one character, UTF-8, or empty
 
@@ -60,7 +62,7 @@ private:
   std::string negativeSuffix_;
 };
 
-class currencyFormat {
+class KORVA_API currencyFormat {
 public:
   /// The record of currency `number`, 0 to 4; another number is reported, and the
   /// record of no currency given.
@@ -75,5 +77,5 @@ int qbootstrapping_();
 }
 
 namespace host {
-void setBootstrapping(bool on);
+KORVA_API void setBootstrapping(bool on);
 }

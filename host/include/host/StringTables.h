@@ -3,6 +3,8 @@
 #include <memory>
 #include <string>
 
+#include <host/Export.h>
+
 /// The language of the output: "en", "de", "ja", ...
 class OLang {
 public:
@@ -62,7 +64,7 @@ namespace host {
 /// Sets the output language; an empty code goes back to CHARTXML_LANG and its
 /// default. False, and no change, for a code without tables.
 /// A registry that already runs keeps the language it started with.
-bool setOutputLanguage(const std::string& code);
+KORVA_API bool setOutputLanguage(const std::string& code);
 
 /// The code page of the texts that FacSTDictionary gives for a language.
 std::string codePageOfLanguage(const std::string& code);

@@ -7,13 +7,15 @@
 #include <unordered_map>
 #include <vector>
 
+#include <host/Export.h>
+
 namespace host {
 
 /// One column of values: numbers at 8 bytes a cell, texts at 4 bytes a cell with
 /// each distinct text kept once. A column may hold both; either store is made
 /// only when its first value comes. Grows by blocks: values are not copied as a
 /// long column gets longer, and rows that are skipped cost next to nothing.
-class ValueColumn {
+class KORVA_API ValueColumn {
 public:
   enum class Kind { empty, number, text };
 

@@ -8,10 +8,11 @@
 #include <unordered_map>
 #include <vector>
 
+#include <host/Export.h>
 #include <host/ValueColumn.h>
 
 /// The column store of one chart: the values of its variables, by data source.
-class VarDataProcessor {
+class KORVA_API VarDataProcessor {
 public:
   /// Names one variable's column; filled by AddVariable. Valid while the store
   /// lives.
@@ -23,7 +24,7 @@ public:
     std::string name; ///< the variable's sourceName in the document
     std::unique_ptr<host::ValueColumn> column;
   };
-  struct Source {
+  struct KORVA_API Source {
     std::string name;
     std::vector<Variable> variables; ///< in the order added
     std::unordered_map<std::string, host::ValueColumn*> columnOfName;

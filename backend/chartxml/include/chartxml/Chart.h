@@ -11,6 +11,7 @@
 
 #include <chartxml/ChartHashtable.h>
 #include <chartxml/ChartStringHandler.h>
+#include <chartxml/Export.h>
 #include <host/ChartBase.h>
 #include <host/ChartError.h>
 #include <host/ChartString.h>
@@ -36,7 +37,7 @@ using ConstChartStringSet = std::span<const XMLCh* const>;
 /// of the chart's string handler; -1 as an optional string means none. They check
 /// first, change nothing when a check fails, report the refusal with the place of
 /// the call, and return a handle or another non-negative number, or -1.
-class Chart : public ChartBase {
+class CHARTXML_API Chart : public ChartBase {
 public:
   static constexpr XMLCh _elementgroup[] = u"elementGroup";
   static constexpr XMLCh _styleby[] = u"styleBy";
