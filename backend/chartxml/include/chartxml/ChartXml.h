@@ -48,6 +48,7 @@ public:
   int CreateChart();
   /// The chart of a handle, or null, which is reported when `report` is set.
   Chart* getValidChart(int handle, const char* sourceFile, unsigned line, bool report) const;
+  /// The chart's document, in which the values of styles are not written yet, or null.
   xercesc::DOMDocument* getChart(int chart) const;
   /// The node handle of an element of the chart, or -1.
   int getHandle(int chart, const xercesc::DOMElement* element) const;
