@@ -44,7 +44,8 @@ KORVA_API void setChartSink(std::unique_ptr<ChartSink> sink);
 
 /// What is done beside the bare files: pages for a chart folder that is still
 /// being written aside, and the gallery page of the whole output folder. Either
-/// may be empty. They tell of a failure by a std::exception or ChartException.
+/// may be empty. They tell of a failure by an exception, best a std::exception or
+/// ChartException, which say why.
 struct PageWriter {
   std::function<void(const std::filesystem::path& chartFolder)> writeChart;
   std::function<void(const std::filesystem::path& outputFolder)> writeGallery;

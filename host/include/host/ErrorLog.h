@@ -30,7 +30,8 @@ KORVA_API void reportError(std::string message,
                            std::source_location where = std::source_location::current());
 
 /// Sets who takes the reports instead of standard error; an empty function
-/// restores standard error. The callback may throw KorvaGoToCaller.
+/// restores standard error. The callback may throw KorvaGoToCaller, which goes on to
+/// whoever made the report; after any other exception the report goes to standard error.
 KORVA_API void setErrorCallback(ErrorCallback callback);
 
 /// The oldest report not yet taken, if any. The log keeps the latest 1000.

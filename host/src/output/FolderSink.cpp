@@ -41,10 +41,14 @@ std::optional<std::string> failureOf(const std::function<void(const fs::path&)>&
   try {
     if (write) write(folder);
     return std::nullopt;
+  } catch (const KorvaGoToCaller&) {
+    throw;
   } catch (const ChartException& exception) {
     failure = exception.what();
   } catch (const std::exception& exception) {
     failure = exception.what();
+  } catch (...) {
+    failure = "unknown exception";
   }
   const std::string place = folder.native() + "/";
   for (auto at = failure.find(place); at != std::string::npos; at = failure.find(place, at))

@@ -23,12 +23,13 @@ public:
     if (data.sources().empty()) return;
     for (const Source& source : data.sources())
       ofSource_[source.name];
+    for (const CTVariableType& variable : chart.getSourceVariables())
+      ofId_.emplace(variable.id, &variable);
     Columns& first = ofSource_.at(data.sources().front().name);
     for (const CTVariableType& variable : chart.getSourceVariables()) {
       // The store gives a variable of a source that it does not know the first one.
-      const auto source = ofSource_.find(variable.source);
-      Columns& columns = source == ofSource_.end() ? first : source->second;
-      columns[variable.sourceName].push_back(&variable);
+      Columns* known = columnsFor(variable);
+      (known ? *known : first)[variable.sourceName].push_back(&variable);
     }
   }
 
@@ -41,7 +42,23 @@ public:
 
 private:
   using Columns = std::unordered_map<std::string_view, Variables>;
+
+  /// Those of the variable's source, which a computed variable has by way of others. No
+  /// such way is longer than there are variables.
+  Columns* columnsFor(const CTVariableType& variable) {
+    const CTVariableType* at = &variable;
+    for (std::size_t hops = 0; hops <= ofId_.size(); ++hops) {
+      if (const auto source = ofSource_.find(at->source); source != ofSource_.end())
+        return &source->second;
+      const auto next = ofId_.find(at->source);
+      if (next == ofId_.end()) break;
+      at = next->second;
+    }
+    return nullptr;
+  }
+
   std::unordered_map<std::string_view, Columns> ofSource_;
+  std::unordered_map<std::string_view, const CTVariableType*> ofId_;
 };
 
 /// {"numberFormat": {"prefix": "$"}}, {"dateTimeFormat": {"dateFormat": {"year": {}}}}

@@ -2,10 +2,12 @@
 
 #include <cstdio>
 #include <deque>
+#include <exception>
 #include <set>
 #include <utility>
 
 #include <fmt/format.h>
+#include <host/ChartError.h>
 
 #include "Reports.h"
 
@@ -38,13 +40,28 @@ void writeReport(const ErrorReport& report) {
   writeErrorLine(fmt::format("{} [{}:{}]", report.message, report.source, report.line));
 }
 
+// Whoever reports is in the midst of a refusal, which a callback that fails must not
+// turn into something else.
+void writeUntaken(const ErrorReport& report, std::string_view reason) {
+  writeReport(report);
+  writeErrorLine(fmt::format("the error callback failed - {}", reason));
+}
+
 void callBack(const ErrorReport& report) {
   struct Guard {
     Guard() { log().inCallback = true; }
     ~Guard() { log().inCallback = false; }
   } guard;
   const ErrorCallback callback = log().callback; // it may set another one while it runs
-  callback(report);
+  try {
+    callback(report);
+  } catch (const KorvaGoToCaller&) {
+    throw;
+  } catch (const std::exception& exception) {
+    writeUntaken(report, exception.what());
+  } catch (...) {
+    writeUntaken(report, "unknown exception");
+  }
 }
 
 void appendVisible(std::string& line, char c) {

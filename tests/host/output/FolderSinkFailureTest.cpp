@@ -79,6 +79,96 @@ TEST_F(FolderSinkFailure, leaves_nothing_of_a_chart_that_finds_no_room) {
   EXPECT_EQ(names(output), Names{".lock"});
 }
 
+// No file may grow beyond a limit: what would is refused, and nothing of it stays.
+TEST_F(FolderSinkFailure, leaves_nothing_where_a_text_finds_no_room) {
+  const std::string shortText = "<graph/>";
+  const std::string longText(20000, 'x');
+  const std::string empty;
+  struct Case {
+    const char* file;
+    std::function<void(host::FolderSink&)> write;
+  };
+  const Case cases[] = {
+      {"/chart.xml",
+       [&](host::FolderSink& sink) {
+         sink.send({empty, longText, empty, empty, empty, empty, visualization, data});
+       }},
+      {"/manifest.json",
+       [&](host::FolderSink& sink) {
+         sink.send({empty, shortText, longText, empty, empty, empty, visualization, data});
+       }},
+      {"/errors.json", [&](host::FolderSink& sink) { sink.noteError(longText); }},
+  };
+  for (const Case& k : cases) {
+    EXPECT_TRUE(succeeded(start([&] {
+      const rlimit limit{10000, RLIM_INFINITY};
+      std::signal(SIGXFSZ, SIG_IGN);
+      setrlimit(RLIMIT_FSIZE, &limit);
+      host::FolderSink sink({});
+      const std::string refusal = refusalOf([&] { k.write(sink); });
+      send("next");
+      return refusal.ends_with(std::string(k.file) + ": File too large");
+    }))) << k.file;
+    EXPECT_EQ(names(output), (Names{".lock", "0001-next"})) << k.file;
+    std::filesystem::remove_all(output);
+  }
+}
+
+TEST_F(FolderSinkFailure, leaves_nothing_of_a_chart_whose_draft_vanishes) {
+  host::PageWriter pages;
+  pages.writeChart = [](const std::filesystem::path& folder) {
+    std::filesystem::remove_all(folder);
+  };
+  EXPECT_EQ(refusalOf([&] { send("a", pages); }),
+            "can't publish " + (output / "0001-a").native() + ": No such file or directory");
+  EXPECT_EQ(names(output), Names{".lock"});
+}
+
+/// Root may write where nobody may.
+bool becomeUnprivileged(const std::filesystem::path& owned) {
+  constexpr unsigned nobody = 65534;
+  if (geteuid() != 0) return true;
+  return chown(owned.c_str(), nobody, nobody) == 0 && setgid(nobody) == 0 && setuid(nobody) == 0;
+}
+
+// What can't be removed now goes with the next chart.
+TEST_F(FolderSinkFailure, publishes_no_chart_into_a_folder_that_becomes_read_only) {
+  using std::filesystem::perms;
+  host::PageWriter pages;
+  pages.writeChart = [&](const std::filesystem::path&) {
+    permissions(output, perms::owner_read | perms::owner_exec);
+  };
+  EXPECT_TRUE(succeeded(start([&] {
+    if (!becomeUnprivileged(scratch.path())) return false;
+    const std::string refusal = refusalOf([&] { send("a", pages); });
+    const bool isHidden = names(output).size() == 2 && !exists(output / "0001-a");
+    const std::string again = refusalOf([&] { send("b"); });
+    permissions(output, perms::owner_all);
+    send("next");
+    return isHidden && again.ends_with(": Permission denied") &&
+           refusal == "can't publish " + (output / "0001-a").native() + ": Permission denied";
+  })));
+  EXPECT_EQ(names(output), (Names{".lock", "0001-next"}));
+}
+
+// Whatever is thrown on the way, the chart is there whole or not at all.
+TEST_F(FolderSinkFailure, takes_every_exception_of_the_page_writers) {
+  const auto goBack = [](const std::filesystem::path&) { throw KorvaGoToCaller(); };
+  const auto unknown = [](const std::filesystem::path&) { throw 7; };
+  EXPECT_THROW(send("gone", {goBack, {}}), KorvaGoToCaller);
+  EXPECT_EQ(names(output), Names{".lock"});
+  EXPECT_THROW(send("there", {{}, goBack}), KorvaGoToCaller);
+  EXPECT_EQ(names(output), (Names{".lock", "0001-there"}));
+  send("bare", {unknown, unknown});
+  EXPECT_EQ(names(output), (Names{".lock", "0001-there", "0002-bare"}));
+  for (const char* folder : {"0001-there", "0002-bare"})
+    EXPECT_EQ(names(output / folder), (Names{"chart.xml", "manifest.json"}));
+  EXPECT_EQ(reports,
+            (Names{"the page of " + (output / "0002-bare").native() +
+                       " was not written: unknown exception",
+                   "the gallery of " + output.native() + " was not written: unknown exception"}));
+}
+
 TEST_F(FolderSinkFailure, refuses_a_source_that_would_leave_its_folder) {
   VarDataProcessor columns;
   VarDataProcessor::_varinfo x;

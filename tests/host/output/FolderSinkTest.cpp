@@ -95,6 +95,33 @@ TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
   EXPECT_EQ(reports, Names{});
 }
 
+// A computed variable names the variable that it stands on where others name their source.
+TEST_F(FolderSink, describes_each_column_by_the_variables_of_its_source) {
+  VarDataProcessor columns;
+  VarDataProcessor::_varinfo column;
+  for (const char* source : {"source0", "source1"}) {
+    columns.AddDataSource(source, 0);
+    columns.AddVariable(source, "casenum", column);
+    columns.SetVariableValue(column, 0, 1);
+  }
+  auto& variables = visualization.getSourceVariables();
+  for (const auto& [id, source] : {std::pair{"mean of mean", "mean"},
+                                   {"mean", "base"},
+                                   {"base", "source1"},
+                                   {"lost", "nowhere"},
+                                   {"circle", "circle"}})
+    variables.push_back(variable(id, source, "casenum"));
+  data = &columns;
+  send("two");
+  const auto manifest = nlohmann::json::parse(read(output / "0001-two/manifest.json"));
+  std::vector<nlohmann::json> ids;
+  for (const auto& source : manifest["sources"])
+    ids.push_back(source["columns"][0]["variables"]);
+  EXPECT_EQ(ids,
+            (std::vector<nlohmann::json>{{"lost", "circle"}, {"mean of mean", "mean", "base"}}))
+      << "what has no source is the first one's";
+}
+
 TEST_F(FolderSink, writes_each_cell_as_it_went_in) {
   const double infinity = std::numeric_limits<double>::infinity();
   VarDataProcessor columns;

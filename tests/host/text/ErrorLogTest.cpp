@@ -1,4 +1,5 @@
 #include <cstdlib>
+#include <stdexcept>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -62,6 +63,21 @@ TEST_F(ErrorLog, CallbackMayHandControlBackToTheCaller) {
   EXPECT_THROW(host::reportError("first"), KorvaGoToCaller);
   EXPECT_THROW(host::reportError("second"), KorvaGoToCaller);
   EXPECT_EQ(host::takeError()->message, "first");
+}
+
+TEST_F(ErrorLog, ReportThatTheCallbackFailsToTakeGoesToStandardError) {
+  const std::pair<host::ErrorCallback, const char*> cases[] = {
+      {[](const host::ErrorReport&) { throw std::runtime_error("no\nroom"); }, "no\\nroom"},
+      {[](const host::ErrorReport&) { throw 7; }, "unknown exception"}};
+  for (const auto& [callback, reason] : cases) {
+    host::setErrorCallback(callback);
+    CaptureStderr();
+    host::reportError(host::ErrorReport{"no datasource", "s", 17});
+    EXPECT_EQ(GetCapturedStderr(), std::string("chartxml: no datasource [s:17]\n"
+                                               "chartxml: the error callback failed - ") +
+                                       reason + "\n");
+    EXPECT_EQ(host::takeError()->message, "no datasource");
+  }
 }
 
 TEST_F(ErrorLog, TakesReportsWithoutAHandler) {

@@ -113,11 +113,12 @@ public:
   /// Copies the attributes of one node to another. 0, or -1.
   int CopyAttributes(int from, int to);
 
-  /// The first node of a list of siblings whose "id" is `id`, or null.
+  /// The first node of the list whose "id" is `id`, or null.
   static xercesc::DOMNode* findNodeById(const xercesc::DOMNodeList& nodes, const XMLCh* id);
   /// The "style" child of that id, or null.
   static xercesc::DOMElement* findStyle(const xercesc::DOMElement& parent, const XMLCh* id);
-  /// Inserts before the first child named in the set, else appends. Always true.
+  /// Inserts before the first child named in the set, else appends; a child that stands
+  /// elsewhere leaves its place. Always true.
   bool insertBeforeSiblings(xercesc::DOMElement& parent, xercesc::DOMElement& child,
                             ConstChartStringSet names);
   /// Whether XML 1.0 allows every character of the text.
@@ -299,7 +300,7 @@ public:
   /// or -1 for a code that is none, silently. `first` and `second` are its values.
   int SetSummaryFunction(int variable, int code, double first, double second);
   int AddLabel(int parent, int suffix, int content);
-  /// Gives an element its box, unless it has one.
+  /// Gives an element its box, unless it has one. A null unit is none.
   void AddLocation(xercesc::DOMElement& element, const XMLCh* unit, double left, double top,
                    double right, double bottom);
 
@@ -399,7 +400,8 @@ public:
   int EndChart();
   int AddStyles();
   /// In a chart with facets, makes aesthetics refer to copies of their variables, which
-  /// have no domain. The result of the last exchange, or -1 when there was none.
+  /// have no domain; one that refers to another kind of node is passed over. The result
+  /// of the last exchange, or -1 when there was none.
   int updateGroupedChart();
   void updateVariableStatistics(ZephVisualization& chart) const;
   /// Assigns the printed document to `buffer`.
@@ -419,6 +421,8 @@ private:
   Element* elementOfKind(int handle, const XMLCh* kind) const;
   bool valid(int handle, const NodeRule& rule, Where where) const;
   Element* accepted(int handle, const NodeRule& rule, Where where) const;
+  bool hasColumn(int index) const;
+  const KORVA_Variable* columnAt(int index) const;
   void report(const std::string& message, Where where) const;
 
   // Making nodes
@@ -488,6 +492,7 @@ private:
   int setVariableText(int variable, int string, const char* what, const XMLCh* attribute,
                       Where where);
   std::vector<int>* variableList(int list, const char* operation, Where where);
+  bool isVariableOfGraph(const XMLCh* id) const;
   static void addTerm(std::u16string& expression, std::u16string_view term);
   void addLabelVariable(const Element& member, const std::u16string& id);
   int addDerivedVariable(const std::u16string& expression, int shortLabel);

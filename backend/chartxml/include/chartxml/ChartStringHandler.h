@@ -125,8 +125,6 @@ public:
   void SetDataSource(const KORVA_DataSource* source) { dataSource_ = source; }
   const KORVA_DataSource* GetDataSource() const { return dataSource_; }
 
-  char decimalSeparator() const { return decimalSeparator_; }
-
 private:
   void init();
   void insertChartString(int handle, ChartString text);
@@ -143,7 +141,6 @@ private:
   int nextHandle_ = 0;
   std::unique_ptr<ChartHashtable<ChartString>> strings_;
   std::map<int, std::unique_ptr<OmComposite>> composites_;
-  char decimalSeparator_ = '.';
   const KORVA_DataSource* dataSource_ = nullptr;
   std::unique_ptr<ChartErrorHandler> errorHandler_;
 };

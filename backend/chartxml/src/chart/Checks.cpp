@@ -37,19 +37,35 @@ bool Chart::validDataSource(Where where) const {
   return false;
 }
 
-// Reports its own place, not its caller's. A data source that fails to answer
-// must not stop the chart: the index counts as good then.
-bool Chart::validVariable(int index) const {
-  bool valid = false;
+// A data source that fails to answer must not stop the chart: it has the column then.
+bool Chart::hasColumn(int index) const {
+  if (index < 0 || !dataSource_) return false;
   try {
-    valid = index >= 0 && validDataSource() && index < dataSource_->ColumnCount();
+    return index < dataSource_->ColumnCount();
   } catch (const KorvaGoToCaller&) {
     throw;
   } catch (...) {
-    valid = index >= 0 && dataSource_;
+    return true;
   }
-  if (!valid) report(fmt::format("invalid variable index {}", index), Where::current());
-  return valid;
+}
+
+// Reports its own place, not its caller's. An index whose refusal fails to be reported
+// counts as good.
+bool Chart::validVariable(int index) const {
+  try {
+    if (index >= 0 && validDataSource() && hasColumn(index)) return true;
+    report(fmt::format("invalid variable index {}", index), Where::current());
+    return false;
+  } catch (const KorvaGoToCaller&) {
+    throw;
+  } catch (...) {
+    return true;
+  }
+}
+
+// The column of an index, or null where the check refuses it or passes what is none.
+const KORVA_Variable* Chart::columnAt(int index) const {
+  return validVariable(index) && hasColumn(index) ? &dataSource_->GetVariable(index) : nullptr;
 }
 
 bool Chart::validVariableList(int list) const {

@@ -35,23 +35,23 @@ int Chart::addDateFormat(DOMElement& meta, int type, int width) {
 
 void Chart::addDateParts(DOMElement& format, const XMLCh* name, std::span<const dates::Part> parts,
                          int width) {
-  DOMElement* holder = nullptr;
-  AddEmptyElement(format, name, holder);
+  DOMElement& holder = makeElement(name);
+  append(format, holder);
   for (const dates::Part& part : parts) {
     if (!part.name || !dates::exceeds(width, part.above)) continue;
-    DOMElement* made = nullptr;
-    AddEmptyElement(*holder, part.name, made);
+    DOMElement& made = makeElement(part.name);
+    append(holder, made);
     for (const dates::Flag& flag : part.flags) {
-      if (flag.name && dates::exceeds(width, flag.above)) setFlag(*made, flag.name, true);
+      if (flag.name && dates::exceeds(width, flag.above)) setFlag(made, flag.name, true);
     }
-    if (part.suffix)
-      setText(*made, ZephUni::_suffix, ChartXml::GetInstance()->NString(part.suffix));
+    if (part.suffix) setText(made, ZephUni::_suffix, ChartXml::GetInstance()->NString(part.suffix));
   }
 }
 
 int Chart::AddDateTimeFormat(DOMElement& parent, DOMElement*& out, int prefix, int suffix) {
   const Where here = Where::current();
-  AddEmptyElement(parent, _datetimeformat, out);
+  out = &makeElement(_datetimeformat);
+  append(parent, *out);
   int result = -1;
   if (prefix != -1 && validString(prefix, "prefix", here))
     result = AddAttribute(*out, ZephUni::_prefix, legalText(prefix));

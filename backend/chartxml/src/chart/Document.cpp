@@ -94,7 +94,9 @@ int Chart::getHandle(const DOMElement* element) const {
 
 int Chart::AddEmptyElement(DOMElement& parent, const XMLCh* name, DOMElement*& out) {
   out = &makeElement(name);
-  return append(parent, *out);
+  const int handle = append(parent, *out);
+  kindsBelow_->noteAny(*out);
+  return handle;
 }
 
 int Chart::AddDescription(int parent, int name) {
@@ -118,12 +120,18 @@ int Chart::CopyAttributes(int from, int to) {
 }
 
 xercesc::DOMNode* Chart::findNodeById(const xercesc::DOMNodeList& nodes, const XMLCh* id) {
-  // Along the siblings: asking the list for each of its items is quadratic.
-  for (xercesc::DOMNode* node = nodes.item(0); node; node = node->getNextSibling()) {
-    if (node->getNodeType() != xercesc::DOMNode::ELEMENT_NODE) continue;
-    if (hasValue(*static_cast<DOMElement*>(node), ZephUni::_id, id)) return node;
-  }
-  return nullptr;
+  xercesc::DOMNode* node = nodes.item(0);
+  const xercesc::DOMNode* parent = node ? node->getParentNode() : nullptr;
+  const bool areChildren = parent && parent->getChildNodes() == &nodes;
+  XMLSize_t i = 0;
+  const auto hasId = [id](const xercesc::DOMNode& at) {
+    return at.getNodeType() == xercesc::DOMNode::ELEMENT_NODE &&
+           hasValue(static_cast<const DOMElement&>(at), ZephUni::_id, id);
+  };
+  // Children are asked for their siblings: asking the list for each is quadratic.
+  while (node && !hasId(*node))
+    node = areChildren ? node->getNextSibling() : nodes.item(++i);
+  return node;
 }
 
 DOMElement* Chart::findStyle(const DOMElement& parent, const XMLCh* id) {
@@ -135,7 +143,10 @@ DOMElement* Chart::findStyle(const DOMElement& parent, const XMLCh* id) {
 }
 
 bool Chart::insertBeforeSiblings(DOMElement& parent, DOMElement& child, ConstChartStringSet names) {
+  const xercesc::DOMNode* former = child.getParentNode();
+  if (former && former->getNodeType() == xercesc::DOMNode::ELEMENT_NODE) childOrder_->remove(child);
   childOrder_->insert(parent, child, names);
+  kindsBelow_->noteAny(child);
   return true;
 }
 

@@ -138,7 +138,8 @@ void Chart::AddLocation(DOMElement& element, const XMLCh* unit, double left, dou
                                                    {ZephUni::_right, right},
                                                    {ZephUni::_bottom, bottom}};
   for (const auto& [side, number] : sides) {
-    const std::u16string text = host::utf16(asString(number)) + unit;
+    std::u16string text = host::utf16(asString(number));
+    if (unit) text += unit;
     location.setAttribute(side, legalText(text.c_str(), text.size()));
   }
 }

@@ -67,7 +67,8 @@ int Chart::swapVariables(DOMElement& first, DOMElement& second) {
 
 // Facets sort and restrict a variable by its domain, which its use as an aesthetic must
 // not do: references to the variable reach its copy from then on. Only a new copy is
-// exchanged, since a second exchange would undo the first.
+// exchanged, since a second exchange would undo the first. A frame or another node that
+// serves as the variable stays as it is: it has no domain to leave behind.
 int Chart::updateGroupedChart() {
   const auto any = [](const DOMElement&) { return true; };
   if (!visitDescendants(*document_->getDocumentElement(), _facetvariable, any)) return -1;

@@ -18,8 +18,12 @@ public:
 
   /// Notes a node that was placed.
   void note(const xercesc::DOMElement& node, int kind);
+  /// Notes a node that came with nodes below it, or whose role may be set yet.
+  void noteAny(xercesc::DOMElement& root);
   bool holds(const xercesc::DOMElement& root, int kind) const;
 
 private:
+  void noteAbove(const xercesc::DOMElement& node, std::uint16_t kinds);
+
   std::unordered_map<const xercesc::DOMNode*, std::uint16_t> kinds_;
 };

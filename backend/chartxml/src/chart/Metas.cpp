@@ -53,8 +53,8 @@ int Chart::AddMeta(int variable) {
 }
 
 int Chart::AddMetaFormat(DOMElement& variable, int column) {
-  if (!validVariable(column)) return -1;
-  return AddMetaFormatFromCode(variable, dataSource_->GetVariable(column).GetFormat());
+  const KORVA_Variable* described = columnAt(column);
+  return described ? AddMetaFormatFromCode(variable, described->GetFormat()) : -1;
 }
 
 int Chart::AddMetaFormatFromCode(DOMElement& variable, long packed) {
@@ -91,12 +91,13 @@ int Chart::SetVariableFormat(int variable, long packed) {
 
 // Callers do not read the answer: it is -1 whatever was added.
 int Chart::AddFormat(int meta, int column) {
-  if (!validHandle(meta, "meta") || !validVariable(column)) return -1;
-  if (!elementOfKind(meta, _meta)) return -1;
+  if (!validHandle(meta, "meta")) return -1;
+  const KORVA_Variable* described = columnAt(column);
+  if (!described || !elementOfKind(meta, _meta)) return -1;
   int type = 0;
   int width = 0;
   int decimals = 0;
-  dataSource_->GetVariable(column).GetFormatEx(type, width, decimals);
+  described->GetFormatEx(type, width, decimals);
   if (type == textType) AddStringFormat(meta);
   if (isNumber(type)) AddNumberFormat(meta, type, width, decimals);
   if (isDate(type)) AddDateFormat(meta, type, width);

@@ -52,21 +52,21 @@ int Chart::addRelabel(DOMElement& variable, const XMLCh* from, const XMLCh* to) 
 // shortest form, however many decimals its format shows.
 int Chart::AddRelabels(int variable, int column) {
   const Where here = Where::current();
-  if (!valid(variable, relabelled, here) || !validVariable(column)) return -1;
-  DOMElement* target = accepted(variable, relabelled, here);
+  if (!valid(variable, relabelled, here)) return -1;
+  const KORVA_Variable* described = columnAt(column);
+  DOMElement* target = described ? accepted(variable, relabelled, here) : nullptr;
   if (!target) return -1;
 
-  const KORVA_Variable& described = dataSource_->GetVariable(column);
-  const KORVA_ValueLabelMap& labels = described.GetValueLabels();
+  const KORVA_ValueLabelMap& labels = described->GetValueLabels();
   int position = 0;
   const OBS* value = nullptr;
   const char* label = nullptr;
   while (labels.GetNextPair(position, value, label)) {
     if (!label || !*label) continue;
-    if (described.GetType() == 0 && value->number == host::systemMissing) continue;
+    if (described->GetType() == 0 && value->number == host::systemMissing) continue;
     const ChartString to = ChartXml::GetInstance()->transcode(label);
-    ChartString from = ChartXml::GetInstance()->transcode(displayText(described, *value));
-    if (described.GetType() == 0 && withPoint(from).isNumber())
+    ChartString from = ChartXml::GetInstance()->transcode(displayText(*described, *value));
+    if (described->GetType() == 0 && withPoint(from).isNumber())
       from.assignUTF8(asString(value->number));
     else if (from.isNumber())
       from.assignUTF8(asString(from.convertToDouble()));

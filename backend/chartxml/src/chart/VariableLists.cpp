@@ -71,12 +71,21 @@ int Chart::AddMatrixVariable(int list) {
     const DOMElement& member = *getElement(handle);
     const std::u16string id = member.getAttribute(ZephUni::_id);
     const std::u16string labelId = id + ZephUni::_label;
-    if (!document_->getElementById(labelId.c_str())) addLabelVariable(member, labelId);
+    if (!isVariableOfGraph(labelId.c_str())) addLabelVariable(member, labelId);
     addTerm(expression, id);
     expression += u'/';
     expression += labelId;
   }
   return addDerivedVariable(expression, strings::yAxis);
+}
+
+// The register answers at once; only an id that stands elsewhere too makes a search
+// among the graph's children necessary.
+bool Chart::isVariableOfGraph(const XMLCh* id) const {
+  const DOMElement* graph = document_->getDocumentElement();
+  const DOMElement* known = document_->getElementById(id);
+  if (!known || known->getParentNode() == graph) return known;
+  return findNodeById(*graph->getChildNodes(), id);
 }
 
 void Chart::addTerm(std::u16string& expression, std::u16string_view term) {

@@ -7,12 +7,13 @@
 using xercesc::DOMElement;
 
 int Chart::SetVariable(int variable, int column, bool categorical) {
-  if (!validVariable(column) || !validHandle(variable, "variable")) return -1;
+  const KORVA_Variable* described = columnAt(column);
+  if (!described || !validHandle(variable, "variable")) return -1;
   DOMElement* target = getElement(variable);
   if (!target) return -1;
   AddVariableLabels(*target, column);
   setFlag(*target, ZephUni::_categorical, categorical);
-  if (!categorical) SetMetaFormat(*target, dataSource_->GetVariable(column).GetFormat());
+  if (!categorical) SetMetaFormat(*target, described->GetFormat());
   variableColumns_.emplace(variable, column);
   return variable;
 }
@@ -98,6 +99,6 @@ const XMLCh* Chart::labelOf(const DOMElement& variable) {
 }
 
 int Chart::GetVariableFormat(int column) const {
-  if (!validVariable(column)) return -1;
-  return static_cast<int>(static_cast<long>(dataSource_->GetVariable(column).GetFormat()));
+  const KORVA_Variable* described = columnAt(column);
+  return described ? static_cast<int>(static_cast<long>(described->GetFormat())) : -1;
 }

@@ -11,15 +11,15 @@
 using xercesc::DOMElement;
 
 int Chart::AddVariable(int source, int column, bool categorical) {
-  if (!validDataSource() || !validVariable(column)) return -1;
-  const DOMElement* sourceNode = getElement(source);
+  const KORVA_Variable* described = validDataSource() ? columnAt(column) : nullptr;
+  const DOMElement* sourceNode = described ? getElement(source) : nullptr;
   if (!sourceNode) return -1;
 
   const std::u16string name = nextVariableName();
   DOMElement& variable = makeColumnVariable(source, column, name);
   setCreator(metaOf(variable), _external_, _datasource);
   setFlag(variable, ZephUni::_categorical, categorical);
-  if (!categorical) formatMeta(variable, dataSource_->GetVariable(column).GetFormat());
+  if (!categorical) formatMeta(variable, described->GetFormat());
   return enterColumnVariable(variable, *sourceNode, column, name);
 }
 
@@ -30,8 +30,8 @@ int Chart::AddLabelingVariable(int source, int column, bool categorical) {
 }
 
 int Chart::AddWeightVariable(int source, int column) {
-  if (!validDataSource() || !validVariable(column)) return -1;
-  const DOMElement* sourceNode = getElement(source);
+  const bool isDescribed = validDataSource() && columnAt(column);
+  const DOMElement* sourceNode = isDescribed ? getElement(source) : nullptr;
   if (!sourceNode) return -1;
 
   DOMElement& variable = makeColumnVariable(source, column, _weightname);
@@ -100,10 +100,10 @@ void Chart::describeAsLabeling(DOMElement& variable) {
 }
 
 int Chart::AddVariableLabels(DOMElement& variable, int column) {
-  if (!validVariable(column)) return -1;
-  const KORVA_Variable& described = dataSource_->GetVariable(column);
-  addVariableLabel(variable, ZephUni::_label, described.GetLabel());
-  addVariableLabel(variable, ZephUni::_shortLabel, described.GetName());
+  const KORVA_Variable* described = columnAt(column);
+  if (!described) return -1;
+  addVariableLabel(variable, ZephUni::_label, described->GetLabel());
+  addVariableLabel(variable, ZephUni::_shortLabel, described->GetName());
   return 0;
 }
 

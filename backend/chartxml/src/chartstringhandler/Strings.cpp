@@ -1,7 +1,5 @@
 #include <chartxml/ChartStringHandler.h>
 
-#include <clocale>
-
 #include <fmt/format.h>
 
 #include "../Report.h"
@@ -19,7 +17,6 @@ const ChartString emptyText;
 ChartStringHandler::ChartStringHandler()
     : strings_(std::make_unique<ChartHashtable<ChartString>>(tableSize)),
       errorHandler_(std::make_unique<ChartErrorHandler>()) {
-  decimalSeparator_ = *std::localeconv()->decimal_point;
   init();
 }
 
