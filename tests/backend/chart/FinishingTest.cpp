@@ -9,7 +9,9 @@
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
+using testing::AllOf;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -159,12 +161,12 @@ TEST_F(Finishing, TellsWhatWentWrongAtEachStep) {
       {"printing",
        [&](Chart& on) { graph(on)->setAttribute(u"name", u"\u0001"); },
        {},
-       {testing::MatchesRegex("Fatal error while sending chart \\( can't print .+ \\)")},
+       {AllOf(StartsWith("Fatal error while sending chart ( can't print "), EndsWith(" )"))},
        {}},
       {"reading",
        addPrefix,
        {},
-       {testing::MatchesRegex("Fatal error while sending chart \\( can't read .+ \\)")},
+       {AllOf(StartsWith("Fatal error while sending chart ( can't read "), EndsWith(" )"))},
        {}},
       {"refusing",
        [](Chart&) {},
