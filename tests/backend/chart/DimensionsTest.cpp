@@ -103,6 +103,31 @@ TEST_F(Dimensions, StandBackForOtherChildrenInTheirRole) {
   EXPECT_EQ(c.GetDimension(outer, 3), -1);
 }
 
+TEST_F(Dimensions, AreFoundWhereCallersPutThem) {
+  followsGrammar = false; // nodes in any place
+  DOMElement* made = nullptr;
+  const int z = c.AddEmptyElement(*c.getElement(frame), u"dimension", made);
+  made->setAttribute(u"role", u"z");
+  EXPECT_EQ(c.GetDimension(frame, 3), z);
+  EXPECT_EQ(c.AddDimension(frame, 3, -1), z);
+  const int labeling = c.AddEmptyElement(*c.getElement(frame), u"facetLabeling", made);
+  EXPECT_EQ(c.AddFacetLabeling(frame), labeling);
+
+  const int inner = c.AddFrame(frame, -1);
+  const int y = c.AddDimension(inner, 2, -1);
+  const int outer = c.AddFrame(0, -1);
+  const XMLCh* const before[] = {u"frame"};
+  for (int i = 0; i < 20; ++i)
+    c.AddNest(frame);
+  EXPECT_TRUE(c.insertBeforeSiblings(*c.getElement(frame), *c.getElement(c.AddSource()), before));
+  EXPECT_TRUE(c.insertBeforeSiblings(*c.getElement(outer), *c.getElement(inner), before));
+  EXPECT_EQ(c.GetDimension(outer, 2), y);
+  EXPECT_EQ(c.GetDimension(frame, 2), -1);
+  EXPECT_TRUE(c.insertBeforeSiblings(*c.getElement(frame), *c.getElement(y), before));
+  EXPECT_EQ(c.getElement(frame)->getLastElementChild(), c.getElement(y))
+      << "the frame that it would go before has left";
+}
+
 TEST_F(Dimensions, WriteWhatIsSet) {
   const int domain = c.AddDomain(true);
   const int x = c.AddDimension(frame, 1, domain);

@@ -93,14 +93,13 @@ TEST_F(ElementRefusals, OfVariablesWithoutData) {
 // No call loses a list; the operations say so all the same.
 TEST_F(ElementRefusals, OfListsThatAreLost) {
   loseVariableLists(handle);
-  const char* lost = "{} failed: could not find key 0";
   expectRefused(c, handle, next,
                 {{[&] { return c.AddToVariableList(list, v); },
-                  {fmt::format(fmt::runtime(lost), "AddToVariableList")}},
+                  {"AddToVariableList failed: could not find key 0"}},
                  {[&] { return c.AddOverlayVariable(list, 1); },
-                  {fmt::format(fmt::runtime(lost), "AddOverlayExpressionVariable")}},
+                  {"AddOverlayExpressionVariable failed: could not find key 0"}},
                  {[&] { return c.AddMatrixVariable(list); },
-                  {fmt::format(fmt::runtime(lost), "AddMatrixVariable")}}});
+                  {"AddMatrixVariable failed: could not find key 0"}}});
 }
 
 TEST_F(ElementRefusals, OfElements) {
@@ -161,43 +160,52 @@ TEST_F(ElementRefusals, OfElements) {
 TEST_F(ElementRefusals, OfAesthetics) {
   using Add = int (Chart::*)(int, int);
   struct Aesthetic {
-    const char* name;
     Add add;
     const char* parents;
-    const char* dash;
-    bool needsVariable;
+    const char* refusal;
+    const char* needsVariable; ///< null: it takes any node as the variable
   };
   const Aesthetic aesthetics[] = {
-      {"x", &Chart::AddX, "element or position", "- ", true},
-      {"y", &Chart::AddY, "element or position", "- ", true},
-      {"z", &Chart::AddZ, "element or position", "- ", true},
-      {"r", &Chart::AddR, "element or position", "- ", true},
-      {"theta", &Chart::AddTheta, "element or position", "- ", true},
-      {"phi", &Chart::AddPhi, "element or position", "- ", true},
-      {"size", &Chart::AddSize, "element or labeling", "- ", true},
-      {"color", &Chart::AddColor, "element", "- ", false},
-      {"split", &Chart::AddSplit, "element", "- ", false},
-      {"labeling", &Chart::AddLabeling, "element", "- ", false},
-      {"styleBy", &Chart::AddStyleBy, "element", "- ", false},
-      {"styleBy", &Chart::AddStyleByColor, "element", "", false},
-      {"styleBy", &Chart::AddStyleByPattern, "element", "", false},
-      {"styleBy", &Chart::AddStyleByColorAndPattern, "element", "", false},
+      {&Chart::AddX, "element or position", "can't add x to anything but element or position - ",
+       "x requires a variable id reference "},
+      {&Chart::AddY, "element or position", "can't add y to anything but element or position - ",
+       "y requires a variable id reference "},
+      {&Chart::AddZ, "element or position", "can't add z to anything but element or position - ",
+       "z requires a variable id reference "},
+      {&Chart::AddR, "element or position", "can't add r to anything but element or position - ",
+       "r requires a variable id reference "},
+      {&Chart::AddTheta, "element or position",
+       "can't add theta to anything but element or position - ",
+       "theta requires a variable id reference "},
+      {&Chart::AddPhi, "element or position",
+       "can't add phi to anything but element or position - ",
+       "phi requires a variable id reference "},
+      {&Chart::AddSize, "element or labeling",
+       "can't add size to anything but element or labeling - ",
+       "size requires a variable id reference "},
+      {&Chart::AddColor, "element", "can't add color to anything but element - ", nullptr},
+      {&Chart::AddSplit, "element", "can't add split to anything but element - ", nullptr},
+      {&Chart::AddLabeling, "element", "can't add labeling to anything but element - ", nullptr},
+      {&Chart::AddStyleBy, "element", "can't add styleBy to anything but element - ", nullptr},
+      {&Chart::AddStyleByColor, "element", "can't add styleBy to anything but element ", nullptr},
+      {&Chart::AddStyleByPattern, "element", "can't add styleBy to anything but element ", nullptr},
+      {&Chart::AddStyleByColorAndPattern, "element", "can't add styleBy to anything but element ",
+       nullptr},
   };
   std::vector<Case> cases;
-  for (const auto& [name, add, parents, dash, needsVariable] : aesthetics) {
+  for (const auto& [add, parents, refusalText, needsVariable] : aesthetics) {
     const auto call = [this, bind = add](int parent, int variable) {
       return [=, this] { return (c.*bind)(parent, variable); };
     };
-    const std::string refusal =
-        fmt::format("can't add {} to anything but {} {}", name, parents, dash);
-    const std::string requires_ = fmt::format("{} requires a variable id reference ", name);
+    const std::string refusal = refusalText;
     cases.push_back({call(far, v), {range(parents)}});
     cases.push_back({call(element, far), {range("variable")}});
     cases.push_back({call(frame, v), {refusal + "frame"}});
     cases.push_back({call(next, v), {refusal}});
-    if (needsVariable) cases.push_back({call(element, frame), {requires_ + "frame"}});
     cases.push_back({call(element, next), {}});
-    if (needsVariable) cases.back().messages = {requires_};
+    if (!needsVariable) continue;
+    cases.back().messages = {needsVariable};
+    cases.push_back({call(element, frame), {std::string(needsVariable) + "frame"}});
   }
   cases.push_back({[&] { return c.AddPosition(far); }, {range("element")}});
   cases.push_back({[&] { return c.AddPosition(frame); },

@@ -88,7 +88,17 @@ TEST_F(Elements, AreBinnedInOneCall) {
   EXPECT_THAT(fragment(handle, element + 9),
               HasSubstr(R"(</statistic><x variable="variable1"/></position></element>)"))
       << "what was made before the step that failed stays";
-  EXPECT_THAT(takeReports(), ElementsAre("y requires a variable id reference frame"));
+  const int last = c.AddFrame(0, -1);
+  EXPECT_EQ(c.AddBinnedElement(frame, 23, -1, frame, v), -1);
+  EXPECT_THAT(
+      fragment(handle, last + 1),
+      HasSubstr(R"(<parameter name="grid" value="hex"/></statistic></position></element>)"));
+  EXPECT_EQ(c.AddBinnedElement(v, 23, -1, v, v), -1);
+  EXPECT_EQ(c.AddFrame(0, -1), last + 6) << "on another parent nothing is made";
+  EXPECT_THAT(takeReports(),
+              ElementsAre("y requires a variable id reference frame",
+                          "x requires a variable id reference frame",
+                          "can't add element to anything but frame or elementGroup - variable"));
 }
 
 TEST_F(Elements, TellWhichSummaryOfAVariableIsShown) {
@@ -157,6 +167,10 @@ TEST_F(Elements, GetOneBoxInFrontOfTheirParts) {
             R"(<location bottom="1e+300%" left="0%" right="100%" top="0.5%"/>)"
             R"(<element id="element3" showCollidingLabels="true" style="default_style" )"
             R"(type="line"/></frame>)");
+  const int bare = c.AddFrame(0, -1);
+  c.AddLocation(*c.getElement(bare), nullptr, 1, 2, 3, 4);
+  EXPECT_EQ(fragment(handle, bare), R"(<frame id="frame4" style="default_style">)"
+                                    R"(<location bottom="4" left="1" right="3" top="2"/></frame>)");
 }
 
 // What no procedure calls, but holders of the registry do.

@@ -33,8 +33,16 @@ TEST_F(Guides, ShowAnAxisWithTicksAndGridLines) {
             R"(<transform method="percent"/></axis></dimension>)");
   EXPECT_THAT(takeReports(), ElementsAre("id has already been used - axis_amarkStyle"))
       << "the first ticks of an axis take its mark style";
+  const int second = c.AddAxis(frame, text("b"), false);
+  c.AddMajorTicks(second, -1, false, -1, -1, false, -1);
+  c.AddMinorTicks(second, -1, false, -1, -1);
+  EXPECT_EQ(fragment(handle, second),
+            R"(<axis baselineStyle="axis_bbaselineStyle" id="axis_b" style="axis_bdefault_style">)"
+            R"(<majorTicks markStyle="axis_bmarkStyle" stagger="false" )"
+            R"(tickLabelStyle="axis_btickLabelStyle"/><minorTicks/></axis>)");
+  EXPECT_THAT(takeReports(), ElementsAre("id has already been used - axis_bmarkStyle"));
   EXPECT_EQ(fragment(handle, c.AddMinorTicks(c.AddAxis(frame, -1, false), -1, false, -1, -1)),
-            R"(<minorTicks markStyle="axis3markStyle"/>)");
+            R"(<minorTicks markStyle="axis4markStyle"/>)");
   c.AddStyles();
   EXPECT_THAT(fragment(handle, 0), HasSubstr(R"(<style id="axis_amajorTicksgridLineStyle"/>)"
                                              R"(<style id="axis_amarkStyle"/>)"

@@ -191,6 +191,9 @@ TEST_F(Scatter, StoresNumbersAsNumbersAndTextsAsTextsInTheCurrentRow) {
 
 TEST_F(Scatter, TranslatesDisplayFormatsOfNumbers) {
   currencyFormat::SetCCX(0, customCurrency("EUR ", " net", "-", ""));
+  currencyFormat::SetCCX(1, customCurrency("", "", "", "-"));
+  currencyFormat::SetCCX(2, customCurrency("\x01", "b", "", ""));
+  currencyFormat::SetCCX(3, customCurrency("a", "b\x02", "- ", ""));
   currencyFormat::SetCCX(4, customCurrency("", "", "(", ")"));
   CmnSys::shared().minimumIntegerDigits = 2;
   const std::pair<int, const char*> cases[] = {
@@ -205,6 +208,11 @@ TEST_F(Scatter, TranslatesDisplayFormatsOfNumbers) {
       {25, "<numberFormat/>"},
       {33, R"(<numberFormat minimumFractionDigits="3" negativesOutside="true" prefix="EUR " )"
            R"(suffix=" net"/>)"},
+      {34, R"(<numberFormat minimumFractionDigits="3" negativesInParentheses="true" prefix="" )"
+           R"(suffix=""/>)"},
+      {35, R"(<numberFormat minimumFractionDigits="3" suffix="b"/>)"},
+      {36, R"(<numberFormat minimumFractionDigits="3" negativesInParentheses="true" )"
+           R"(prefix="a"/>)"},
       {37, R"(<numberFormat minimumFractionDigits="3" negativesInParentheses="true" prefix="" )"
            R"(suffix=""/>)"}};
   Chart& c = chart(registry().CreateChart());
@@ -214,8 +222,9 @@ TEST_F(Scatter, TranslatesDisplayFormatsOfNumbers) {
     EXPECT_EQ(fragment(0, format), expected) << type;
   }
   CmnSys::shared().minimumIntegerDigits = 1;
-  currencyFormat::SetCCX(0, {});
-  currencyFormat::SetCCX(4, {});
+  for (int number = 0; number <= 4; ++number)
+    currencyFormat::SetCCX(number, {});
+  EXPECT_THAT(takeReports(), IsEmpty());
 }
 
 TEST_F(Scatter, AdjustsNumberFormatsAndOnlyThose) {
@@ -230,10 +239,19 @@ TEST_F(Scatter, AdjustsNumberFormatsAndOnlyThose) {
   EXPECT_EQ(c.SetNumberFormatSuffix(frame, text("x")), -1) << "another kind, silently";
   EXPECT_EQ(c.SetNumberScientific(frame, true), -1);
   EXPECT_THAT(takeReports(), IsEmpty());
-  EXPECT_EQ(c.SetNumberFormatSuffix(9, 17), -1);
-  EXPECT_EQ(c.SetNumberFormatSuffix(format, -1), -1);
+  const std::pair<int (Chart::*)(int, int), const char*> setters[] = {
+      {&Chart::SetNumberFormatPrefix, "prefix handle out of range"},
+      {&Chart::SetNumberFormatSuffix, "suffix handle out of range"},
+      {&Chart::SetNumberFormatMaxFractionDigits, "maximumFractionDigits handle out of range"}};
+  for (const auto& [set, message] : setters) {
+    EXPECT_EQ((c.*set)(9, 17), -1);
+    EXPECT_EQ((c.*set)(format, -1), -1);
+    EXPECT_THAT(takeReports(), ElementsAre("NumberFormat handle (9) out of range (0-3)", message));
+  }
+  EXPECT_EQ(c.SetNumberScientific(9, true), -1);
+  EXPECT_EQ(c.AddNumberFormat(9), -1);
   EXPECT_THAT(takeReports(), ElementsAre("NumberFormat handle (9) out of range (0-3)",
-                                         "suffix handle out of range"));
+                                         "parent handle (9) out of range (0-3)"));
 }
 
 TEST_F(Scatter, MovesStatisticsFromDescriptionsToExtensions) {

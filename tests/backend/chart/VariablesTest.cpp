@@ -5,6 +5,7 @@
 #include <xercesc/dom/DOM.hpp>
 
 #include <host/Settings.h>
+#include <host/Text.h>
 
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -60,6 +61,11 @@ TEST_F(Variables, HaveOneMetaWhoeverAsksForItFirst) {
   EXPECT_EQ(c.SetVariableExternal(copy), meta) << "it has no handle until then";
   EXPECT_EQ(c.AddMeta(copy), meta);
   EXPECT_EQ(fragment(handle, meta), R"(<meta creator="external_aggregate" description="log"/>)");
+  const int labeling = c.AddLabelingVariable(source, 1, true);
+  EXPECT_EQ(c.CreateLogVar(labeling), -1);
+  EXPECT_EQ(fragment(handle, c.AddMeta(labeling)),
+            R"(<meta creator="external_datasource" description="labeling"/>)")
+      << "a description that is there stays";
 }
 
 TEST_F(Variables, ArePointedAtOtherColumnsAndRelabelled) {
@@ -175,6 +181,22 @@ TEST_F(Variables, StandBesideConstantsThatLabelThemInAMatrix) {
             R"-(<meta creator="internal_variable"/></variable>)-"
             "\n");
   EXPECT_THAT(takeReports(), IsEmpty());
+}
+
+// An id that a node elsewhere took, or that was never registered, labels no member.
+TEST_F(Variables, ShareConstantsOfTheGraphOnly) {
+  followsGrammar = false; // two nodes of one id
+  const int mass = c.AddVariable(source, 0, true);
+  const int list = c.BeginVariableList();
+  c.AddToVariableList(list, mass);
+  c.AddIDAttribute(*c.getElement(c.AddFrame(c.AddFrame(0, -1), -1)), u"variable1label", false);
+  const int first = c.AddMatrixVariable(list);
+  EXPECT_EQ(host::utf8(c.getElement(first - 3)->getAttribute(u"id")), "variable1label");
+  EXPECT_EQ(c.AddMatrixVariable(list), first + 2) << "its meta and itself";
+  const auto& all = *c.getElement(0)->getElementsByTagName(u"*");
+  EXPECT_EQ(Chart::findNodeById(all, u"source0"), c.getElement(source));
+  EXPECT_EQ(Chart::findNodeById(all, u"variable1label"), c.getElement(first - 3));
+  EXPECT_EQ(Chart::findNodeById(*c.getElement(0)->getChildNodes(), u"frame3"), nullptr);
 }
 
 TEST_F(Variables, ExchangeIdsAndCreators) {

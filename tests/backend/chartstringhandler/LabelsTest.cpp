@@ -48,7 +48,11 @@ TEST_F(Labels, ShowValueLabelsElseValues) {
   EXPECT_EQ(read(r.ValueLabel(1, blank, -1)), "2");
   EXPECT_EQ(read(r.ValueLabel(1, female, 3)), "fem");
   EXPECT_EQ(read(r.ValueLabel(1, female, 0)), "female  ");
-  EXPECT_EQ(read(r.ObjectLabel(1, other)), "3");
+  const int before = text("");
+  EXPECT_EQ(r.ObjectLabel(1, other), before + 2) << "the value, and the pattern around it";
+  EXPECT_EQ(read(before + 2), "3");
+  EXPECT_EQ(read(r.ObjectLabel(1, female)), "female  ");
+  EXPECT_EQ(read(r.ObjectLabel(1, missing)), "Missing");
   EXPECT_EQ(read(r.MeanValue(1, other)), "3.00");
   EXPECT_EQ(read(r.MeanValue(3, OBS{.number = 0.5})), "0.5000000000000000")
       << "16 decimals at most";

@@ -3,6 +3,7 @@
 #include <limits>
 
 #include <host/Missing.h>
+#include <host/StringTables.h>
 #include <host/Text.h>
 
 using testing::ElementsAre;
@@ -112,7 +113,9 @@ TEST_F(Strings, TurnsNumbersIntoTextsForMachines) {
   for (const auto& [number, expected] : cases) {
     EXPECT_EQ(registry().getUTF8String(registry().Double(number)), expected);
   }
+  EXPECT_EQ(registry().getUTF8String(registry().LRValue(2.345, -1)), "2.345");
   const int next = text("");
+  EXPECT_EQ(registry().LRValue(host::systemMissing, -1), -1);
   EXPECT_EQ(registry().Double(host::systemMissing), -1);
   EXPECT_EQ(registry().LRValue(host::systemMissing, 5 << 16), -1);
   EXPECT_EQ(text(""), next + 1) << "a missing value takes no handle";
@@ -135,6 +138,36 @@ TEST_F(Strings, AssemblesACompositeOnceAndKeepsItsText) {
   EXPECT_EQ(handler.EndCompositeString(composite), -1);
   EXPECT_THAT(takeReports(), ElementsAre("add parameter failed", "begin repeat list failed",
                                          "end repeat list failed", "end composite string failed"));
+}
+
+TEST_F(Strings, RefusesStepsOfACompositeOutOfOrderAndGoesOn) {
+  ChartStringHandler& handler = fresh();
+  const int composite = handler.CompositeString("[%1:, ^1:]1");
+  EXPECT_EQ(handler.EndRepeat(composite), -1) << "none was begun";
+  EXPECT_EQ(handler.BeginRepeat(composite), 0);
+  EXPECT_EQ(handler.BeginRepeat(composite), -1) << "one is open";
+  EXPECT_EQ(handler.EndCompositeString(composite), -1);
+  EXPECT_EQ(handler.AddParameter(composite, 17), 0);
+  EXPECT_EQ(handler.AddParameter(composite, 13), 0);
+  EXPECT_EQ(handler.EndRepeat(composite), 0);
+  EXPECT_EQ(handler.EndCompositeString(composite), composite);
+  EXPECT_EQ(handler.getXMLString(composite).toUTF8(), "title, footnote");
+  EXPECT_THAT(takeReports(), ElementsAre("end repeat list failed", "begin repeat list failed",
+                                         "end composite string failed"));
+}
+
+TEST_F(Strings, AssemblesEnglishBesideTheOutputLanguage) {
+  ASSERT_TRUE(host::setOutputLanguage("ja"));
+  ChartXml::Terminate();
+  const ChartString pattern = registry().translate("E61215^1");
+  ChartStringHandler& handler = fresh();
+  const int composite = handler.CompositeString(pattern.toUTF8(), pattern.toUTF8ForEng());
+  handler.AddParameter(composite, handler.AddChartString(registry().translate("X Axis")));
+  handler.EndCompositeString(composite);
+  const ChartString& made = handler.getXMLString(composite);
+  EXPECT_EQ(made.toUTF8(), "X軸による重み付け");
+  EXPECT_EQ(made.toUTF8ForEng(), "Weighted by X Axis");
+  host::setOutputLanguage("");
 }
 
 TEST_F(Strings, ReadsAnOpenCompositeThatIsItsOwnParameterWithoutLooping) {

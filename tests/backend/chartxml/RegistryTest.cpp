@@ -35,18 +35,19 @@ TEST_F(Registry, TellsAMissingChartFromAHandleOutOfRange) {
   registry().CreateChart();
   registry().CreateChart();
   registry().KillChart(0);
+  loseChart(1);
   const int refused[] = {registry().AddSource(0), registry().AddFrame(2, 0, -1),
-                         registry().AddX(3, 0, 0), registry().EndChart(-1),
-                         registry().getHandle(7, nullptr)};
+                         registry().AddSource(1), registry().AddX(3, 0, 0),
+                         registry().EndChart(-1), registry().getHandle(7, nullptr)};
   EXPECT_THAT(refused, testing::Each(-1));
   EXPECT_EQ(registry().getChart(2), nullptr);
   EXPECT_EQ(registry().GetXmlBuffer(2), "");
   EXPECT_THAT(
       takeReports(),
       ElementsAre("chart with this handle not found 0", "chart with this handle not found 2",
-                  "chart handle (3) out of range (0-2)", "chart handle (-1) out of range (0-2)",
-                  "chart handle (7) out of range (0-2)", "chart with this handle not found 2",
-                  "chart with this handle not found 2"));
+                  "chart does not exist 1", "chart handle (3) out of range (0-2)",
+                  "chart handle (-1) out of range (0-2)", "chart handle (7) out of range (0-2)",
+                  "chart with this handle not found 2", "chart with this handle not found 2"));
 }
 
 TEST_F(Registry, AnswersSomeCallsForABadChartInTheirOwnWay) {

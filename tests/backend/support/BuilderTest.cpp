@@ -18,9 +18,12 @@ template <class Member, Member Pointer> struct Reach {
 using Flag = bool Chart::*;
 using Lists = std::map<int, std::vector<int>> Chart::*;
 Flag reach(Flag*);
+using Charts = ChartHashtable<Chart> ChartXml::*;
 Lists reach(Lists*);
+Charts reach(Charts*);
 template struct Reach<Flag, &Chart::dataRefused_>;
 template struct Reach<Lists, &Chart::variableLists_>;
+template struct Reach<Charts, &ChartXml::charts_>;
 
 struct CollectingSink : host::ChartSink {
   CollectingSink(std::vector<Sent>& charts, bool& fails, SendAction& does)
@@ -123,6 +126,11 @@ std::string BuilderTest::fragment(int chartHandle, int node) {
 
 void BuilderTest::refuseData(int chartHandle) {
   chart(chartHandle).*reach(static_cast<Flag*>(nullptr)) = true;
+}
+
+void BuilderTest::loseChart(int chartHandle) {
+  registry().KillChart(chartHandle);
+  putUnderHandle<Chart>(registry().*reach(static_cast<Charts*>(nullptr)), chartHandle, nullptr);
 }
 
 void BuilderTest::loseVariableLists(int chartHandle) {

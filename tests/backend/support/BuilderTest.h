@@ -99,6 +99,7 @@ protected:
   /// States that the library guards against, though none of its calls leads there.
   static void refuseData(int chartHandle);
   static void loseVariableLists(int chartHandle);
+  static void loseChart(int chartHandle);
 
   /// The messages reported since the last call.
   std::vector<std::string> takeReports() { return std::exchange(reports_, {}); }
