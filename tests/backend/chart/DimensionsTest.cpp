@@ -113,12 +113,12 @@ TEST_F(Dimensions, AreFoundWhereCallersPutThem) {
   const int labeling = c.AddEmptyElement(*c.getElement(frame), u"facetLabeling", made);
   EXPECT_EQ(c.AddFacetLabeling(frame), labeling);
 
+  for (int i = 0; i < 20; ++i)
+    c.AddNest(frame);
   const int inner = c.AddFrame(frame, -1);
   const int y = c.AddDimension(inner, 2, -1);
   const int outer = c.AddFrame(0, -1);
   const XMLCh* const before[] = {u"frame"};
-  for (int i = 0; i < 20; ++i)
-    c.AddNest(frame);
   EXPECT_TRUE(c.insertBeforeSiblings(*c.getElement(frame), *c.getElement(c.AddSource()), before));
   EXPECT_TRUE(c.insertBeforeSiblings(*c.getElement(outer), *c.getElement(inner), before));
   EXPECT_EQ(c.GetDimension(outer, 2), y);

@@ -10,6 +10,7 @@
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
+using xercesc::DOMElement;
 
 class Variables : public BuilderTest {
 protected:
@@ -183,20 +184,25 @@ TEST_F(Variables, StandBesideConstantsThatLabelThemInAMatrix) {
   EXPECT_THAT(takeReports(), IsEmpty());
 }
 
-// An id that a node elsewhere took, or that was never registered, labels no member.
+// A node elsewhere that took the id labels no member.
 TEST_F(Variables, ShareConstantsOfTheGraphOnly) {
   followsGrammar = false; // two nodes of one id
   const int mass = c.AddVariable(source, 0, true);
   const int list = c.BeginVariableList();
   c.AddToVariableList(list, mass);
-  c.AddIDAttribute(*c.getElement(c.AddFrame(c.AddFrame(0, -1), -1)), u"variable1label", false);
+  DOMElement& inner = *c.getElement(c.AddFrame(c.AddFrame(0, -1), -1));
+  c.AddIDAttribute(inner, u"variable1label", false);
   const int first = c.AddMatrixVariable(list);
-  EXPECT_EQ(host::utf8(c.getElement(first - 3)->getAttribute(u"id")), "variable1label");
+  const DOMElement* constant = c.getElement(first - 3);
+  EXPECT_EQ(host::utf8(constant->getAttribute(u"value")), "constant(labelvariable1)");
   EXPECT_EQ(c.AddMatrixVariable(list), first + 2) << "its meta and itself";
-  const auto& all = *c.getElement(0)->getElementsByTagName(u"*");
-  EXPECT_EQ(Chart::findNodeById(all, u"source0"), c.getElement(source));
-  EXPECT_EQ(Chart::findNodeById(all, u"variable1label"), c.getElement(first - 3));
-  EXPECT_EQ(Chart::findNodeById(*c.getElement(0)->getChildNodes(), u"frame3"), nullptr);
+  const auto in = [](const xercesc::DOMNodeList* nodes) {
+    return Chart::findNodeById(*nodes, u"variable1label");
+  };
+  const DOMElement& graph = *c.getElement(0);
+  EXPECT_EQ(in(graph.getChildNodes()), constant);
+  EXPECT_EQ(in(graph.getElementsByTagName(u"frame")), &inner);
+  EXPECT_EQ(in(graph.getElementsByTagName(u"source")), nullptr);
 }
 
 TEST_F(Variables, ExchangeIdsAndCreators) {
