@@ -22,10 +22,9 @@ set(host_headers ChartBase ChartError ChartSink ChartString ChartTranscoder Code
 list(TRANSFORM host_headers REPLACE "(.+)" "host/include/host/\\1.h")
 install(FILES ${host_headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/host)
 get_target_property(module_folder chartxml_fortran Fortran_MODULE_DIRECTORY)
-get_target_property(module_sources chartxml_fortran SOURCES)
-list(TRANSFORM module_sources PREPEND fortran/)
 install(DIRECTORY ${module_folder}/ DESTINATION ${modules})
-install(FILES ${module_sources} DESTINATION ${CMAKE_INSTALL_DATADIR}/chartxml/fortran)
+install(DIRECTORY fortran DESTINATION ${CMAKE_INSTALL_DATADIR}/chartxml
+  FILES_MATCHING PATTERN *.f90)
 
 # String tables, schema and page runtime, laid out as in the build tree. Node.js is the
 # system's: its link in the build tree leads into the checkout.
@@ -41,7 +40,8 @@ endforeach()
 install(FILES ${made}/chartxml.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${made}/chartxml.7 DESTINATION ${CMAKE_INSTALL_MANDIR}/man7)
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs procedures DESTINATION ${CMAKE_INSTALL_DOCDIR}
+  FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.f90)
 
 # For CMake and pkg-config
 
@@ -52,6 +52,7 @@ write_basic_package_version_file(${made}/chartxml-config-version.cmake
 install(FILES ${made}/chartxml-config.cmake ${made}/chartxml-config-version.cmake
   DESTINATION ${package})
 file(RELATIVE_PATH up /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+string(REGEX REPLACE "/$" "" up ${up})
 foreach(library chartxml chartxml-fortran)
   configure_file(cmake/${library}.pc.in ${made}/${library}.pc @ONLY)
   install(FILES ${made}/${library}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
@@ -68,5 +69,6 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libxerces-c-dev, nodejs, fonts-liberation, fonts-dejavu-core")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS 
+  "libxerces-c-dev, nodejs, fontconfig-config, fonts-liberation, fonts-dejavu-core, fonts-noto-cjk")
 include(CPack)

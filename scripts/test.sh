@@ -1,5 +1,5 @@
 # ./dev test: the tests, closing on ctest's summary.
-debian_packages build pages test
+debian_packages build pages test package
 npm_packages
 
 if [[ ${1-} == --sanitize ]]; then
