@@ -7,11 +7,11 @@ import { execFileSync } from 'node:child_process';
 import { readFileSync } from 'node:fs';
 
 const listPath = new URL('../backend/chartxml/entrypoints.json', import.meta.url);
-const { groups } = JSON.parse(readFileSync(listPath, 'utf8'));
-const listed = groups.flatMap(group => group.entries).map(entry => entry.name);
+const { groups, extensions } = JSON.parse(readFileSync(listPath, 'utf8'));
+const listed = [...groups, ...extensions].flatMap(group => group.entries).map(entry => entry.name);
 
 const symbols = execFileSync('nm', ['-D', '--defined-only', process.argv[2]], { encoding: 'utf8' });
-const exported = [...symbols.matchAll(/ T (cx_\w+)$/gim)].map(([, name]) => name);
+const exported = [...symbols.matchAll(/ T ((?:cx|chartxml)_\w+)$/gim)].map(([, name]) => name);
 
 const without = (names, others) => names.filter(name => !others.includes(name));
 const differences = [

@@ -1,27 +1,28 @@
-! How arguments and results cross between Fortran and the library.
+! How arguments and results cross between Fortran and the library, as the library has it.
 !
 ! usage: calling_convention <empty folder>
 program calling_convention
-  use, intrinsic :: iso_c_binding, only: c_null_ptr, dp => c_double
-  use charts
+  use, intrinsic :: iso_c_binding, only: c_null_ptr, cx => c_int64_t, dp => c_double
   use chartxml
   use checks
   use korva, only: set_output
   implicit none
 
   integer(cx), parameter :: beyond_32_bits = 2_cx**32
-  integer(cx) :: chart, source, graph, data
+  integer(cx), parameter :: absent = -1, ignored = 0, false = 0, true = 1
+  integer(cx) :: chart, source, graph, data, made
   character(256) :: folder
 
   call get_command_argument(1, folder)
   call expect('the output folder is set', set_output(trim(folder)))
 
-  chart = create_chart(c_null_ptr, 'convention', source, graph, data)
+  made = cx_createchartex(c_null_ptr, c_null_ptr, 'convention', 10_cx, chart, source, graph, data)
   call expect('outputs are handles of 64 bits', all([source, graph, data] == [1, 2, 3]))
   call test_integers
   call test_logicals
   call test_reals
   call test_texts
+  call test_arrays
   call expect('the chart is sent', cx_endchart(chart), 0_cx)
   call test_what_was_sent
   call expect('the library ends', cx_terminate(), 0_cx)
@@ -68,11 +69,21 @@ contains
   subroutine test_texts
     character(*), parameter :: padded = '[ab  ]not this'
 
-    call make('a label', cx_addlabel(chart, data, absent, cx_string(ignored, padded, 6_cx)))
+    made = cx_addlabel(chart, data, absent, cx_string(ignored, padded, 6_cx))
     call expect('a text of no length is empty', cx_setcharttemplate(chart, 'bars', 0_cx), -1_cx)
     call expect('and so is one of negative length', &
       cx_setcharttemplate(chart, 'bars', -4_cx), -1_cx)
-    call make('a label', cx_addlabel(chart, graph, absent, text('Größe <1')))
+    made = cx_addlabel(chart, graph, absent, cx_string(ignored, 'Größe <1', 10_cx))
+  end subroutine
+
+  subroutine test_arrays
+    integer(cx) :: variables(4), i, element
+
+    do i = 1, size(variables)
+      variables(i) = cx_addaggregate(chart, source, absent, false, absent, absent, absent)
+    end do
+    call expect('a strided array crosses', cx_addsplomelement(chart, data, &
+      variables(4:1:-2) + beyond_32_bits, 2_cx, element), element)
   end subroutine
 
   subroutine test_what_was_sent
@@ -81,29 +92,13 @@ contains
     document = contents(trim(folder)//'/0001-convention/chart.xml')
     call expect('a text has the given length, trailing blanks included', &
       index(document, '>[ab  ]</label>') > 0)
+    call expect('the variables of an array come in order', &
+      index(document, 'expression="variable9/variable9label + variable7/variable7label" id="variable10"') > 0)
     call expect('bytes beyond ASCII arrive', index(document, '>Größe &lt;1</label>') > 0)
     call expect('a logical other than 0 clips', &
       index(document, '<frame clip="true" id="frame_data_1"') > 0)
     call expect('a logical of 0 does not', &
       index(document, '<frame clip="false" id="frame_graph_1"') > 0)
   end subroutine
-
-  function contents(path) result(bytes)
-    character(*), intent(in) :: path
-    character(:), allocatable :: bytes
-    character(512) :: padded  ! gfortran's library looks at one byte past a name
-    integer :: unit, size, status
-
-    bytes = ''
-    padded = path
-    open (newunit=unit, file=padded, access='stream', form='unformatted', status='old', &
-      action='read', iostat=status)
-    if (status /= 0) return
-    inquire (unit=unit, size=size)
-    deallocate (bytes)
-    allocate (character(size) :: bytes)
-    read (unit) bytes
-    close (unit)
-  end function
 
 end program

@@ -5,10 +5,10 @@ module checks
   use korva, only: take_error
   implicit none
   private
-  public :: expect, expect_error, finish
+  public :: contents, expect, expect_error, finish
 
   interface expect
-    module procedure expect_true, expect_integer, expect_text
+    module procedure expect_true, expect_integer, expect_default, expect_text
   end interface
 
   integer :: failures = 0
@@ -32,6 +32,13 @@ contains
     if (actual /= expected) write (error_unit, '(2(a, i0))') '  got ', actual, ' for ', expected
   end subroutine
 
+  subroutine expect_default(behaviour, actual, expected)
+    character(*), intent(in) :: behaviour
+    integer, intent(in) :: actual, expected
+
+    call expect_integer(behaviour, int(actual, c_int64_t), int(expected, c_int64_t))
+  end subroutine
+
   subroutine expect_text(behaviour, actual, expected)
     character(*), intent(in) :: behaviour, actual, expected
     logical :: same
@@ -49,6 +56,25 @@ contains
     if (.not. take_error(message)) message = ''
     call expect_text(behaviour, message, expected)
   end subroutine
+
+  !> The bytes of a file; none when it can't be read.
+  function contents(path) result(bytes)
+    character(*), intent(in) :: path
+    character(:), allocatable :: bytes
+    character(512) :: padded  ! gfortran's library looks at one byte past a name
+    integer :: unit, size, status
+
+    bytes = ''
+    padded = path
+    open (newunit=unit, file=padded, access='stream', form='unformatted', status='old', &
+      action='read', iostat=status)
+    if (status /= 0) return
+    inquire (unit=unit, size=size)
+    deallocate (bytes)
+    allocate (character(size) :: bytes)
+    read (unit) bytes
+    close (unit)
+  end function
 
   !> Ends the program; exit code 1 when anything was wrong.
   subroutine finish()

@@ -16,7 +16,6 @@
 #include <host/ErrorLog.h>
 #include <host/ZephUni.h>
 
-#include "text/Reports.h"
 
 using xercesc::DOMDocument;
 using xercesc::DOMElement;

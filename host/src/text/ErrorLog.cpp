@@ -100,7 +100,9 @@ void reportError(std::string message, std::source_location where) {
   reportError(ErrorReport{std::move(message), where.file_name(), where.line()});
 }
 
-void setErrorCallback(ErrorCallback callback) { log().callback = std::move(callback); }
+ErrorCallback setErrorCallback(ErrorCallback callback) {
+  return std::exchange(log().callback, std::move(callback));
+}
 
 std::optional<ErrorReport> takeError() {
   auto& notTaken = log().notTaken;

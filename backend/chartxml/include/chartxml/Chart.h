@@ -245,6 +245,10 @@ public:
   int AddRow(int source);
   int AddDataValue(int source, int variable, int string);
   int AddDoubleDataValue(int source, int variable, double value);
+  /// Whole columns: the values of rows from `firstRow`, which counts from 1, on; rows
+  /// that are not there yet are added. 0, or -1 when the variable has no column.
+  int LoadNumbers(int variable, int firstRow, std::span<const double> numbers);
+  int LoadTexts(int variable, int firstRow, std::span<const ChartString> texts);
 
   // Display formats; an element is a variable or its meta
 
@@ -482,6 +486,9 @@ private:
   const VarDataProcessor::_varinfo* storeOf(int variable);
   void noteRow(bool stored, Where where = Where::current());
   std::size_t currentRow() const;
+  bool storeText(const VarDataProcessor::_varinfo& store, std::size_t row, const ChartString& text);
+  const VarDataProcessor::_varinfo* storeOfRows(int variable, int firstRow, std::size_t count,
+                                                Where where);
   Element* knownMeta(Element& variable);
   Element& metaOf(Element& variable);
   static void setCreator(Element& meta, const XMLCh* origin, const XMLCh* kind);

@@ -3,7 +3,9 @@
 #include <initializer_list>
 #include <memory>
 #include <source_location>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMElement.hpp>
@@ -133,6 +135,10 @@ public:
   /// the whole chart.
   int AddDataValue(int chart, int source, int variable, int value);
   int AddDoubleDataValue(int chart, int source, int variable, double value);
+  /// Whole columns, from row `firstRow` (1) on; a column that the chart refuses is reported
+  /// and leaves the chart alone.
+  int LoadNumbers(int chart, int variable, int firstRow, std::span<const double> numbers);
+  int LoadTexts(int chart, int variable, int firstRow, std::span<const std::string_view> texts);
   /// Both return their chart argument in every case.
   int CreateLogVar(int chart, int variable);
   int AllDataDoubles(int chart);

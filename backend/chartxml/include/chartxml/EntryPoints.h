@@ -490,7 +490,7 @@ CHARTXML_API int64_t cx_addxyzwireframe_(const int64_t* chart, const int64_t* pa
  *  a node that is no frame. */
 CHARTXML_API int64_t cx_addxyzbackplanes_(const int64_t* chart, const int64_t* parent);
 
-/* Elements and aesthetics */
+/* Elements */
 
 /** Adds an element to a frame or an element group. Returns the new element. Reports any other
  *  parent. */
@@ -546,6 +546,8 @@ CHARTXML_API int64_t cx_setelementpositionmodifier_(const int64_t* chart, const 
 CHARTXML_API int64_t cx_addbinnedelement_(const int64_t* chart, const int64_t* parent,
                                           const int64_t* type, const int64_t* suffix,
                                           const int64_t* x, const int64_t* y);
+
+/* Aesthetics and statistics */
 
 /** Gives an element a position of its own, which takes x, y and a statistic. Returns the new
  *  position. Reports a node that is no element. */
@@ -635,7 +637,7 @@ CHARTXML_API int64_t cx_setdisplayoverlappinglabels_(const int64_t* chart, const
 CHARTXML_API int64_t cx_setlabelcollisionhandling_(const int64_t* chart, const int64_t* element,
                                                    const int64_t* handling);
 
-/* Dimensions, axes and guides */
+/* Dimensions and domains */
 
 /** Gives a frame its dimension for a role, at most one a role; the domain of one that is known
  *  stays. Returns the frame's dimension, new or known. Reports a role outside 1 to 7. */
@@ -741,6 +743,8 @@ CHARTXML_API int64_t cx_addstatisticsort_(const int64_t* chart, const int64_t* s
                                           const int64_t* sourceVariable,
                                           const int64_t* statVariable);
 
+/* Axes */
+
 /** Adds an axis to a dimension. Returns the new axis. */
 CHARTXML_API int64_t cx_addaxis_(const int64_t* chart, const int64_t* parent, const int64_t* suffix,
                                  const int64_t* opposite);
@@ -798,6 +802,8 @@ CHARTXML_API int64_t cx_addxydimaxiswithsameratio_(const int64_t* chart, const i
                                                    const int64_t* yOpposite,
                                                    const int64_t* sameRatio, int64_t* xStyle,
                                                    int64_t* xAxis, int64_t* yStyle, int64_t* yAxis);
+
+/* Guides, fit lines and legends */
 
 /** Adds a guide to a frame. Returns the new guide. Reports a node that is no frame. */
 CHARTXML_API int64_t cx_addguide_(const int64_t* chart, const int64_t* frame, const int64_t* type,
@@ -912,6 +918,180 @@ CHARTXML_API int64_t cx_addlegendframeex_(const int64_t* chart, const int64_t* p
                                           const int64_t* target, const int64_t* styleIndex,
                                           const int64_t* styleByNode, int64_t* style,
                                           int64_t* legend);
+
+/* Beyond the procedures' own: whole columns */
+
+/** Stores a column of numbers; rows that are not there yet are added. Returns 0. Reports a
+ *  variable without a column; rows beyond 1 to 2147483647. */
+CHARTXML_API int64_t chartxml_loadnumbers_(const int64_t* chart, const int64_t* variable,
+                                           const int64_t* firstRow, const double* numbers,
+                                           const int64_t* numberCount);
+
+/** Stores a column of texts, without the blanks at their ends, as numbers where they read as
+ *  such; rows that are not there yet are added. Returns 0. Reports a variable without a column;
+ *  rows beyond 1 to 2147483647. */
+CHARTXML_API int64_t chartxml_loadtexts_(const int64_t* chart, const int64_t* variable,
+                                         const int64_t* firstRow, const char* texts,
+                                         const int64_t* textsLength, const int64_t* textCount);
+
+/* Beyond the procedures' own: nodes and texts */
+
+/** Adds the distance from the centre to an element or position. Returns the new r. Reports any
+ *  other parent. */
+CHARTXML_API int64_t chartxml_addr_(const int64_t* chart, const int64_t* parent,
+                                    const int64_t* variable);
+
+/** Adds the second angle to an element or position. Returns the new phi. Reports any other
+ *  parent. */
+CHARTXML_API int64_t chartxml_addphi_(const int64_t* chart, const int64_t* parent,
+                                      const int64_t* variable);
+
+/** Sizes an element or its labels by a variable. Returns the new size. Reports any other parent. */
+CHARTXML_API int64_t chartxml_addsize_(const int64_t* chart, const int64_t* elementOrLabeling,
+                                       const int64_t* variable);
+
+/** Sets the size of the lowest value. Returns 0, or -1 for any other node, silently. */
+CHARTXML_API int64_t chartxml_setsizelow_(const int64_t* chart, const int64_t* size,
+                                          const int64_t* low);
+
+/** Sets the size of the highest value. Returns 0, or -1 for any other node, silently. */
+CHARTXML_API int64_t chartxml_setsizehigh_(const int64_t* chart, const int64_t* size,
+                                           const int64_t* high);
+
+/** Stacks, or does not stack, the element of a position. Returns the position. */
+CHARTXML_API int64_t chartxml_addstack_(const int64_t* chart, const int64_t* positionNode,
+                                        const int64_t* stack);
+
+/** Adds a transform to an axis or another node. Returns the new transform. */
+CHARTXML_API int64_t chartxml_addtransform_(const int64_t* chart, const int64_t* node,
+                                            const int64_t* method);
+
+/** Adds a line at a value of x or y to a frame. Returns the new guide. Reports a node that is no
+ *  frame. */
+CHARTXML_API int64_t chartxml_addreferenceline_(const int64_t* chart, const int64_t* frame,
+                                                const int64_t* lineRole, const int64_t* valueString,
+                                                const int64_t* guideStyle);
+
+/** Fills an open composite, which is a formula in x with "^1" and "^2", and adds its curve to a
+ *  frame. Returns the new guide, or -1 for an infinite coefficient, silently. Reports a node
+ *  that is no frame. */
+CHARTXML_API int64_t chartxml_addyofxwithab_(const int64_t* chart, const int64_t* frame,
+                                             const int64_t* composite, const int64_t* guideStyle,
+                                             const double* b1, const double* b2);
+
+/** Has a legend explain an element or guide. Returns the new legend target. Reports a node that
+ *  is no legend. */
+CHARTXML_API int64_t chartxml_addlegendtarget_(const int64_t* chart, const int64_t* legendNode,
+                                               const int64_t* target, const int64_t* suffix,
+                                               const int64_t* aesthetic);
+
+/** Gives each panel a scale of its own. Returns the dimension. */
+CHARTXML_API int64_t chartxml_setfacetsdifferentscale_(const int64_t* chart,
+                                                       const int64_t* dimension);
+
+/** Declares a variable once more. Returns the new variable. */
+CHARTXML_API int64_t chartxml_copyvariable_(const int64_t* chart, const int64_t* variable);
+
+/** Tells the column of a variable of the procedure. Returns the column, from 0. Reports a number
+ *  that no variable has. */
+CHARTXML_API int64_t chartxml_getvariableindex_(const int64_t* variableNumber);
+
+/** Changes the procedure's name: the chart's, unless its handle is -1, and the string table that
+ *  goes first. Returns 0, or 1 when the procedure has no string table of its own. */
+CHARTXML_API int64_t chartxml_setprocedure_(const int64_t* chart, const char* procedureName,
+                                            const int64_t* procedureNameLength);
+
+/** Names the folder of the string tables that every procedure shares. Returns 0. */
+CHARTXML_API int64_t chartxml_setglobalstringtable_(const char* path, const int64_t* pathLength);
+
+/** Forgets every text but the predefined ones; string handles start again. Returns 0. */
+CHARTXML_API int64_t chartxml_resetstrings_(void);
+
+/** Gives the text behind a string handle in UTF-8, as far as there is room. Returns the text's
+ *  bytes, however much room there is. */
+CHARTXML_API int64_t chartxml_gettext_(const int64_t* string, char* buffer,
+                                       const int64_t* bufferCapacity);
+
+/** Gives the chart's document as it is by now, as far as there is room. Returns the document's
+ *  bytes, however much room there is. */
+CHARTXML_API int64_t chartxml_getxml_(const int64_t* chart, char* buffer,
+                                      const int64_t* bufferCapacity);
+
+/* Beyond the procedures' own: parts of display formats */
+
+/** Gives a variable its meta, at most one. Returns the meta, new or known. */
+CHARTXML_API int64_t chartxml_addmeta_(const int64_t* chart, const int64_t* variable);
+
+/** Says whether a variable weights cases. Returns the meta, or -1 for any other node, silently. */
+CHARTXML_API int64_t chartxml_setmetaweight_(const int64_t* chart, const int64_t* meta,
+                                             const int64_t* weight);
+
+/** Gives a meta the display format of a column. Returns -1 in every case. */
+CHARTXML_API int64_t chartxml_addformat_(const int64_t* chart, const int64_t* meta,
+                                         const int64_t* column);
+
+/** Finds a variable's number format. Returns the number format, or -1 when there is none,
+ *  silently. */
+CHARTXML_API int64_t chartxml_getvariablenumformat_(const int64_t* chart, const int64_t* variable);
+
+/** Has a variable shown as text. Returns the new format, or -1 for any other node, silently. */
+CHARTXML_API int64_t chartxml_addstringformat_(const int64_t* chart, const int64_t* meta);
+
+/** Has a variable shown as date or time. Returns -1, also when made, but 0 for a format of
+ *  weeks. */
+CHARTXML_API int64_t chartxml_adddateformat_(const int64_t* chart, const int64_t* meta,
+                                             const int64_t* formatType, const int64_t* formatWidth);
+
+/** Adds a number format with nothing said about it. Returns the new number format. */
+CHARTXML_API int64_t chartxml_addnumberformat_(const int64_t* chart, const int64_t* formatParent);
+
+/** Adds the number format of a type. Returns the new number format. */
+CHARTXML_API int64_t chartxml_addnumberformatoftype_(const int64_t* chart, const int64_t* meta,
+                                                     const int64_t* formatType,
+                                                     const int64_t* formatWidth,
+                                                     const int64_t* decimals);
+
+/** Does nothing; there for callers that have it. Returns -1 in every case. */
+CHARTXML_API int64_t chartxml_setnumberformatminfractiondigits_(const int64_t* chart,
+                                                                const int64_t* numberFormat,
+                                                                const int64_t* fractionDigits);
+
+/** Sets the digits after the decimal sign at most. Returns 0, or -1 for any other node,
+ *  silently. */
+CHARTXML_API int64_t chartxml_setnumberformatmaxfractiondigits_(const int64_t* chart,
+                                                                const int64_t* numberFormat,
+                                                                const int64_t* fractionDigitsString);
+
+/** Sets what stands before the number. Returns 0, or -1 for any other node, silently. */
+CHARTXML_API int64_t chartxml_setnumberformatprefix_(const int64_t* chart,
+                                                     const int64_t* numberFormat,
+                                                     const int64_t* prefix);
+
+/** Sets what stands behind the number. Returns 0, or -1 for any other node, silently. */
+CHARTXML_API int64_t chartxml_setnumberformatsuffix_(const int64_t* chart,
+                                                     const int64_t* numberFormat,
+                                                     const int64_t* unitSuffix);
+
+/** Says whether the number has an exponent. Returns 0, or -1 for any other node, silently. */
+CHARTXML_API int64_t chartxml_setnumberscientific_(const int64_t* chart,
+                                                   const int64_t* numberFormat,
+                                                   const int64_t* scientific);
+
+/* Beyond the procedures' own: the messages of one call */
+
+/** Holds back the messages of what follows. Returns 0. */
+CHARTXML_API int64_t chartxml_begincall_(void);
+
+/** Reports a message of the caller. Returns -1. */
+CHARTXML_API int64_t chartxml_refuse_(const char* text, const int64_t* textLength);
+
+/** Ends holding messages back. Those of a call that was refused go to the buffer, which is
+ *  filled up with blanks; all but those that are wanted go on, with the name of the call before
+ *  them. Returns 1 when the call was refused, else 0. */
+CHARTXML_API int64_t chartxml_endcall_(const char* callName, const int64_t* callNameLength,
+                                       const int64_t* failed, const int64_t* mayBeSilent,
+                                       const int64_t* wanted, char* buffer,
+                                       const int64_t* bufferCapacity);
 
 #ifdef __cplusplus
 }

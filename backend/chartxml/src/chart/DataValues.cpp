@@ -1,5 +1,8 @@
 #include <chartxml/Chart.h>
 
+#include <algorithm>
+#include <limits>
+
 #include <fmt/format.h>
 
 namespace {
@@ -24,11 +27,15 @@ int Chart::AddDataValue(int /*source*/, int variable, int string) {
   if (dataRefused_) return -1;
   const VarDataProcessor::_varinfo* store = storeOf(variable);
   if (!store) return 0;
-  const ChartString& text = stringHandler_->getXMLString(string);
-  const bool number = allDataDoubles_ || text.isNumber();
-  noteRow(number ? dataProcessor_->SetVariableValue(*store, currentRow(), text.convertToDouble())
-                 : dataProcessor_->SetStringVariableValue(*store, currentRow(), text.toUTF8()));
+  noteRow(storeText(*store, currentRow(), stringHandler_->getXMLString(string)));
   return 0;
+}
+
+bool Chart::storeText(const VarDataProcessor::_varinfo& store, std::size_t row,
+                      const ChartString& text) {
+  const bool number = allDataDoubles_ || text.isNumber();
+  return number ? dataProcessor_->SetVariableValue(store, row, text.convertToDouble())
+                : dataProcessor_->SetStringVariableValue(store, row, text.toUTF8());
 }
 
 int Chart::AddDoubleDataValue(int /*source*/, int variable, double value) {
@@ -37,6 +44,46 @@ int Chart::AddDoubleDataValue(int /*source*/, int variable, double value) {
   if (!store) return 0;
   noteRow(dataProcessor_->SetVariableValue(*store, currentRow(), value));
   return 0;
+}
+
+// Columns
+
+int Chart::LoadNumbers(int variable, int firstRow, std::span<const double> numbers) {
+  const auto* store = storeOfRows(variable, firstRow, numbers.size(), Where::current());
+  if (!store) return -1;
+  auto row = static_cast<std::size_t>(firstRow) - 1;
+  for (const double number : numbers)
+    noteRow(dataProcessor_->SetVariableValue(*store, row++, number));
+  return 0;
+}
+
+int Chart::LoadTexts(int variable, int firstRow, std::span<const ChartString> texts) {
+  const auto* store = storeOfRows(variable, firstRow, texts.size(), Where::current());
+  if (!store) return -1;
+  auto row = static_cast<std::size_t>(firstRow) - 1;
+  for (const ChartString& text : texts)
+    noteRow(storeText(*store, row++, text));
+  return 0;
+}
+
+// A column is much to lose: unlike a single value it is told when it has no place.
+const VarDataProcessor::_varinfo* Chart::storeOfRows(int variable, int firstRow, std::size_t count,
+                                                     Where where) {
+  if (dataRefused_) return nullptr;
+  const VarDataProcessor::_varinfo* store = storeOf(variable);
+  if (!store) {
+    report(fmt::format("the node {} is no variable with a column", variable), where);
+    return nullptr;
+  }
+  constexpr std::size_t mostRows = std::numeric_limits<int>::max();
+  if (firstRow < 1 || count > mostRows - static_cast<std::size_t>(firstRow - 1)) {
+    report(
+        fmt::format("no {} rows from row {} on: rows go from 1 to {}", count, firstRow, mostRows),
+        where);
+    return nullptr;
+  }
+  rowCount_ = std::max(rowCount_, firstRow - 1 + static_cast<int>(count));
+  return store;
 }
 
 // Before the first row this wraps round, and the store refuses it.

@@ -1,6 +1,8 @@
 // Chart operations that do more than look the chart up and pass on.
 #include "Call.h"
 
+#include <vector>
+
 int ChartXml::SetAxisPercent(int chart, int node, int formatParent) {
   // Without a chart the node comes back as if all had gone well: the axis is then
   // drawn without percent signs, if at all.
@@ -36,6 +38,21 @@ int ChartXml::AddDataValue(int chart, int source, int variable, int value) {
 int ChartXml::AddDoubleDataValue(int chart, int source, int variable, double value) {
   Chart* found = findSilently(chart);
   return found ? keepOrKill(chart, found->AddDoubleDataValue(source, variable, value)) : -1;
+}
+
+int ChartXml::LoadNumbers(int chart, int variable, int firstRow, std::span<const double> numbers) {
+  return onChart(chart, &Chart::LoadNumbers, variable, firstRow, numbers);
+}
+
+int ChartXml::LoadTexts(int chart, int variable, int firstRow,
+                        std::span<const std::string_view> texts) {
+  Chart* found = findChart(chart);
+  if (!found) return -1;
+  std::vector<ChartString> transcoded;
+  transcoded.reserve(texts.size());
+  for (const std::string_view text : texts)
+    transcoded.push_back(transcode(std::string(text)));
+  return found->LoadTexts(variable, firstRow, transcoded);
 }
 
 int ChartXml::keepOrKill(int chart, int result) {

@@ -63,16 +63,22 @@ template <> struct Argument<const OBS*> {
 /// Reports the exception being handled, with the entry point that met it.
 void reportException(const char* entryPoint);
 
-/// Runs the body of an entry point; -1 when it throws, which is reported.
-template <class Body> std::int64_t guarded(const char* entryPoint, Body body) {
+/// Runs the body of an entry point that needs no registry; -1 when it throws, which is
+/// reported.
+template <class Body> std::int64_t caught(const char* entryPoint, Body body) {
   try {
-    return body(*ChartXml::GetInstance());
+    return body();
   } catch (const KorvaGoToCaller&) {
     throw;
   } catch (...) {
     reportException(entryPoint);
     return -1;
   }
+}
+
+/// Runs the body of any other entry point, on the registry.
+template <class Body> std::int64_t guarded(const char* entryPoint, Body body) {
+  return caught(entryPoint, [&] { return body(*ChartXml::GetInstance()); });
 }
 
 template <class... Parameters, class... Arguments>
