@@ -1,0 +1,27 @@
+#pragma once
+
+#include <map>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include <host/VarDataProcessor.h>
+#include <host/XDocument.h>
+
+namespace host {
+
+/// The document's variables by the column that they read.
+class ChartVariables {
+public:
+  ChartVariables(const ZephVisualization& chart, const VarDataProcessor& data);
+
+  /// Those that read the column, in the order of the document.
+  std::span<const CTVariableType* const> of(const VarDataProcessor::Source& source,
+                                            const VarDataProcessor::Variable& column) const;
+
+private:
+  using Variables = std::vector<const CTVariableType*>; ///< by the name of their column
+  std::map<std::string_view, Variables> ofSource_;
+};
+
+} // namespace host
