@@ -89,7 +89,7 @@ private:
 
   void addValidate() {
     CLI::App& verb = add("validate", "Check chart documents against their grammar",
-                         "chartxml validate charts/0001-penguins/chart.xml",
+                         "chartxml validate charts/0001-economics/chart.xml",
                          [this] { return tools::validate(arguments_, asJson_); });
     verb.add_option("file", arguments_,
                     "Documents, chart folders, or output folders that hold some")
@@ -108,7 +108,7 @@ private:
 
   void addInfo() {
     CLI::App& verb = add("info", "Tell what charts are: texts, data, files, versions",
-                         "chartxml info charts/0001-penguins --json",
+                         "chartxml info charts/0001-economics --json",
                          [this] { return tools::info(arguments_, asJson_); });
     takeFolders(verb, "Chart folders, or output folders that hold some");
     offerJson(verb);
