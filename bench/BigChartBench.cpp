@@ -100,6 +100,22 @@ void sendRows(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0) * columns);
 }
 
+/// One row of many variables: what grows is the document, and the manifest with it.
+void sendVariables(benchmark::State& state) {
+  const Output output;
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto data = std::make_unique<DataChart>(static_cast<int>(state.range(0)));
+    addRows(*data, 1);
+    const std::size_t printed = printedSize(data->chart);
+    state.ResumeTiming();
+    state.counters["growth_per_printed"] =
+        growthWhileSending(data->chart) / static_cast<double>(printed);
+    state.counters["printed"] = static_cast<double>(printed);
+  }
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
 void textCells(benchmark::State& state) {
   constexpr std::size_t distinct = 100;
   const auto rows = static_cast<std::size_t>(state.range(0));
@@ -118,6 +134,7 @@ void textCells(benchmark::State& state) {
 }
 
 BENCHMARK(sendNodes)->Name("send/nodes")->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(sendVariables)->Name("send/variables")->Arg(65000)->Unit(benchmark::kMillisecond);
 BENCHMARK(sendRows)
     ->Name("send/rows")
     ->Args({10000, 20})

@@ -1,7 +1,8 @@
 // Draws the charts of chart folders from their Vega text: chart.svg and chart.png beside
 // chart.vg.json. Reads from standard input, as JSON:
 //   {"folders": ["charts/0001-penguins", …], "svg": true, "png": true}
-// Prints a line per folder; ends with status 1 when one of them failed.
+// Names each folder that it could not draw on standard error, and ends with status 1
+// then; a terminal there also shows how far it is, in a line that is gone at the end.
 
 import {readFileSync, renameSync, rmSync, writeFileSync} from 'node:fs';
 import {basename, join} from 'node:path';
@@ -50,14 +51,15 @@ async function draw(folder, {svg, png}) {
 }
 
 const {folders, ...formats} = JSON.parse(readFileSync(0, 'utf8'));
-const made = Object.keys(formats).filter((name) => formats[name]).join(' ');
+const showLine = (text) => process.stderr.isTTY && process.stderr.write(`\r\x1B[K${text}`);
 for (const [index, folder] of folders.entries()) {
-  const place = `[${index + 1}/${folders.length}] ${basename(folder)}`;
+  showLine(`[${index + 1}/${folders.length}] ${basename(folder)}, pictures`);
   try {
     await draw(folder, formats);
-    console.log(`${place}  ${made}`);
   } catch (error) {
-    console.error(`${place}  failed: ${error.message}`);
+    showLine('');
+    console.error(`chartxml: ${folder}: the picture cannot be drawn: ${error.message}`);
     process.exitCode = 1;
   }
 }
+showLine('');

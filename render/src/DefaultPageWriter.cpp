@@ -2,5 +2,7 @@
 #include <render/Pages.h>
 
 host::PageWriter host::defaultPageWriter() {
-  return {.writeChart = render::writeChart, .writeGallery = render::writeGallery};
+  return {.writeChart = render::writeChart,
+          .writeGallery = render::writeGallery,
+          .versions = render::versions()};
 }

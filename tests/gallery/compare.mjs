@@ -13,6 +13,10 @@ const digits = 9;
 const rounded = (text) =>
   text.replace(/-?\d+\.\d+(e[+-]?\d+)?/g, (number) => String(Number(Number(number).toPrecision(digits))));
 
+/** A last digit changes a hash, and a release the versions. */
+const withoutHashes = (text) =>
+  text.replace(/"sha256:[0-9a-f]{64}"/g, '"sha256"').replace(/("versions": \{)[^}]*/, '$1');
+
 const charts = (folder) => readdirSync(folder).filter((name) => /^\d{4}-/.test(name));
 
 rmSync(output, {recursive: true, force: true});
@@ -26,7 +30,7 @@ function differences() {
     return [`expected the charts ${charts(expected)}; there are now: ${charts(output)}`];
   const files = charts(expected).flatMap((chart) =>
     readdirSync(join(expected, chart)).map((name) => join(chart, name)));
-  const text = (folder, file) => rounded(readFileSync(join(folder, file), 'utf8'));
+  const text = (folder, file) => withoutHashes(rounded(readFileSync(join(folder, file), 'utf8')));
   return files
     .filter((file) => text(expected, file) !== text(output, file))
     .map((file) => `differs: ${join(expected, file)}\n     now: ${join(output, file)}`);

@@ -13,8 +13,9 @@ struct PictureOptions {
 };
 
 /// Draws chart.svg and chart.png from the chart.vg.json of each folder, all in one
-/// Node.js process that tells its progress on standard output. Throws
-/// std::runtime_error when it cannot be started or a picture failed.
-void drawPictures(const std::vector<std::filesystem::path>& folders, const PictureOptions& options);
+/// Node.js process, which tells its progress on a terminal's standard error and says
+/// there what it could not draw: false then. Throws std::runtime_error when it cannot be
+/// started.
+bool drawPictures(const std::vector<std::filesystem::path>& folders, const PictureOptions& options);
 
 } // namespace tools

@@ -1,135 +1,157 @@
-#include <algorithm>
 #include <exception>
-#include <filesystem>
+#include <functional>
 #include <iostream>
 #include <string>
-#include <vector>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
-#include <render/Pages.h>
+#include <host/ChartError.h>
+#include <host/Version.h>
 
-#include "Pictures.h"
+#include "Completion.h"
+#include "Verbs.h"
 
-/// The command line: makes pages and pictures of charts that were written before.
+/// The command line for charts that were written before.
 namespace {
 
-namespace fs = std::filesystem;
+using tools::Status;
 
-constexpr int chartFailed = 1;
-constexpr int usage = 2;
+constexpr const char* exitStatus = R"(
+Exit status:
+  0  all is well
+  1  a chart is not as it should be, or cannot be drawn
+  2  the command line is not understood, or names what is not there
+  3  the work could not be done: a file cannot be read or written, Node.js is missing
 
-constexpr const char* examples = R"(
-Examples:
-  chartxml render charts                     specifications and pages of a gallery
-  chartxml render charts --svg --png         with pictures, as chart.svg and chart.png
-  chartxml render charts/0001-penguins --png one chart
-  chartxml gallery charts                    index.html only
+"chartxml <verb> --help" tells more of a verb.)";
 
-Exit status: 0 all went well, 1 a chart failed, 2 the command is not understood.)";
+/// The command line with what each verb does.
+class CommandLine {
+public:
+  CommandLine() {
+    app_.set_version_flag("--version", fmt::format("chartxml {}", host::libraryVersion()),
+                          "Print the version and end");
+    addRender();
+    addGallery();
+    addValidate();
+    addVerify();
+    addInfo();
+    app_.footer("\nExamples:\n" + examples_ + exitStatus);
+    addCompletion();
+  }
 
-bool isChart(const fs::path& folder) { return fs::exists(folder / "chart.xml"); }
-
-/// The folder without a slash at its end, so that it has a name.
-fs::path named(const fs::path& folder) {
-  const fs::path path = fs::absolute(folder).lexically_normal();
-  return path.has_filename() ? path : path.parent_path();
-}
-
-/// The chart folders that the arguments name: themselves, or those in them.
-std::vector<fs::path> findCharts(const std::vector<std::string>& arguments) {
-  std::vector<fs::path> charts;
-  for (const std::string& argument : arguments) {
-    const fs::path folder = named(argument);
-    if (isChart(folder)) {
-      charts.push_back(folder);
-      continue;
+  Status run(int argc, char** argv) {
+    try {
+      app_.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+      return app_.exit(error) == 0 ? tools::good : tools::usage;
     }
-    const std::size_t before = charts.size();
-    for (const auto& entry : fs::directory_iterator(folder))
-      if (!entry.path().filename().native().starts_with('.') && isChart(entry.path()))
-        charts.push_back(entry.path());
-    if (charts.size() == before)
-      throw std::runtime_error(fmt::format("{}: no chart.xml here or one folder below", argument));
-    std::sort(charts.begin() + static_cast<std::ptrdiff_t>(before), charts.end());
+    if (verb_) return verb_();
+    std::cerr << app_.help();
+    return tools::usage;
   }
-  return charts;
-}
 
-/// Runs one step; says what is wrong with it and returns false when it fails.
-template <class Step> bool succeeds(Step step) {
-  try {
-    step();
-    return true;
-  } catch (const std::exception& e) {
-    std::cerr << "chartxml: " << e.what() << '\n';
-    return false;
+private:
+  /// A verb and its example; `run` is what it does.
+  CLI::App& add(const char* name, const char* purpose, const char* example,
+                std::function<Status()> run) {
+    CLI::App& verb = *app_.add_subcommand(name, purpose);
+    verb.footer(fmt::format("\nExample:\n  {}", example));
+    examples_ += fmt::format("  {}\n", example);
+    verb.callback([this, run = std::move(run)] { verb_ = run; });
+    return verb;
   }
-}
 
-int renderCharts(const std::vector<std::string>& arguments, const tools::PictureOptions& options) {
-  const std::vector<fs::path> charts = findCharts(arguments);
-  std::vector<fs::path> drawn;
-  std::vector<fs::path> galleries;
-  for (const fs::path& chart : charts) {
-    if (succeeds([&] { render::writeChart(chart); })) drawn.push_back(chart);
-    if (std::ranges::find(galleries, chart.parent_path()) == galleries.end())
-      galleries.push_back(chart.parent_path());
+  void takeFolders(CLI::App& verb, const char* what) {
+    verb.add_option("folder", arguments_, what)->required()->check(CLI::ExistingDirectory);
   }
-  bool good = drawn.size() == charts.size();
-  if (options.svg || options.png)
-    good = succeeds([&] { tools::drawPictures(drawn, options); }) && good;
-  for (const fs::path& gallery : galleries)
-    good = succeeds([&] { render::writeGallery(gallery); }) && good;
-  if (good)
-    for (const fs::path& gallery : galleries)
-      std::cout << "open " << (gallery / "index.html").native() << '\n';
-  return good ? 0 : chartFailed;
+
+  void offerJson(CLI::App& verb) {
+    verb.add_flag("--json", asJson_, "Print one JSON value instead of lines");
+  }
+
+  void addRender() {
+    CLI::App& verb = add("render", "Draw charts anew: specification, page, pictures, gallery",
+                         "chartxml render charts --svg --png",
+                         [this] { return tools::render(arguments_, pictures_); });
+    takeFolders(verb, "Chart folders, or output folders that hold some");
+    verb.add_flag("--svg", pictures_.svg, "Draw chart.svg");
+    verb.add_flag("--png", pictures_.png, "Draw chart.png");
+    verb.add_option("--node", pictures_.node, "The Node.js program to draw pictures with")
+        ->check(CLI::ExistingFile);
+  }
+
+  void addGallery() {
+    CLI::App& verb = add("gallery", "Make index.html of an output folder anew",
+                         "chartxml gallery charts", [this] { return tools::gallery(arguments_); });
+    takeFolders(verb, "Output folders");
+  }
+
+  void addValidate() {
+    CLI::App& verb = add("validate", "Check chart documents against their grammar",
+                         "chartxml validate charts/0001-economics/chart.xml",
+                         [this] { return tools::validate(arguments_, asJson_); });
+    verb.add_option("file", arguments_,
+                    "Documents, chart folders, or output folders that hold some")
+        ->required()
+        ->check(CLI::ExistingPath);
+    offerJson(verb);
+  }
+
+  void addVerify() {
+    CLI::App& verb =
+        add("verify", "Check that chart folders are as their manifests list them",
+            "chartxml verify charts", [this] { return tools::verify(arguments_, asJson_); });
+    takeFolders(verb, "Chart folders, or output folders that hold some");
+    offerJson(verb);
+  }
+
+  void addInfo() {
+    CLI::App& verb = add("info", "Tell what charts are: texts, data, files, versions",
+                         "chartxml info charts/0001-economics --json",
+                         [this] { return tools::info(arguments_, asJson_); });
+    takeFolders(verb, "Chart folders, or output folders that hold some");
+    offerJson(verb);
+  }
+
+  void addCompletion() {
+    CLI::App& verb = add("completion", "Print the script by which a shell completes chartxml",
+                         "source <(chartxml completion bash)", [this] {
+                           std::cout << (shell_ == "zsh" ? tools::zshCompletion(app_)
+                                                         : tools::bashCompletion(app_));
+                           return tools::good;
+                         });
+    verb.add_option("shell", shell_, "bash or zsh")
+        ->required()
+        ->check(CLI::IsMember({"bash", "zsh"}));
+    verb.group("");
+  }
+
+  CLI::App app_{"Pages, pictures and checks of charts.", "chartxml"};
+  tools::Arguments arguments_;
+  tools::PictureOptions pictures_;
+  std::string shell_;
+  std::string examples_;
+  bool asJson_ = false;
+  std::function<Status()> verb_;
+};
+
+Status fail(Status status, const std::string& why) {
+  std::cerr << "chartxml: " << why << '\n';
+  return status;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-  CLI::App app("Makes pages and pictures of charts.", "chartxml");
-  app.footer(examples);
-
-  std::vector<std::string> folders;
-  tools::PictureOptions options;
-  CLI::App* render = app.add_subcommand(
-      "render",
-      "Make specification and page of each chart anew, pictures if asked, and the gallery");
-  render->add_option("folders", folders, "Chart folders, or output folders that hold some")
-      ->required()
-      ->check(CLI::ExistingDirectory);
-  render->add_flag("--svg", options.svg, "Draw chart.svg");
-  render->add_flag("--png", options.png, "Draw chart.png");
-  render->add_option("--node", options.node, "The Node.js program to draw with")
-      ->check(CLI::ExistingFile);
-
-  CLI::App* gallery = app.add_subcommand("gallery", "Make index.html of an output folder anew");
-  gallery->add_option("folders", folders, "Output folders")
-      ->required()
-      ->check(CLI::ExistingDirectory);
-
   try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& e) {
-    return app.exit(e) == 0 ? 0 : usage;
+    const Status status = CommandLine().run(argc, argv);
+    return std::cout.flush() ? status : fail(tools::failed, "the output cannot be written");
+  } catch (const tools::UsageError& error) {
+    return fail(tools::usage, error.what());
+  } catch (const ChartException& error) {
+    return fail(tools::failed, error.what());
+  } catch (const std::exception& error) {
+    return fail(tools::failed, error.what());
   }
-  if (app.get_subcommands().empty()) {
-    std::cerr << app.help();
-    return usage;
-  }
-
-  int status = 0;
-  if (!succeeds([&] {
-        if (*render) {
-          status = renderCharts(folders, options);
-          return;
-        }
-        for (const std::string& folder : folders)
-          render::writeGallery(named(folder));
-      }))
-    return chartFailed;
-  return status;
 }

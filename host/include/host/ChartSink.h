@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -45,10 +46,12 @@ KORVA_API void setChartSink(std::unique_ptr<ChartSink> sink);
 /// What is done beside the bare files: pages for a chart folder that is still
 /// being written aside, and the gallery page of the whole output folder. Either
 /// may be empty. They tell of a failure by an exception, best a std::exception or
-/// ChartException, which say why.
+/// ChartException, which say why. A chart folder has all but the end of its manifest
+/// when its pages are written; `versions` go there, of what writes them.
 struct PageWriter {
   std::function<void(const std::filesystem::path& chartFolder)> writeChart;
   std::function<void(const std::filesystem::path& outputFolder)> writeGallery;
+  std::map<std::string, std::string> versions = {};
 };
 
 /// Writes one folder a chart below the output folder, made when it is missing:
@@ -59,8 +62,11 @@ struct PageWriter {
 ///     <source>.csv        the columns of one data source, named by sourceName; a
 ///                         cell that is unset or system-missing is empty; a source
 ///                         without columns has no file
+///     datapackage.json    describes these files: types, labels, value labels; with
+///                         it the folder opens as a data set (of the first source)
 ///     manifest.json       what the document does not say: description, language,
-///                         sources with their columns, ...
+///                         sources with their columns, ...; the versions that made the
+///                         folder and the hash of each other file in it
 ///   errors.json           the output's error list: an array of texts
 ///
 /// and whatever the page writer adds. A folder appears whole or not at all, the

@@ -1,9 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -43,40 +47,65 @@ struct CTFormatType {
   std::string kind;
   std::vector<std::pair<std::string, std::string>> attributes;
   std::vector<CTFormatType> parts;
+
+  bool operator<(const CTFormatType& other) const;
 };
 
-/// One variable of the parsed chart: its attributes, empty when absent, its value
-/// labels as pairs of value and label, the formats and the description of its meta.
+/// What the document says of a variable: its attributes, empty when absent, the
+/// description of its meta, its value labels as pairs of value and label.
+struct CTVariableTexts {
+  std::string id, sourceName, source, label, shortLabel, categorical, description;
+  std::vector<std::pair<std::string, std::string>> categories;
+};
+
+/// One variable of the parsed chart. There may be tens of thousands, so its texts are
+/// packed into one piece of memory; none of them may hold a NUL.
 class CTVariableType {
 public:
-  std::string id, sourceName, source, label, shortLabel, categorical;
-  std::vector<std::pair<std::string, std::string>> categories;
-  std::vector<CTFormatType> formats;
+  /// Borrows the formats.
+  CTVariableType(const CTVariableTexts& texts, const std::vector<CTFormatType>& formats);
 
-  const std::string& getDescription() const { return description_; }
-  void setDescription(std::string text) { description_ = std::move(text); }
-  void removeDescription() { description_.clear(); }
+  std::string_view id() const { return text(0); }
+  std::string_view sourceName() const { return text(1); }
+  std::string_view source() const { return text(2); }
+  std::string_view label() const { return text(3); }
+  std::string_view shortLabel() const { return text(4); }
+  bool isCategorical() const { return text(5) == "true"; }
+  /// Pairs of value and label.
+  std::vector<std::pair<std::string_view, std::string_view>> categories() const;
+  const std::vector<CTFormatType>& formats() const { return *formats_; }
+
+  std::string getDescription() const { return std::string(isDescribed_ ? text(6) : ""); }
+  void removeDescription() { isDescribed_ = false; }
 
   ZephExtensionSV* getExtension() const { return extension_.get(); }
   /// The extension, made when there is none.
   ZephExtensionSV& addExtension();
 
 private:
-  std::string description_;
+  static constexpr std::size_t textCount = 7; ///< before the categories
+  std::string_view text(std::size_t index) const;
+
+  std::unique_ptr<char[]> texts_; ///< each with a NUL at its end
+  const std::vector<CTFormatType>* formats_;
   std::unique_ptr<ZephExtensionSV> extension_;
+  std::uint32_t categoryCount_;
+  bool isDescribed_ = true;
 };
 
 /// The chart as the output system reads it back from the document.
 class ZephVisualization {
 public:
-  std::vector<CTVariableType>& getSourceVariables() { return variables_; }
-  const std::vector<CTVariableType>& getSourceVariables() const { return variables_; }
+  void addVariable(const CTVariableTexts& texts, std::vector<CTFormatType> formats);
+  std::deque<CTVariableType>& getSourceVariables() { return variables_; }
+  const std::deque<CTVariableType>& getSourceVariables() const { return variables_; }
 
   std::optional<bool> icicleHorizontal; ///< set by customizeIciclePlots
   std::size_t icicleRows = 0;
 
 private:
-  std::vector<CTVariableType> variables_;
+  std::set<std::vector<CTFormatType>> formats_; ///< few differ: each is kept once
+  std::deque<CTVariableType> variables_;
 };
 
 class XGraph {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include <fmt/format.h>
@@ -22,6 +23,15 @@ double numberOf(std::string_view text) {
     throw Refusal(fmt::format("{} is out of the range of numbers", shown(text)));
   if (error != std::errc()) throw Refusal(fmt::format("{} is not a number", shown(text)));
   return number;
+}
+
+/// Table Schema's words for what has no digits.
+double realOf(std::string_view text) {
+  using Limits = std::numeric_limits<double>;
+  if (text == "NaN") return Limits::quiet_NaN();
+  if (text == "INF") return Limits::infinity();
+  if (text == "-INF") return -Limits::infinity();
+  return numberOf(text);
 }
 
 double integerOf(std::string_view text) {
@@ -62,7 +72,7 @@ double valueOf(Field::Type type, std::string_view text) {
   case Field::Type::yearMonth:
     return whatReads(readYearMonth(text), text, "a year and month (yyyy-mm)");
   default:
-    return numberOf(text);
+    return realOf(text);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <source_location>
+#include <utility>
 
 #include <fmt/format.h>
 #include <xercesc/framework/MemBufInputSource.hpp>
@@ -36,8 +37,8 @@ std::string attribute(const Attributes& attributes, const XMLCh* name) {
   return value != nullptr ? utf8(value) : std::string();
 }
 
-CTVariableType variableOf(const Attributes& attributes) {
-  CTVariableType variable;
+CTVariableTexts variableOf(const Attributes& attributes) {
+  CTVariableTexts variable;
   variable.id = attribute(attributes, ZephUni::_id);
   variable.sourceName = attribute(attributes, ZephUni::_sourceName);
   variable.source = attribute(attributes, ZephUni::_source);
@@ -59,7 +60,7 @@ std::vector<std::pair<std::string, std::string>> allOf(const Attributes& attribu
 /// children of theirs, formats of the meta; everything else passes by.
 class ChartHandler final : public xercesc::DefaultHandler {
 public:
-  explicit ChartHandler(ZephVisualization& chart) : variables_(chart.getSourceVariables()) {}
+  explicit ChartHandler(ZephVisualization& chart) : chart_(chart) {}
 
   const std::string& name() const { return name_; }
 
@@ -69,19 +70,20 @@ public:
     if (depth_ == 0) name_ = attribute(attributes, ZephUni::_name);
     if (depth_ == 1) {
       inVariable_ = kind == ZephUni::_variable;
-      if (inVariable_) variables_.push_back(variableOf(attributes));
+      if (inVariable_) variable_ = variableOf(attributes);
     }
     if (depth_ == 2 && inVariable_) readChild(kind, attributes);
-    if (depth_ > 2 && !formats_.empty()) {
-      formats_.back()->push_back({utf8(kind), allOf(attributes), {}});
-      formats_.push_back(&formats_.back()->back().parts);
+    if (depth_ > 2 && !open_.empty()) {
+      open_.back()->push_back({utf8(kind), allOf(attributes), {}});
+      open_.push_back(&open_.back()->back().parts);
     }
     ++depth_;
   }
 
   void endElement(const XMLCh*, const XMLCh*, const XMLCh*) override {
     --depth_;
-    if (!formats_.empty()) formats_.pop_back();
+    if (!open_.empty()) open_.pop_back();
+    if (depth_ == 1 && inVariable_) chart_.addVariable(variable_, std::exchange(formats_, {}));
   }
 
   void setDocumentLocator(const xercesc::Locator* locator) override { locator_ = locator; }
@@ -97,13 +99,12 @@ public:
 
 private:
   void readChild(std::u16string_view kind, const Attributes& attributes) {
-    CTVariableType& variable = variables_.back();
     if (kind == ZephUni::_relabel)
-      variable.categories.emplace_back(attribute(attributes, ZephUni::_from),
-                                       attribute(attributes, ZephUni::_to));
+      variable_.categories.emplace_back(attribute(attributes, ZephUni::_from),
+                                        attribute(attributes, ZephUni::_to));
     if (kind != u"meta") return;
-    variable.setDescription(attribute(attributes, ZephUni::_description));
-    formats_.push_back(&variable.formats);
+    variable_.description = attribute(attributes, ZephUni::_description);
+    open_.push_back(&formats_);
   }
 
   template <class Place>
@@ -113,8 +114,10 @@ private:
   }
 
   const xercesc::Locator* locator_ = nullptr;
-  std::vector<CTVariableType>& variables_;
-  std::vector<std::vector<CTFormatType>*> formats_; ///< where parts of open elements go
+  ZephVisualization& chart_;
+  CTVariableTexts variable_; ///< the one that is being read, and its formats
+  std::vector<CTFormatType> formats_;
+  std::vector<std::vector<CTFormatType>*> open_; ///< where parts of open elements go
   std::string name_;
   std::size_t depth_ = 0;
   bool inVariable_ = false;

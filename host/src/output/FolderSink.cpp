@@ -1,20 +1,26 @@
 #include <host/ChartSink.h>
 
+#include <map>
 #include <optional>
 #include <source_location>
+#include <string>
 
 #include <fmt/format.h>
 #include <host/ChartError.h>
+#include <host/ChartFiles.h>
 #include <host/DataSet.h>
 #include <host/ErrorLog.h>
+#include <host/Version.h>
+#include <nlohmann/json.hpp>
 
 #include "data/JsonFile.h"
 #include "output/CsvFile.h"
+#include "output/DataPackage.h"
 #include "output/Failure.h"
 #include "output/FileWriter.h"
+#include "output/JsonWriter.h"
 #include "output/Manifest.h"
 #include "output/OutputFolder.h"
-#include "output/WriteJson.h"
 
 namespace host {
 namespace {
@@ -31,6 +37,17 @@ void writeSources(const fs::path& folder, const SentChart& chart) {
   if (chart.data == nullptr) return;
   for (const auto& source : chart.data->sources())
     if (const std::string name = csvNameOf(source); !name.empty()) writeCsv(folder / name, source);
+}
+
+/// The pages read the manifest, and the manifest knows their hashes: its end comes last.
+void writeManifestEnd(const fs::path& folder, const std::optional<std::string>& failure,
+                      const std::map<std::string, std::string>& versions) {
+  ChartFiles files{.errors = {}, .versions = versions, .files = {}};
+  if (failure) files.errors.push_back(*failure);
+  files.versions.emplace("library", libraryVersion());
+  for (const std::string& name : filesIn(folder))
+    files.files.emplace(name, hashOf(folder / name));
+  writeChartFiles(folder, files);
 }
 
 /// Runs one of the page writers; what went wrong, if anything did. The folder is
@@ -81,12 +98,12 @@ void FolderSink::send(const SentChart& chart) {
   const fs::path output = outputFolder();
   const std::string name = chart.name.empty() ? "chart" : chart.name;
   Draft draft(output);
-  const fs::path manifest = draft.path() / "manifest.json";
   writeText(draft.path() / "chart.xml", chart.xml);
   writeSources(draft.path(), chart);
-  writeJson(manifest, manifestOf(chart, name, {}));
+  writeDataPackage(draft.path(), chart, name);
+  writeManifest(draft.path(), chart, name);
   const auto pageFailure = failureOf(pages_.writeChart, draft.path());
-  if (pageFailure) writeJson(manifest, manifestOf(chart, name, {*pageFailure}));
+  writeManifestEnd(draft.path(), pageFailure, pages_.versions);
 
   std::string folder;
   std::optional<std::string> galleryFailure;

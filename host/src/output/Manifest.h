@@ -1,9 +1,9 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include <host/ChartSink.h>
-#include <nlohmann/json.hpp>
 
 namespace host {
 
@@ -11,9 +11,9 @@ namespace host {
 /// Throws ChartException for a source whose name can't name a file.
 std::string csvNameOf(const VarDataProcessor::Source& source);
 
-/// What the chart document does not say, under the name given; `errors` tells what
-/// the chart folder lacks. Throws ChartException.
-nlohmann::ordered_json manifestOf(const SentChart& chart, const std::string& name,
-                                  const std::vector<std::string>& errors);
+/// Writes manifest.json, what the chart document does not say, under the name given;
+/// its end (ChartFiles) is still to be written. Throws ChartException.
+void writeManifest(const std::filesystem::path& chartFolder, const SentChart& chart,
+                   const std::string& name);
 
 } // namespace host

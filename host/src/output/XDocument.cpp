@@ -1,6 +1,8 @@
 #include <host/XDocument.h>
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 #include <host/ChartError.h>
 #include <host/ChartSink.h>
@@ -15,6 +17,50 @@ void ZephExtension::setAttribute(const std::string& name, const std::string& val
     attributes_.emplace_back(name, value);
   else
     known->second = value;
+}
+
+bool CTFormatType::operator<(const CTFormatType& other) const {
+  return std::tie(kind, attributes, parts) < std::tie(other.kind, other.attributes, other.parts);
+}
+
+CTVariableType::CTVariableType(const CTVariableTexts& texts,
+                               const std::vector<CTFormatType>& formats)
+    : formats_(&formats), categoryCount_(static_cast<std::uint32_t>(texts.categories.size())) {
+  std::string packed;
+  const auto pack = [&](const std::string& text) { packed.append(text).push_back('\0'); };
+  for (const std::string* text : {&texts.id, &texts.sourceName, &texts.source, &texts.label,
+                                  &texts.shortLabel, &texts.categorical, &texts.description})
+    pack(*text);
+  for (const auto& [value, label] : texts.categories) {
+    pack(value);
+    pack(label);
+  }
+  texts_ = std::make_unique_for_overwrite<char[]>(packed.size());
+  std::ranges::copy(packed, texts_.get());
+}
+
+std::string_view CTVariableType::text(std::size_t index) const {
+  std::string_view text = texts_.get();
+  while (index-- > 0)
+    text = text.data() + text.size() + 1;
+  return text;
+}
+
+std::vector<std::pair<std::string_view, std::string_view>> CTVariableType::categories() const {
+  std::vector<std::pair<std::string_view, std::string_view>> categories;
+  categories.reserve(categoryCount_);
+  std::string_view last = text(textCount - 1);
+  const auto next = [&] { return last = last.data() + last.size() + 1; };
+  for (std::uint32_t i = 0; i < categoryCount_; ++i) {
+    const std::string_view value = next();
+    categories.emplace_back(value, next());
+  }
+  return categories;
+}
+
+void ZephVisualization::addVariable(const CTVariableTexts& texts,
+                                    std::vector<CTFormatType> formats) {
+  variables_.emplace_back(texts, *formats_.insert(std::move(formats)).first);
 }
 
 ZephExtensionSV& CTVariableType::addExtension() {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <stdexcept>
+#include <string>
 
 /// Turns finished chart folders into Vega specifications and HTML pages.
 namespace render {
@@ -24,5 +26,8 @@ void writeChart(const std::filesystem::path& chartFolder);
 /// of their names, and runtime/, the script that the chart pages share. Throws
 /// RenderError when they cannot be written.
 void writeGallery(const std::filesystem::path& outputFolder);
+
+/// The versions of what makes and draws the pages, by name: renderer, vega, ...
+std::map<std::string, std::string> versions();
 
 } // namespace render

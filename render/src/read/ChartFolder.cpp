@@ -25,6 +25,11 @@ std::map<std::string, Table, std::less<>> readTables(const std::filesystem::path
   return tables;
 }
 
+/// A manifest of many columns would take much memory, and pages need none of them.
+bool skipColumns(int /*depth*/, nlohmann::json::parse_event_t event, nlohmann::json& parsed) {
+  return event != nlohmann::json::parse_event_t::key || parsed != "columns";
+}
+
 } // namespace
 
 Manifest Manifest::read(const std::filesystem::path& chartFolder) {
@@ -34,7 +39,7 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
   std::ifstream stream(file);
   if (!stream) return manifest;
   try {
-    const nlohmann::json json = nlohmann::json::parse(stream);
+    const nlohmann::json json = nlohmann::json::parse(stream, skipColumns);
     if (!json.is_object()) throw RenderError(fmt::format("{}: not an object", file.native()));
     const std::string name = json.value("name", "");
     if (!name.empty()) manifest.name = name;

@@ -258,7 +258,9 @@ TEST_F(Scatter, MovesStatisticsFromDescriptionsToExtensions) {
   ZephVisualization parsed;
   const char* descriptions[] = {"mean;12.5", "range;1;9", "labeling", "", "count", ";;"};
   for (const char* description : descriptions) {
-    parsed.getSourceVariables().emplace_back().setDescription(description);
+    CTVariableTexts variable;
+    variable.description = description;
+    parsed.addVariable(variable, {});
   }
   chart(registry().CreateChart()).updateVariableStatistics(parsed);
   std::vector<std::string> seen;

@@ -6,6 +6,7 @@
 #include <host/ChartError.h>
 #include <host/Missing.h>
 #include <host/Settings.h>
+#include <host/Version.h>
 #include <nlohmann/json.hpp>
 
 #include "OutputTest.h"
@@ -16,20 +17,21 @@ using Names = std::vector<std::string>;
 
 class FolderSink : public OutputTest {};
 
-CTVariableType variable(const std::string& id, const std::string& source,
-                        const std::string& sourceName) {
-  CTVariableType made;
-  made.id = id;
-  made.source = source;
-  made.sourceName = sourceName;
-  made.label = "Label \"of\" " + id;
-  made.shortLabel = id;
-  made.categorical = sourceName == "V2" ? "true" : "false";
-  if (sourceName == "V2") made.categories = {{"a", "\"A\""}, {"2", "two"}};
+void addVariable(ZephVisualization& chart, const std::string& id, const std::string& source,
+                 const std::string& sourceName) {
+  CTVariableTexts texts{.id = id,
+                        .sourceName = sourceName,
+                        .source = source,
+                        .label = "Label \"of\" " + id,
+                        .shortLabel = id,
+                        .categorical = sourceName == "V2" ? "true" : "false",
+                        .description = {},
+                        .categories = {}};
+  std::vector<CTFormatType> formats;
+  if (sourceName == "V2") texts.categories = {{"a", "\"A\""}, {"2", "two"}};
   if (sourceName == "V1")
-    made.formats = {
-        {"dateTimeFormat", {{"prefix", " WK "}}, {{"dateFormat", {}, {{"week", {}, {}}}}}}};
-  return made;
+    formats = {{"dateTimeFormat", {{"prefix", " WK "}}, {{"dateFormat", {}, {{"week", {}, {}}}}}}};
+  chart.addVariable(texts, formats);
 }
 
 TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
@@ -45,14 +47,14 @@ TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
   columns.SetStringVariableValue(text, 2, "ä");
   columns.SetVariableValue(number, 2, host::systemMissing);
 
-  auto& variables = visualization.getSourceVariables();
-  variables.push_back(variable("x", "source0", "V1"));
-  variables.push_back(variable("aggregate", "x", "V1"));
-  variables.push_back(variable("group", "source0", "V2"));
-  variables[1].addExtension().setAttribute("statistic", "mean");
-  variables[1].addExtension().setAttribute("statistic", "range");
-  variables[1].addExtension().setMin(1);
-  variables[1].addExtension().setMax(host::systemMissing);
+  addVariable(visualization, "x", "source0", "V1");
+  addVariable(visualization, "aggregate", "x", "V1");
+  addVariable(visualization, "group", "source0", "V2");
+  ZephExtensionSV& extension = visualization.getSourceVariables()[1].addExtension();
+  extension.setAttribute("statistic", "mean");
+  extension.setAttribute("statistic", "range");
+  extension.setMin(1);
+  extension.setMax(host::systemMissing);
   customizeCharts(visualization).customizeIciclePlots(true, 3);
 
   const std::string name = "Größe & Gewicht";
@@ -68,14 +70,15 @@ TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
 
   EXPECT_EQ(names(output), (Names{".lock", "0001-gr-e-gewicht", "0002-gr-e-gewicht"}));
   const auto folder = output / "0001-gr-e-gewicht";
-  const Names files = {"chart.xml", "manifest.json", "source0.csv"};
+  const Names files = {"chart.xml", "datapackage.json", "manifest.json", "source0.csv"};
   EXPECT_EQ(names(folder), files);
   for (const std::string& file : files)
     EXPECT_TRUE(read(folder / file) == read(output / "0002-gr-e-gewicht" / file)) << file;
   EXPECT_TRUE(read(folder / "chart.xml") == xml);
   EXPECT_EQ(read(folder / "source0.csv"), "V1,V2\n0.1,\"a\"\"b,c\nd\"\n,\n,ä\n");
-  const auto manifest = nlohmann::ordered_json::parse(read(folder / "manifest.json"));
+  auto manifest = nlohmann::ordered_json::parse(read(folder / "manifest.json"));
   EXPECT_EQ(read(folder / "manifest.json"), manifest.dump(2) + "\n");
+  manifest.erase("files");
   EXPECT_EQ(manifest.dump(), R"({"name":"Größe & Gewicht","description":"a�\"",)"
                              R"("splitHeader":"","template":"","language":"de",)"
                              R"("numberSigns":{"decimal":"·","grouping":""},)"
@@ -91,7 +94,9 @@ TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
                              R"("label":"\"A\""},{"value":"2","label":"two"}]}]},)"
                              R"({"name":"source1","file":"","rows":0,"columns":[]}],)"
                              R"("statistics":{"aggregate":)"
-                             R"({"statistic":"range","min":1.0,"max":null}},"errors":[]})");
+                             R"({"statistic":"range","min":1.0,"max":null}},"errors":[],)"
+                             R"("versions":{"library":")" +
+                                 std::string(host::libraryVersion()) + R"("}})");
   EXPECT_EQ(reports, Names{});
 }
 
@@ -197,7 +202,7 @@ TEST_F(FolderSink, delivers_a_chart_whose_pages_fail_and_says_so) {
   send("bare", pages);
   EXPECT_EQ(names(output / "0001-bare"), (Names{"chart.xml", "manifest.json"}));
   EXPECT_THAT(read(output / "0001-bare/manifest.json"),
-              testing::EndsWith("\"errors\": [\n    \"chart.xml:1:1: not drawn\"\n  ]\n}\n"));
+              testing::HasSubstr("\"errors\": [\n    \"chart.xml:1:1: not drawn\"\n  ],\n"));
   EXPECT_EQ(reports, (Names{"the page of " + (output / "0001-bare").native() +
                                 " was not written: chart.xml:1:1: not drawn",
                             "the gallery of " + output.native() + " was not written: no gallery"}));

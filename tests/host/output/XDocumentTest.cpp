@@ -35,17 +35,20 @@ TEST(XDocument, reads_the_variables_of_the_graph_with_all_that_tells_how_they_ar
   const auto& variables = document.getExternalGraph()->getImplementation().getSourceVariables();
   ASSERT_EQ(variables.size(), 2U);
   const CTVariableType& first = variables[0];
-  EXPECT_EQ((std::vector{first.id, first.sourceName, first.source, first.categorical, first.label,
-                         first.shortLabel, first.getDescription()}),
-            (std::vector<std::string>{"variable3", "V3", "source0", "false", "Body\nmass", "mäss",
-                                      "mean;12.5"}));
-  EXPECT_EQ(shown(first.formats),
+  EXPECT_EQ((std::vector<std::string_view>{first.id(), first.sourceName(), first.source(),
+                                           first.label(), first.shortLabel()}),
+            (std::vector<std::string_view>{"variable3", "V3", "source0", "Body\nmass", "mäss"}));
+  EXPECT_EQ(first.getDescription(), "mean;12.5");
+  EXPECT_FALSE(first.isCategorical());
+  EXPECT_EQ(shown(first.formats()),
             "dateTimeFormat(prefix= WK ,dateFormat(week()year(showCentury=true,))timeFormat())");
-  EXPECT_EQ(first.categories,
-            (std::vector<std::pair<std::string, std::string>>{{"1", "éins"}, {"2", "zwei"}}));
-  EXPECT_EQ(variables[1].id, "variable4");
-  EXPECT_TRUE(variables[1].formats.empty() && variables[1].categories.empty());
-  EXPECT_EQ(variables[1].source + variables[1].getDescription(), "");
+  EXPECT_EQ(first.categories(), (std::vector<std::pair<std::string_view, std::string_view>>{
+                                    {"1", "éins"}, {"2", "zwei"}}));
+  EXPECT_EQ(variables[1].id(), "variable4");
+  EXPECT_TRUE(variables[1].isCategorical());
+  EXPECT_TRUE(variables[1].formats().empty() && variables[1].categories().empty());
+  EXPECT_EQ(variables[1].source(), "");
+  EXPECT_EQ(variables[1].getDescription(), "");
 }
 
 TEST(XDocument, refuses_what_is_no_chart_document_with_line_and_column) {

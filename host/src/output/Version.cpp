@@ -1,0 +1,3 @@
+#include <host/Version.h>
+
+const char* host::libraryVersion() { return CHARTXML_VERSION; }

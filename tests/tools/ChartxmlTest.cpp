@@ -1,0 +1,229 @@
+#include <ostream>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+#include <host/Version.h>
+#include <nlohmann/json.hpp>
+
+#include "tools/CommandTest.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+class Command : public CommandTest {};
+
+/// What is done to the chart folder first, what is called then, and what comes of it.
+struct Case {
+  std::string before;
+  std::string arguments;
+  Outcome run;
+};
+
+void PrintTo(const Case& tried, std::ostream* out) {
+  *out << tried.before << "; chartxml " << tried.arguments;
+}
+
+class CommandOnChart : public CommandTest, public testing::WithParamInterface<Case> {};
+
+TEST_P(CommandOnChart, SaysWhatItFindsAndEndsWithItsStatus) {
+  const auto& [before, arguments, run] = GetParam();
+  ASSERT_EQ(shell("cd charts/0001-small && " + before), (Outcome{0, ""}));
+  EXPECT_EQ(chartxml(arguments), run);
+}
+
+constexpr const char* moreHelp = "Run with --help for more information.\n";
+
+INSTANTIATE_TEST_SUITE_P(
+    Usage, CommandOnChart,
+    testing::Values(
+        Case{"true", "--version", {0, fmt::format("chartxml {}\n", host::libraryVersion())}},
+        Case{"true",
+             "frobnicate",
+             {2, fmt::format("The following argument was not expected: frobnicate\n{}", moreHelp)}},
+        Case{"true", "verify", {2, fmt::format("folder is required\n{}", moreHelp)}},
+        Case{"true",
+             "render nix",
+             {2, fmt::format("folder: Directory does not exist: nix\n{}", moreHelp)}},
+        Case{"mkdir ../../none",
+             "info none",
+             {2, "chartxml: none: no chart here or one folder below\n"}},
+        Case{"true", "info charts >/dev/full", {3, "chartxml: the output cannot be written\n"}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Verify, CommandOnChart,
+    testing::Values(
+        Case{"true", "verify charts/", {0, "1 chart, 0 findings\n"}},
+        Case{"echo >>chart.xml; rm source0.csv; mkdir sub; touch .hidden",
+             "verify charts",
+             {1, "charts/0001-small/chart.xml: changed\n"
+                 "charts/0001-small/source0.csv: missing\n"
+                 "charts/0001-small/.hidden: extra\n"
+                 "charts/0001-small/sub/: extra\n"
+                 "1 chart, 4 findings\n"}},
+        Case{"rm chart.xml; echo >>source0.csv", "verify charts --json", {1, R"({
+  "charts": [
+    {
+      "folder": "charts/0001-small",
+      "findings": [
+        {
+          "file": "chart.xml",
+          "is": "missing"
+        },
+        {
+          "file": "source0.csv",
+          "is": "changed"
+        }
+      ]
+    }
+  ]
+}
+)"}},
+        Case{"rm manifest.json",
+             "verify charts/0001-small",
+             {1, "charts/0001-small/manifest.json: missing\n1 chart, 1 finding\n"}},
+        Case{"echo '{\"name\": \"a\"}' >manifest.json",
+             "verify charts",
+             {1, "charts/0001-small/manifest.json: damaged: it lists no files\n"
+                 "1 chart, 1 finding\n"}},
+        Case{"echo '{\"files\": {\"../x\": \"sha256:0\"}' >manifest.json",
+             "verify charts",
+             {1, "charts/0001-small/manifest.json: damaged: 1:31: "
+                 "syntax error while parsing object - unexpected end of input; expected '}'\n"
+                 "1 chart, 1 finding\n"}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Validate, CommandOnChart,
+    testing::Values(
+        Case{"cp '" GOOD_CHART "' chart.xml",
+             "validate charts charts/0001-small/chart.xml",
+             {0, "2 documents, 0 findings\n"}},
+        Case{"printf '<graph>\\n<odd></graph>' >chart.xml",
+             "validate charts",
+             {1, "charts/0001-small/chart.xml:2:6: graph/odd: does not belong here\n"
+                 "charts/0001-small/chart.xml:2:8: graph/odd: expected end of tag 'odd'\n"
+                 "1 document, 2 findings\n"}},
+        Case{"printf '<graph' >bad.xml", "validate --json charts/0001-small/bad.xml", {1, R"({
+  "documents": [
+    {
+      "file": "charts/0001-small/bad.xml",
+      "findings": [
+        {
+          "line": 1,
+          "column": 7,
+          "reason": "unexpected end of input"
+        }
+      ]
+    }
+  ]
+}
+)"}},
+        Case{"rm chart.xml",
+             "validate charts",
+             {3, "chartxml: charts/0001-small/chart.xml: No such file or directory\n"}}));
+
+TEST_F(Command, TellsWhatAChartIs) {
+  EXPECT_THAT(chartxml("info charts").text, HasSubstr(R"(charts/0001-small
+  name         small
+  description  A small chart.
+  language     en
+  source       source0: 3 rows, 3 columns
+    A          number               A label
+    B          number               )"
+                                                      "\n"
+                                                      R"(    Group      string  categorical  Group
+               1 value label
+  file         chart.html)"));
+  ASSERT_EQ(chartxml("info charts --json >info.json"), (Outcome{0, ""}));
+  const auto info = nlohmann::json::parse(scratch.read("info.json"))["charts"][0];
+  EXPECT_EQ(info["sources"][0]["rows"], 3);
+  EXPECT_EQ(info["files"]["source0.csv"], files().at("source0.csv").size());
+  EXPECT_EQ(info["versions"]["library"], host::libraryVersion());
+  EXPECT_EQ(info["notes"], nlohmann::json::array());
+}
+
+TEST_F(Command, MakesTheSameBytesAgain) {
+  const auto sent = files();
+  const Outcome opened{0, "open /charts/index.html\n"};
+  ASSERT_EQ(shell("rm charts/0001-small/chart.html && $chartxml render charts"), opened);
+  EXPECT_EQ(files(), sent);
+  ASSERT_EQ(chartxml("render charts/0001-small --svg --png"), opened);
+  EXPECT_EQ(chartxml("verify charts"), (Outcome{0, "1 chart, 0 findings\n"}));
+  auto drawn = files();
+  ASSERT_EQ(chartxml("render charts --svg --png"), opened);
+  EXPECT_EQ(files(), drawn);
+  EXPECT_THAT(drawn.at("chart.svg"), HasSubstr("<svg"));
+  EXPECT_EQ(drawn.at("chart.png").substr(1, 3), "PNG");
+  for (const char* picture : {"chart.svg", "chart.png"})
+    drawn.erase(picture);
+  drawn["manifest.json"] = sent.at("manifest.json");
+  EXPECT_EQ(drawn, sent);
+}
+
+TEST_F(Command, RendersWhatWasChangedWithoutListingTheChange) {
+  ASSERT_EQ(shell("cd charts/0001-small && sed -i 's/A label/An edit/' chart.xml"),
+            (Outcome{0, ""}));
+  EXPECT_EQ(chartxml("render charts").status, 0);
+  EXPECT_THAT(scratch.read("charts/0001-small/chart.html"), HasSubstr("An edit"));
+  EXPECT_EQ(chartxml("verify charts"),
+            (Outcome{1, "charts/0001-small/chart.xml: changed\n1 chart, 1 finding\n"}));
+}
+
+TEST_F(Command, NamesChartsThatCannotBeDrawnAndDrawsTheOthers) {
+  const auto errors = [&] {
+    return nlohmann::json::parse(scratch.read("charts/0001-small/manifest.json"))["errors"].dump();
+  };
+  ASSERT_EQ(shell("cp -r charts/0001-small charts/0002-good; cd charts/0001-small; "
+                  "mv chart.xml kept; echo '<graph' >chart.xml"),
+            (Outcome{0, ""}));
+  EXPECT_EQ(chartxml("render charts --svg"),
+            (Outcome{1, "chartxml: charts/0001-small/chart.xml:2:1: unexpected end of input\n"
+                        "open /charts/index.html\n"}));
+  EXPECT_EQ(errors(), R"(["chart.xml:2:1: unexpected end of input"])");
+  EXPECT_THAT(scratch.read("charts/0002-good/chart.svg"), HasSubstr("<svg"));
+  ASSERT_EQ(shell("mv charts/0001-small/kept charts/0001-small/chart.xml; "
+                  "$chartxml render charts/0001-small && $chartxml verify charts"),
+            (Outcome{0, "open /charts/index.html\n2 charts, 0 findings\n"}));
+  EXPECT_EQ(errors(), "[]");
+}
+
+TEST_F(Command, SaysThatPicturesCannotBeDrawn) {
+  EXPECT_EQ(chartxml("render charts --png --node /bin/false"),
+            (Outcome{1, "chartxml: not all pictures could be drawn\nopen /charts/index.html\n"}));
+  EXPECT_EQ(chartxml("render charts --png --node /etc/passwd"),
+            (Outcome{3, "chartxml: /etc/passwd: Permission denied\n"}));
+  ASSERT_EQ(shell("mkdir charts/0001-small/chart.svg"), (Outcome{0, ""}));
+  const Outcome outcome = chartxml("render charts --svg");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.text, testing::StartsWith("chartxml: charts/0001-small: the picture cannot "
+                                                "be drawn: EISDIR: illegal operation"));
+}
+
+TEST_F(Command, MakesTheGalleryAnew) {
+  ASSERT_EQ(shell("rm -r charts/index.html charts/runtime; $chartxml gallery charts"),
+            (Outcome{0, ""}));
+  EXPECT_THAT(scratch.read("charts/index.html"), HasSubstr("0001-small/chart.html"));
+  EXPECT_FALSE(scratch.read("charts/runtime/chartxml-page.js").empty());
+}
+
+TEST_F(Command, IsCompletedByTheShellWithItsOwnVerbsAndOptions) {
+  const auto completed = [&](const std::string& words, int at) {
+    return shell(fmt::format("bash -c 'source <($chartxml completion bash); compopt() {{ :; }}; "
+                             "COMP_WORDS=({}); COMP_CWORD={}; _chartxml; echo ${{COMPREPLY[@]}}'",
+                             words, at))
+        .text;
+  };
+  EXPECT_EQ(completed("chartxml v", 1), "validate verify\n");
+  EXPECT_EQ(completed("chartxml render --", 2), "--help --svg --png --node\n");
+  EXPECT_EQ(completed("chartxml verify charts/0", 2), "charts/0001-small\n");
+  EXPECT_EQ(completed("chartxml validate charts/0001-small/chart.x", 2),
+            "charts/0001-small/chart.xml\n");
+  EXPECT_THAT(chartxml("completion zsh").text,
+              HasSubstr("  gallery)\n    _arguments \\\n"
+                        "      '--help[Print this help message and exit]' \\\n"
+                        "      '*:folder:_files -/' ;;\n"));
+}
+
+} // namespace

@@ -1,0 +1,90 @@
+#include <cerrno>
+#include <charconv>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <stdexcept>
+#include <string_view>
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+#include <schema/SchemaCheck.h>
+
+#include "Charts.h"
+#include "Output.h"
+#include "Verbs.h"
+
+namespace tools {
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::ordered_json;
+
+std::vector<fs::path> documentsOf(const Arguments& filesOrFolders) {
+  std::vector<fs::path> documents;
+  for (const std::string& argument : filesOrFolders) {
+    if (!fs::is_directory(argument)) {
+      documents.emplace_back(argument);
+      continue;
+    }
+    for (const fs::path& chart : findCharts({argument}))
+      documents.push_back(chart / "chart.xml");
+  }
+  return documents;
+}
+
+std::string read(const fs::path& file) {
+  errno = 0;
+  std::ifstream stream(file, std::ios::binary);
+  std::string bytes(std::istreambuf_iterator<char>(stream), {});
+  if (stream && !stream.bad()) return bytes;
+  throw std::runtime_error(fmt::format("{}: {}", file.native(), std::strerror(errno)));
+}
+
+/// {"line": 3, "column": 12, "reason": "..."}; a finding about the whole document has no
+/// place.
+ordered_json findingJson(std::string_view finding) {
+  ordered_json json = ordered_json::object();
+  for (const char* name : {"line", "column"}) {
+    unsigned number = 0;
+    const char* const end = finding.data() + finding.size();
+    const auto [at, error] = std::from_chars(finding.data(), end, number);
+    if (error != std::errc() || at == end || *at != ':') break;
+    json[name] = number;
+    finding.remove_prefix(static_cast<std::size_t>(at - finding.data()) + 1);
+  }
+  if (finding.starts_with(' ')) finding.remove_prefix(1);
+  json["reason"] = finding;
+  return json;
+}
+
+} // namespace
+
+Status validate(const Arguments& filesOrFolders, bool asJson) {
+  const std::vector<fs::path> documents = documentsOf(filesOrFolders);
+  const schema::SchemaCheck check;
+  ordered_json json = ordered_json::array();
+  std::size_t count = 0;
+  for (const fs::path& document : documents) {
+    const std::vector<std::string> found = check.findings(read(document));
+    count += found.size();
+    ordered_json list = ordered_json::array();
+    for (const std::string& finding : found) {
+      if (asJson)
+        list.push_back(findingJson(finding));
+      else
+        std::cout << fmt::format("{}:{}\n", document.native(), finding);
+    }
+    json.push_back({{"file", document.native()}, {"findings", std::move(list)}});
+  }
+  if (asJson)
+    print({{"documents", std::move(json)}});
+  else
+    std::cout << fmt::format("{}, {}\n", counted(documents.size(), "document"),
+                             counted(count, "finding"));
+  return count == 0 ? good : findings;
+}
+
+} // namespace tools
