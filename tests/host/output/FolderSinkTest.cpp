@@ -109,13 +109,12 @@ TEST_F(FolderSink, describes_each_column_by_the_variables_of_its_source) {
     columns.AddVariable(source, "casenum", column);
     columns.SetVariableValue(column, 0, 1);
   }
-  auto& variables = visualization.getSourceVariables();
   for (const auto& [id, source] : {std::pair{"mean of mean", "mean"},
                                    {"mean", "base"},
                                    {"base", "source1"},
                                    {"lost", "nowhere"},
                                    {"circle", "circle"}})
-    variables.push_back(variable(id, source, "casenum"));
+    addVariable(visualization, id, source, "casenum");
   data = &columns;
   send("two");
   const auto manifest = nlohmann::json::parse(read(output / "0001-two/manifest.json"));
