@@ -55,13 +55,17 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Verify, CommandOnChart,
     testing::Values(
+        Case{"sed -i 's|\"files\": {|&\"../../secret\": \"sha256:0\",|' manifest.json; touch "
+             "../../secret",
+             "verify charts",
+             {1, "charts/0001-small/../../secret: missing\n1 chart, 1 finding\n"}},
         Case{"true", "verify charts/", {0, "1 chart, 0 findings\n"}},
-        Case{"echo >>chart.xml; rm source0.csv; mkdir sub; touch .hidden",
+        Case{"echo >>chart.xml; rm source0.csv; mkdir sub; touch .hidden sub/x",
              "verify charts",
              {1, "charts/0001-small/chart.xml: changed\n"
                  "charts/0001-small/source0.csv: missing\n"
                  "charts/0001-small/.hidden: extra\n"
-                 "charts/0001-small/sub/: extra\n"
+                 "charts/0001-small/sub/x: extra\n"
                  "1 chart, 4 findings\n"}},
         Case{"rm chart.xml; echo >>source0.csv", "verify charts --json", {1, R"({
   "charts": [

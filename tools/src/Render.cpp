@@ -34,11 +34,12 @@ std::vector<std::string> drawPage(const fs::path& chart, const Progress& progres
 /// What the manifest lists. A manifest that cannot be read keeps the page from being
 /// drawn, which tells of it.
 host::ChartFiles listedIn(const fs::path& chart) {
+  if (!fs::exists(chart / host::manifestName)) return {};
   try {
-    if (fs::exists(chart / host::manifestName)) return host::readChartFiles(chart);
+    return host::readChartFiles(chart);
   } catch (const host::DataError&) {
+    return {};
   }
-  return {};
 }
 
 /// Lists what was made in the manifest. What was not made is not looked at: a file that

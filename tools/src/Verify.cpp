@@ -24,11 +24,15 @@ struct Finding {
   std::string why{};
 };
 
+/// A manifest may come from anywhere; what it names outside of its folder is not read.
+bool leadsOut(const fs::path& name) {
+  return name.is_absolute() || std::ranges::find(name, "..") != name.end();
+}
+
 std::optional<Finding> compare(const fs::path& folder, const std::string& name,
                                const std::string& hash) {
   const fs::path file = folder / name;
-  const bool isHere = name == file.filename() && fs::is_regular_file(file);
-  if (!isHere) return Finding{"missing", name};
+  if (leadsOut(name) || !fs::is_regular_file(file)) return Finding{"missing", name};
   if (host::hashOf(file) != hash) return Finding{"changed", name};
   return std::nullopt;
 }

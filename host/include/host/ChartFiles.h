@@ -21,8 +21,8 @@ struct ChartFiles {
 /// "sha256:<64 hex digits>" of a file's bytes. Throws ChartException.
 std::string hashOf(const std::filesystem::path& file);
 
-/// The names in a chart folder but the manifest's, in order; those of folders end in
-/// a slash. Throws ChartException.
+/// The names of the files in a chart folder and below it, in order, but the manifest's.
+/// Throws ChartException.
 std::vector<std::string> filesIn(const std::filesystem::path& chartFolder);
 
 /// Reads the end of a chart folder's manifest; empty members where it has none. Throws

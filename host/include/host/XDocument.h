@@ -58,24 +58,34 @@ struct CTVariableTexts {
   std::vector<std::pair<std::string, std::string>> categories;
 };
 
-/// One variable of the parsed chart. There may be tens of thousands, so its texts are
-/// packed into one piece of memory; none of them may hold a NUL.
+/// What many variables of a chart have in common.
+struct CTVariableKind {
+  std::string source;
+  bool isCategorical = false;
+  std::vector<CTFormatType> formats;
+
+  bool operator<(const CTVariableKind& other) const;
+};
+
+/// One variable of the parsed chart, whose ZephVisualization holds its texts.
 class CTVariableType {
 public:
-  /// Borrows the formats.
-  CTVariableType(const CTVariableTexts& texts, const std::vector<CTFormatType>& formats);
+  /// Borrows the kind, and the packed texts: id, column, label, short label, description
+  /// and the categories' values and labels, each with a NUL at its end.
+  CTVariableType(const CTVariableKind& kind, const char* texts, std::size_t categoryCount)
+      : kind_(&kind), texts_(texts), categoryCount_(static_cast<std::uint32_t>(categoryCount)) {}
 
   std::string_view id() const { return text(0); }
   std::string_view sourceName() const { return text(1); }
-  std::string_view source() const { return text(2); }
-  std::string_view label() const { return text(3); }
-  std::string_view shortLabel() const { return text(4); }
-  bool isCategorical() const { return text(5) == "true"; }
+  std::string_view label() const { return text(2); }
+  std::string_view shortLabel() const { return text(3); }
+  const std::string& source() const { return kind_->source; }
+  bool isCategorical() const { return kind_->isCategorical; }
+  const std::vector<CTFormatType>& formats() const { return kind_->formats; }
   /// Pairs of value and label.
   std::vector<std::pair<std::string_view, std::string_view>> categories() const;
-  const std::vector<CTFormatType>& formats() const { return *formats_; }
 
-  std::string getDescription() const { return std::string(isDescribed_ ? text(6) : ""); }
+  std::string getDescription() const { return std::string(isDescribed_ ? text(4) : ""); }
   void removeDescription() { isDescribed_ = false; }
 
   ZephExtensionSV* getExtension() const { return extension_.get(); }
@@ -83,17 +93,19 @@ public:
   ZephExtensionSV& addExtension();
 
 private:
-  static constexpr std::size_t textCount = 7; ///< before the categories
+  static constexpr std::size_t textCount = 5; ///< before the categories
   std::string_view text(std::size_t index) const;
 
-  std::unique_ptr<char[]> texts_; ///< each with a NUL at its end
-  const std::vector<CTFormatType>* formats_;
+  const CTVariableKind* kind_;
+  const char* texts_;
   std::unique_ptr<ZephExtensionSV> extension_;
   std::uint32_t categoryCount_;
   bool isDescribed_ = true;
 };
 
-/// The chart as the output system reads it back from the document.
+/// The chart as the output system reads it back from the document. Its variables may be
+/// tens of thousands: their texts are packed into blocks, without a NUL in them, and what
+/// they have in common is kept once.
 class ZephVisualization {
 public:
   void addVariable(const CTVariableTexts& texts, std::vector<CTFormatType> formats);
@@ -104,7 +116,12 @@ public:
   std::size_t icicleRows = 0;
 
 private:
-  std::set<std::vector<CTFormatType>> formats_; ///< few differ: each is kept once
+  const char* keep(std::string_view packed);
+
+  std::vector<std::unique_ptr<char[]>> blocks_;
+  char* free_ = nullptr; ///< in the last block
+  std::size_t freeCount_ = 0;
+  std::set<CTVariableKind> kinds_;
   std::deque<CTVariableType> variables_;
 };
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 #include <fcntl.h>
 #include <fmt/format.h>
@@ -132,10 +133,11 @@ std::string hashOf(const fs::path& file) {
 std::vector<std::string> filesIn(const fs::path& chartFolder) {
   std::vector<std::string> names;
   std::error_code error;
-  for (fs::directory_iterator entry(chartFolder, error), end; !error && entry != end;
+  for (fs::recursive_directory_iterator entry(chartFolder, error), end; !error && entry != end;
        entry.increment(error)) {
-    const std::string name = entry->path().filename().native();
-    if (name != manifestName) names.push_back(entry->is_directory() ? name + "/" : name);
+    const bool isFolder = entry->is_directory() && !entry->is_symlink();
+    std::string name = entry->path().lexically_relative(chartFolder).native();
+    if (!isFolder && name != manifestName) names.push_back(std::move(name));
   }
   if (error) fail("read", chartFolder, error);
   std::ranges::sort(names);

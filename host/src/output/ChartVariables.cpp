@@ -2,49 +2,56 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <numeric>
 
 namespace host {
 
-ChartVariables::ChartVariables(const ZephVisualization& chart, const VarDataProcessor& data) {
+ChartVariables::ChartVariables(const ZephVisualization& chart, const VarDataProcessor& data)
+    : chart_(chart) {
   if (data.sources().empty()) return;
   for (const auto& source : data.sources())
-    ofSource_[source.name];
-  Variables& first = ofSource_.at(data.sources().front().name);
-  ById byId;
-  for (const CTVariableType& variable : chart.getSourceVariables()) {
-    // The store gives a variable of a source that it does not know the first one.
-    Variables* known = sourceOf(variable, chart, byId);
-    (known ? *known : first).push_back(&variable);
+    sources_.insert(source.name);
+  firstSource_ = data.sources().front().name;
+  byPlace_.resize(chart.getSourceVariables().size());
+  std::iota(byPlace_.begin(), byPlace_.end(), 0U);
+  const auto isComputed = [&](std::uint32_t index) {
+    return !sources_.contains(variable(index).source());
+  };
+  if (std::ranges::any_of(byPlace_, isComputed)) {
+    for (const std::uint32_t index : byPlace_)
+      byId_.emplace(variable(index).id(), index);
   }
-  for (auto& [name, variables] : ofSource_)
-    std::ranges::stable_sort(variables, {}, &CTVariableType::sourceName);
+  std::ranges::sort(byPlace_, {},
+                    [&](std::uint32_t index) { return std::pair(placeOf(index), index); });
+}
+
+ChartVariables::Place ChartVariables::placeOf(std::uint32_t index) const {
+  return {sourceOf(index), variable(index).sourceName()};
 }
 
 // A computed variable names the variable that it stands on where others name their
-// source. No such way is longer than there are variables.
-ChartVariables::Variables* ChartVariables::sourceOf(const CTVariableType& variable,
-                                                    const ZephVisualization& chart, ById& byId) {
-  const CTVariableType* at = &variable;
-  for (std::size_t hops = 0; hops <= chart.getSourceVariables().size(); ++hops) {
-    if (const auto source = ofSource_.find(at->source()); source != ofSource_.end())
-      return &source->second;
-    if (byId.empty()) {
-      for (const CTVariableType& other : chart.getSourceVariables())
-        byId.emplace(other.id(), &other);
-    }
-    const auto next = byId.find(at->source());
-    if (next == byId.end()) return nullptr;
-    at = next->second;
+// source; no such way is longer than there are variables. The store gives a variable
+// of a source that it does not know the first one.
+std::string_view ChartVariables::sourceOf(std::uint32_t index) const {
+  for (std::size_t hops = 0; hops <= byPlace_.size(); ++hops) {
+    const std::string& source = variable(index).source();
+    if (sources_.contains(source)) return source;
+    const auto next = byId_.find(source);
+    if (next == byId_.end()) break;
+    index = next->second;
   }
-  return nullptr;
+  return firstSource_;
 }
 
-std::span<const CTVariableType* const>
+std::vector<const CTVariableType*>
 ChartVariables::of(const VarDataProcessor::Source& source,
                    const VarDataProcessor::Variable& column) const {
-  const auto found = std::ranges::equal_range(
-      ofSource_.at(source.name), std::string_view(column.name), {}, &CTVariableType::sourceName);
-  return {found.begin(), found.end()};
+  std::vector<const CTVariableType*> variables;
+  const auto found = std::ranges::equal_range(byPlace_, Place(source.name, column.name), {},
+                                              [&](std::uint32_t index) { return placeOf(index); });
+  for (const std::uint32_t index : found)
+    variables.push_back(&variable(index));
+  return variables;
 }
 
 } // namespace host

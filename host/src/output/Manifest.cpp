@@ -1,8 +1,8 @@
 #include "output/Manifest.h"
 
 #include <source_location>
-#include <span>
 #include <string_view>
+#include <vector>
 
 #include <fmt/format.h>
 #include <host/ChartError.h>
@@ -20,7 +20,7 @@ namespace {
 
 using nlohmann::ordered_json;
 using Source = VarDataProcessor::Source;
-using Variables = std::span<const CTVariableType* const>;
+using Variables = std::vector<const CTVariableType*>;
 
 /// {"numberFormat": {"prefix": "$"}}, {"dateTimeFormat": {"dateFormat": {"year": {}}}}
 ordered_json formatsJson(const std::vector<CTFormatType>& formats) {

@@ -23,24 +23,13 @@ bool CTFormatType::operator<(const CTFormatType& other) const {
   return std::tie(kind, attributes, parts) < std::tie(other.kind, other.attributes, other.parts);
 }
 
-CTVariableType::CTVariableType(const CTVariableTexts& texts,
-                               const std::vector<CTFormatType>& formats)
-    : formats_(&formats), categoryCount_(static_cast<std::uint32_t>(texts.categories.size())) {
-  std::string packed;
-  const auto pack = [&](const std::string& text) { packed.append(text).push_back('\0'); };
-  for (const std::string* text : {&texts.id, &texts.sourceName, &texts.source, &texts.label,
-                                  &texts.shortLabel, &texts.categorical, &texts.description})
-    pack(*text);
-  for (const auto& [value, label] : texts.categories) {
-    pack(value);
-    pack(label);
-  }
-  texts_ = std::make_unique_for_overwrite<char[]>(packed.size());
-  std::ranges::copy(packed, texts_.get());
+bool CTVariableKind::operator<(const CTVariableKind& other) const {
+  return std::tie(source, isCategorical, formats) <
+         std::tie(other.source, other.isCategorical, other.formats);
 }
 
 std::string_view CTVariableType::text(std::size_t index) const {
-  std::string_view text = texts_.get();
+  std::string_view text = texts_;
   while (index-- > 0)
     text = text.data() + text.size() + 1;
   return text;
@@ -60,7 +49,30 @@ std::vector<std::pair<std::string_view, std::string_view>> CTVariableType::categ
 
 void ZephVisualization::addVariable(const CTVariableTexts& texts,
                                     std::vector<CTFormatType> formats) {
-  variables_.emplace_back(texts, *formats_.insert(std::move(formats)).first);
+  std::string packed;
+  const auto pack = [&](const std::string& text) { packed.append(text).push_back('\0'); };
+  for (const std::string* text :
+       {&texts.id, &texts.sourceName, &texts.label, &texts.shortLabel, &texts.description})
+    pack(*text);
+  for (const auto& [value, label] : texts.categories) {
+    pack(value);
+    pack(label);
+  }
+  const CTVariableKind& kind =
+      *kinds_.insert({texts.source, texts.categorical == "true", std::move(formats)}).first;
+  variables_.emplace_back(kind, keep(packed), texts.categories.size());
+}
+
+const char* ZephVisualization::keep(std::string_view packed) {
+  constexpr std::size_t blockSize = std::size_t{1} << 16;
+  if (packed.size() > freeCount_) {
+    freeCount_ = std::max(blockSize, packed.size());
+    free_ = blocks_.emplace_back(std::make_unique_for_overwrite<char[]>(freeCount_)).get();
+  }
+  char* const kept = free_;
+  free_ = std::ranges::copy(packed, kept).out;
+  freeCount_ -= packed.size();
+  return kept;
 }
 
 ZephExtensionSV& CTVariableType::addExtension() {
