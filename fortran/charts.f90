@@ -4,9 +4,12 @@ module charts
   use, intrinsic :: iso_c_binding, only: c_double, c_int64_t, c_null_ptr, c_ptr
   use, intrinsic :: iso_fortran_env, only: error_unit
   use chartxml
+  use korva, only: data_set
   implicit none
   private
-  public :: create_chart, describe_chart, write_text, store_numbers
+  public :: open_observations
+  public :: create_chart, describe_chart, write_text, declared_variable, computed_variable
+  public :: store_numbers, title_axis
   public :: text, translated, composed, listed, number_text, variable_label
   public :: display_format, format_type
   public :: made, make, require
@@ -21,15 +24,32 @@ module charts
 
   ! String handles of the predefined words that procedures name most.
   integer(cx), parameter, public :: word_footnote = 13, word_subtitle = 16, word_title = 17
-  integer(cx), parameter, public :: word_line = 21, word_point = 23
-  integer(cx), parameter, public :: word_style_by = 36
-  integer(cx), parameter, public :: word_simple_line = 43, word_scatter = 96
+  integer(cx), parameter, public :: word_interval = 20, word_line = 21, word_point = 23
+  integer(cx), parameter, public :: word_polar = 31, word_style_by = 36
+  integer(cx), parameter, public :: word_simple_bar = 41, word_simple_line = 43
+  integer(cx), parameter, public :: word_dodge = 88, word_natural = 93, word_scatter = 96
+  integer(cx), parameter, public :: word_count = 140, word_clustered_bar = 146
 
   ! Type codes of display formats.
   integer, parameter, public :: text_format = 1, dollar_format = 4, plain_format = 5
   integer, parameter, public :: percent_format = 31
 
 contains
+
+  !> Opens the data set that the command line names, else the one at `otherwise`; variable v
+  !> of the run is the column names(v).
+  subroutine open_observations(observations, otherwise, names)
+    type(data_set), intent(inout) :: observations
+    character(*), intent(in) :: otherwise, names(:)
+    character(:), allocatable :: path
+    integer :: columns(size(names)), v
+
+    path = first_argument(otherwise)
+    call require(observations%open(path), 'cannot open the data set '//path)
+    columns = [(observations%find_column(trim(names(v))), v=1, size(names))]
+    call require(all(columns > 0), 'this is not the data set that was expected')
+    call require(observations%use_variables(columns), 'cannot use the variables')
+  end subroutine
 
   !> cx_createchartex for the data set behind `dictionary`.
   function create_chart(dictionary, procedure_name, source, graph, data) result(chart)
@@ -57,6 +77,33 @@ contains
 
     call make('a text of the chart', &
       cx_addframewithlabel(chart, graph, style, 1_cx, made('a text', string)))
+  end subroutine
+
+  !> A variable of the run as a variable of the chart.
+  function declared_variable(chart, source, number, categorical) result(variable)
+    integer(cx), intent(in) :: chart, source, number, categorical
+    integer(cx) :: variable
+
+    variable = made('a variable', cx_addvariable(chart, source, number, categorical))
+  end function
+
+  !> A variable whose values the procedure computes, with its label and display format.
+  function computed_variable(chart, source, label, format) result(variable)
+    integer(cx), intent(in) :: chart, source, label, format
+    integer(cx) :: variable
+
+    variable = made('a computed variable', cx_addaggregate(chart, source, absent, false, &
+      made('a text', label), absent, absent))
+    if (format /= absent) &
+      call make('a display format', cx_setvariableformat(chart, variable, format))
+  end function
+
+  !> Puts a title beside an axis or above a legend, in the node's own style.
+  subroutine title_axis(chart, axis, style, string)
+    integer(cx), intent(in) :: chart, axis, style, string
+
+    call make('the title of an axis or legend', &
+      cx_addlabel(chart, axis, style, made('a text', string)))
   end subroutine
 
   !> Stores a number in each of the columns of the row that was added last.
