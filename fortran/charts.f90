@@ -9,7 +9,7 @@ module charts
   private
   public :: open_observations
   public :: create_chart, describe_chart, write_text, declared_variable, computed_variable
-  public :: store_numbers, title_axis
+  public :: start_row, store_numbers, title_axis
   public :: text, translated, composed, listed, number_text, variable_label
   public :: display_format, format_type
   public :: made, make, require
@@ -87,12 +87,16 @@ contains
     variable = made('a variable', cx_addvariable(chart, source, number, categorical))
   end function
 
-  !> A variable whose values the procedure computes, with its label and display format.
-  function computed_variable(chart, source, label, format) result(variable)
+  !> A variable whose values the procedure computes, with its label and display format;
+  !> word_count as name when it counts cases.
+  function computed_variable(chart, source, label, format, name) result(variable)
     integer(cx), intent(in) :: chart, source, label, format
-    integer(cx) :: variable
+    integer(cx), intent(in), optional :: name
+    integer(cx) :: variable, used
 
-    variable = made('a computed variable', cx_addaggregate(chart, source, absent, false, &
+    used = absent
+    if (present(name)) used = name
+    variable = made('a computed variable', cx_addaggregate(chart, source, used, false, &
       made('a text', label), absent, absent))
     if (format /= absent) &
       call make('a display format', cx_setvariableformat(chart, variable, format))
@@ -104,6 +108,12 @@ contains
 
     call make('the title of an axis or legend', &
       cx_addlabel(chart, axis, style, made('a text', string)))
+  end subroutine
+
+  subroutine start_row(chart, source)
+    integer(cx), intent(in) :: chart, source
+
+    call require(cx_addrow(chart, source) >= 0, 'cannot add a row')
   end subroutine
 
   !> Stores a number in each of the columns of the row that was added last.

@@ -200,7 +200,7 @@ contains
     plot%x = declared_variable(plot%chart, plot%source, merge(day, number, shown%over_days), false)
     plot%y = declared_variable(plot%chart, plot%source, population, false)
     do i = 1, size(x)
-      call require(cx_addrow(plot%chart, plot%source) >= 0, 'cannot add a row')
+      call start_row(plot%chart, plot%source)
       call store_numbers(plot%chart, plot%source, [plot%x, plot%y], [x(i), cases%population(i)])
     end do
     call draw_axes(plot, shown)

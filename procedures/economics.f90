@@ -196,7 +196,7 @@ contains
 
     do i = 1, size(cases%date)
       g = cases%group(i)
-      call require(cx_addrow(plot%chart, plot%source) >= 0, 'cannot add a row')
+      call start_row(plot%chart, plot%source)
       call store_numbers(plot%chart, plot%source, &
         [plot%decade, plot%date, plot%value, plot%trend], &
         [real(cases%decades(g), dp), cases%date(i), shown%value(i), &

@@ -89,7 +89,7 @@ contains
     type(sample), intent(in) :: cases
     integer, intent(in) :: i
 
-    call require(cx_addrow(chart, source) >= 0, 'cannot add a row')
+    call start_row(chart, source)
     call require(cx_adddatavalue(chart, source, variable, cases%groups(cases%group(i))%name) >= 0, &
       'cannot store a group')
   end subroutine
