@@ -20,7 +20,6 @@ program titanic
   ! The variables of this run, in the order in which they are opened, and their codes.
   integer(cx), parameter :: class = 1, sex = 2, age = 3, fate = 4, persons = 5
   integer, parameter :: female = 2, child = 1, survivor = 1
-
   integer(cx), parameter :: theta_role = 5
 
   !> The rows that stand for somebody.
