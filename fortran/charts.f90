@@ -9,7 +9,7 @@ module charts
   private
   public :: open_observations
   public :: create_chart, describe_chart, write_text, declared_variable, computed_variable
-  public :: start_row, store_numbers, title_axis
+  public :: start_row, store_numbers, title_axis, send_chart
   public :: text, translated, composed, listed, number_text, variable_label
   public :: display_format, format_type
   public :: made, make, require
@@ -29,6 +29,9 @@ module charts
   integer(cx), parameter, public :: word_simple_bar = 41, word_simple_line = 43
   integer(cx), parameter, public :: word_dodge = 88, word_natural = 93, word_scatter = 96
   integer(cx), parameter, public :: word_count = 140, word_clustered_bar = 146
+
+  !> Pattern of listed(): each item on a line of its own.
+  character(*), parameter, public :: one_a_line = '[%1:\n^1:]1'
 
   ! Type codes of display formats.
   integer, parameter, public :: text_format = 1, dollar_format = 4, plain_format = 5
@@ -68,6 +71,14 @@ contains
 
     call require(cx_createchartdescription(chart, made('a text', description)) >= 0, &
       'cannot describe the chart')
+  end subroutine
+
+  !> Describes the chart and ends it.
+  subroutine send_chart(chart, description)
+    integer(cx), intent(in) :: chart, description
+
+    call describe_chart(chart, description)
+    call require(cx_endchart(chart) >= 0, 'cannot send the chart')
   end subroutine
 
   !> Puts a text of its own into the chart's graph frame: title, subtitle or footnote, as

@@ -206,8 +206,7 @@ contains
     call draw_axes(plot, shown)
     call draw_points_and_curves(plot, shown, curves)
     call draw_legends(plot)
-    call write_texts(plot, shown, curves)
-    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
+    call write_texts_and_send(plot, shown, curves)
   end subroutine
 
   subroutine draw_axes(plot, shown)
@@ -293,11 +292,11 @@ contains
 
   ! Texts
 
-  subroutine write_texts(plot, shown, curves)
+  subroutine write_texts_and_send(plot, shown, curves)
     type(drawing), intent(in) :: plot
     type(view), intent(in) :: shown
     type(curve), intent(in) :: curves(:)
-    character(*), parameter :: one_a_line = '[%1:\n^1:]1', commas = '[%1:, ^1:]1'
+    character(*), parameter :: commas = '[%1:, ^1:]1'
     integer(cx) :: lines(size(curves))
     integer :: i
 
@@ -313,7 +312,7 @@ contains
         [curves(i)%name, number_text(curves(i)%r_squared, 4), text('R²')])
     end do
     call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
-    call describe_chart(plot%chart, composed('Chart description^1', &
+    call send_chart(plot%chart, composed('Chart description^1', &
       [listed(commas, curves%name)]))
   end subroutine
 

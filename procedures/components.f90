@@ -112,7 +112,7 @@ contains
       size(variables, kind=cx), points))
     call color_by_species(plot, points)
     call write_text(plot%chart, plot%graph, word_title, translated('Measures of penguins'))
-    call finish(plot, translated('Description of measures'))
+    call send_chart(plot%chart, translated('Description of measures'))
   end subroutine
 
   !> Scores crowd less than measures do: they get less room around them.
@@ -131,7 +131,7 @@ contains
     call color_by_species(plot, points)
     call write_text(plot%chart, plot%graph, word_title, translated('Principal components'))
     call write_text(plot%chart, plot%graph, word_footnote, shares_text(found))
-    call finish(plot, translated('Description of scores'))
+    call send_chart(plot%chart, translated('Description of scores'))
   end subroutine
 
   !> The first two components on scales from -m to m, with lines at 0.
@@ -164,7 +164,7 @@ contains
     call make('a line', cx_addyreferenceline(plot%chart, plot%data, zero, 1_cx))
     call write_text(plot%chart, plot%graph, word_title, translated('Principal components'))
     call write_text(plot%chart, plot%graph, word_footnote, shares_text(found))
-    call finish(plot, translated('Description of plane'))
+    call send_chart(plot%chart, translated('Description of plane'))
   end subroutine
 
   ! What the charts have in common
@@ -213,14 +213,6 @@ contains
     call title_axis(plot%chart, legend, style, variable_label(species))
   end subroutine
 
-  subroutine finish(plot, description)
-    type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: description
-
-    call describe_chart(plot%chart, description)
-    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
-  end subroutine
-
   ! Texts
 
   function component_name(i) result(string)
@@ -239,7 +231,7 @@ contains
       lines(i) = composed('Share of a component^2', &
         [component_name(i), number_text(100*found%share(i), 1, percent_format)])
     end do
-    string = listed('[%1:\n^1:]1', lines)
+    string = listed(one_a_line, lines)
   end function
 
 end program

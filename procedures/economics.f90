@@ -162,8 +162,7 @@ contains
     call draw_axes(plot, shown)
     call draw_elements(plot)
     call draw_legend(plot)
-    call write_texts(plot, cases, shown, trends)
-    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
+    call write_texts_and_send(plot, cases, shown, trends)
   end subroutine
 
   subroutine declare_variables(plot, shown)
@@ -246,12 +245,11 @@ contains
 
   ! Texts
 
-  subroutine write_texts(plot, cases, shown, trends)
+  subroutine write_texts_and_send(plot, cases, shown, trends)
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(series), intent(in) :: shown
     type(trend), intent(in) :: trends(:)
-    character(*), parameter :: one_a_line = '[%1:\n^1:]1'
     integer(cx) :: lines(size(trends))
     integer :: i
 
@@ -263,7 +261,7 @@ contains
         slope_of(trends(i)), mean_of(trends(i)), number_text(real(trends(i)%cases, dp), 0)])
     end do
     call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
-    call describe_chart(plot%chart, translated(shown%description))
+    call send_chart(plot%chart, translated(shown%description))
   end subroutine
 
   !> "Decade: 1970s"

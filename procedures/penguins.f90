@@ -63,8 +63,7 @@ contains
     call draw_axes(plot)
     call draw_elements(plot, overall)
     call draw_legend(plot)
-    call write_texts(plot, cases, overall, within)
-    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
+    call write_texts_and_send(plot, cases, overall, within)
     call require(cx_terminate() >= 0, 'cannot end the chart library')
     call observations%close()
   end subroutine
@@ -173,11 +172,10 @@ contains
 
   ! Texts
 
-  subroutine write_texts(plot, cases, overall, within)
+  subroutine write_texts_and_send(plot, cases, overall, within)
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(line_fit), intent(in) :: overall, within(:)
-    character(*), parameter :: one_a_line = '[%1:\n^1:]1'
     integer(cx) :: lines(size(within))
     integer :: g
 
@@ -189,7 +187,7 @@ contains
       lines(g) = estimates(cases%groups(g)%name, within(g))
     end do
     call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
-    call describe_chart(plot%chart, translated('Chart description'))
+    call send_chart(plot%chart, translated('Chart description'))
   end subroutine
 
   function estimates(name, line) result(string)

@@ -92,7 +92,7 @@ contains
       word_style_by, ignored, style, legend))
     call title_axis(plot%chart, legend, style, variable_label(species))
     call write_text(plot%chart, plot%graph, word_title, translated('Three measures of penguins'))
-    call finish(plot, translated('Description of cases'))
+    call send_chart(plot%chart, translated('Description of cases'))
   end subroutine
 
   !> Observed and fitted masses before three planes.
@@ -120,7 +120,7 @@ contains
       [number_text(mass%b(1), 0), number_text(mass%b(2), 2), number_text(mass%b(3), 2), &
       number_text(mass%r_squared, 3), number_text(real(size(cases%group), dp), 0), text('×'), &
       text('R²')]))
-    call finish(plot, translated('Description of plane'))
+    call send_chart(plot%chart, translated('Description of plane'))
   end subroutine
 
   ! What the charts have in common
@@ -173,14 +173,6 @@ contains
       cx_setelementname(plot%chart, points, made('a text', translated(name))))
     call make('a legend', cx_addlegendframe(plot%chart, plot%graph, points, index, absent, &
       ignored, style, legend))
-  end subroutine
-
-  subroutine finish(plot, description)
-    type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: description
-
-    call describe_chart(plot%chart, description)
-    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
   end subroutine
 
 end program

@@ -155,7 +155,7 @@ contains
     call make('the legend', cx_addlegendframe(plot%chart, plot%graph, slices, 1_cx, &
       word_style_by, ignored, style, legend))
     call title_axis(plot%chart, legend, style, variable_label(class))
-    call write_texts(plot, 'Persons on board of the Titanic', weight_text(), &
+    call write_texts_and_send(plot, 'Persons on board of the Titanic', weight_text(), &
       translated('Description of persons'))
   end subroutine
 
@@ -195,7 +195,7 @@ contains
     call make('the legend', cx_addlegendframeex(plot%chart, plot%graph, bars, 1_cx, colors, &
       style, legend))
     call title_axis(plot%chart, legend, style, variable_label(fate))
-    call write_texts(plot, 'Fates on the Titanic', weight_text(), &
+    call write_texts_and_send(plot, 'Fates on the Titanic', weight_text(), &
       translated('Description of fates'))
   end subroutine
 
@@ -237,7 +237,7 @@ contains
       cx_addsplitheaderex(plot%chart, plot%graph, split_cells, ignored))
     call require(cx_setsplitcomposite(plot%chart, split_cells, ignored) >= 0, &
       'cannot tell the class of the chart')
-    call write_texts(plot, 'Survival by sex and age', listed('[%1:\n^1:]1', &
+    call write_texts_and_send(plot, 'Survival by sex and age', listed(one_a_line, &
       [composed('Effects^3', [number_text(survival%class(i), 1, percent_format), &
       number_text(survival%female, 1), number_text(survival%child, 1)]), weight_text()]), &
       cx_splitvariableinfo(ignored, made('a text', translated('Description of survival')), &
@@ -335,16 +335,15 @@ contains
     string = cx_weightinfo(ignored, ignored, persons, true)
   end function
 
-  !> Title, footnote and description; the chart is sent.
-  subroutine write_texts(plot, title, footnote, description)
+  !> Title, footnote and description.
+  subroutine write_texts_and_send(plot, title, footnote, description)
     type(drawing), intent(in) :: plot
     character(*), intent(in) :: title
     integer(cx), intent(in) :: footnote, description
 
     call write_text(plot%chart, plot%graph, word_title, translated(title))
     call write_text(plot%chart, plot%graph, word_footnote, footnote)
-    call describe_chart(plot%chart, description)
-    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
+    call send_chart(plot%chart, description)
   end subroutine
 
 end program
