@@ -40,10 +40,11 @@ module charts
 contains
 
   !> Opens the data set that the command line names, else the one at `otherwise`; variable v
-  !> of the run is the column names(v).
-  subroutine open_observations(observations, otherwise, names)
+  !> of the run is the column names(v), and from `numbers` on they have to be numbers or dates.
+  subroutine open_observations(observations, procedure_name, otherwise, names, numbers)
     type(data_set), intent(inout) :: observations
-    character(*), intent(in) :: otherwise, names(:)
+    character(*), intent(in) :: procedure_name, otherwise, names(:)
+    integer(cx), intent(in) :: numbers
     character(:), allocatable :: path
     integer :: columns(size(names)), v
 
@@ -52,6 +53,24 @@ contains
     columns = [(observations%find_column(trim(names(v))), v=1, size(names))]
     call require(all(columns > 0), 'this is not the data set that was expected')
     call require(observations%use_variables(columns), 'cannot use the variables')
+    call require_numbers(observations, procedure_name, numbers, size(names, kind=cx))
+  end subroutine
+
+  !> A row's cells would not tell a text from a number; the display format does, which a
+  !> chart knows.
+  subroutine require_numbers(observations, procedure_name, first, last)
+    type(data_set), intent(in) :: observations
+    character(*), intent(in) :: procedure_name
+    integer(cx), intent(in) :: first, last
+    integer(cx) :: chart, variable, format
+
+    chart = made('a chart', cx_createchart(c_null_ptr, observations%dictionary, &
+      procedure_name, len(procedure_name, kind=cx)))
+    do variable = first, last
+      format = made('a display format', cx_getvariableformat(chart, variable))
+      call require(format_type(format) /= text_format, 'a column is not of numbers')
+    end do
+    call make('the end of the chart', cx_killchart(chart))
   end subroutine
 
   !> cx_createchartex for the data set behind `dictionary`.

@@ -62,9 +62,8 @@ contains
     logical, parameter :: axes(2) = [.false., .true.]
     integer :: i
 
-    call open_observations(observations, otherwise='data/census', &
-      names=[character(10) :: 'census', 'day', 'population'])
-    call require(observations%cell_count() == 3, 'a column is not of numbers')
+    call open_observations(observations, procedure_name, otherwise='data/census', &
+      names=[character(10) :: 'census', 'day', 'population'], numbers=1_cx)
     call load_cases(observations, cases)
 
     ! Compound, growth and exponential are one curve written in three ways: each chart has

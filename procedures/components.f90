@@ -56,12 +56,13 @@ contains
     type(drawing) :: first, second, third
 
     ! All charts come first: as long as one is open, the library keeps the groups' names.
-    call open_observations(observations, otherwise='data/penguins', names=[character(17) :: &
-      'species', 'bill_length_mm', 'bill_depth_mm', 'flipper_length_mm', 'body_mass_g'])
+    call open_observations(observations, procedure_name, otherwise='data/penguins', &
+      names=[character(17) :: 'species', 'bill_length_mm', 'bill_depth_mm', &
+      'flipper_length_mm', 'body_mass_g'], numbers=2_cx)
     first = new_drawing(observations)
     second = new_drawing(observations)
     third = new_drawing(observations)
-    call load_sample(observations, first%chart, measures, cases)
+    call load_sample(observations, measures, cases)
     found = components_of(cases%values)
 
     call draw_measures(first, cases)

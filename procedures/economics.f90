@@ -58,9 +58,9 @@ contains
     type(data_set) :: observations
     type(sample) :: cases
 
-    call open_observations(observations, otherwise='data/economics', names=[character(12) :: &
-      'date', 'decade', 'consumption', 'population', 'savings_rate'])
-    call require(observations%cell_count() == 5, 'a column is not of numbers')
+    call open_observations(observations, procedure_name, otherwise='data/economics', &
+      names=[character(12) :: 'date', 'decade', 'consumption', 'population', &
+      'savings_rate'], numbers=1_cx)
     call require(observations%split_by([observations%find_column('decade')]), &
       'cannot split by decade')
     call load_cases(observations, cases)

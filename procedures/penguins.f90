@@ -46,10 +46,10 @@ contains
     integer :: g, i
 
     ! The chart comes first: with it the library learns of the data.
-    call open_observations(observations, otherwise='data/penguins', &
-      names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g'])
+    call open_observations(observations, procedure_name, otherwise='data/penguins', &
+      names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g'], numbers=2_cx)
     plot = new_drawing(observations)
-    call load_sample(observations, plot%chart, measures=2, cases=cases)
+    call load_sample(observations, measures=2, cases=cases)
 
     overall = fit('all penguins', cases%values)
     allocate (within(size(cases%groups)))

@@ -44,11 +44,12 @@ contains
     type(drawing) :: first, second
 
     ! Both charts come first: as long as one is open, the library keeps the groups' names.
-    call open_observations(observations, otherwise='data/penguins', names=[character(17) :: &
-      'species', 'flipper_length_mm', 'body_mass_g', 'bill_depth_mm'])
+    call open_observations(observations, procedure_name, otherwise='data/penguins', &
+      names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g', &
+      'bill_depth_mm'], numbers=2_cx)
     first = new_drawing(observations)
     second = new_drawing(observations)
-    call load_sample(observations, first%chart, size(measure), cases)
+    call load_sample(observations, size(measure), cases)
 
     call draw_cases(first, cases)
     call draw_plane(second, cases, fit(cases%values))

@@ -50,9 +50,8 @@ contains
     type(effects) :: survival
     integer :: i
 
-    call open_observations(observations, otherwise='data/titanic', &
-      names=[character(8) :: 'class', 'sex', 'age', 'survived', 'persons'])
-    call require(observations%cell_count() == 5, 'a column is not of numbers')
+    call open_observations(observations, procedure_name, otherwise='data/titanic', &
+      names=[character(8) :: 'class', 'sex', 'age', 'survived', 'persons'], numbers=1_cx)
     call require(observations%split_by([observations%find_column('class')]), &
       'cannot split by class')
     call load_cases(observations, cases)

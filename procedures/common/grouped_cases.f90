@@ -25,17 +25,15 @@ module grouped_cases
 
 contains
 
-  !> Reads the cases and drops those with a missing value. Any open chart serves: with it
+  !> Reads the cases and drops those with a missing value. A chart has to be open: with it
   !> the library learns of the data.
-  subroutine load_sample(observations, chart, measures, cases)
+  subroutine load_sample(observations, measures, cases)
     type(data_set), intent(in) :: observations
-    integer(cx), intent(in) :: chart
     integer, intent(in) :: measures
     type(sample), intent(out) :: cases
     real(dp), allocatable :: cells(:)
     integer :: row, width, kept
 
-    call require_numbers(chart, measures)
     allocate (cells(observations%cell_count()))
     width = size(cells) - measures
     allocate (cases%values(observations%row_count(), measures))
@@ -53,18 +51,6 @@ contains
     call require(kept > 0, 'the data set has no complete case')
     cases%values = cases%values(:kept, :)
     cases%group = cases%group(:kept)
-  end subroutine
-
-  !> A row's cells would not tell a text from a number; the display format does.
-  subroutine require_numbers(chart, measures)
-    integer(cx), intent(in) :: chart
-    integer, intent(in) :: measures
-    integer(cx) :: variable
-
-    do variable = group_variable + 1, group_variable + measures
-      call require(format_type(made('a display format', &
-        cx_getvariableformat(chart, variable))) /= text_format, 'the measures have to be numbers')
-    end do
   end subroutine
 
   !> Finds the group of a text; one that was not met before is added.
