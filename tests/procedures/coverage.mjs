@@ -1,5 +1,5 @@
 // The procedures between them call every entry point of several steps and draw every
-// curve model, themselves or through a helper of module charts.
+// curve model, by its own name or through a Fortran procedure that calls it.
 //
 // usage: node coverage.mjs <source tree>
 import {readdirSync, readFileSync} from 'node:fs';
@@ -21,11 +21,14 @@ const wanted = JSON.parse(read('backend', 'chartxml', 'entrypoints.json'))
 const withoutComments = (source) => source.replace(/![^\n']*(?=\n)/g, '');
 const calls = (source, name) => new RegExp(`\\b${name}\\s*\\(`, 'i').test(source);
 
-const programs = readdirSync(join(root, 'procedures'), {recursive: true})
-  .filter((name) => name.endsWith('.f90'))
-  .map((name) => withoutComments(read('procedures', name)))
-  .join('\n');
-const helpers = [...withoutComments(read('fortran', 'charts.f90')).matchAll(
+const sourcesBelow = (folder, keep = () => true) =>
+  readdirSync(join(root, folder), {recursive: true})
+    .filter((name) => name.endsWith('.f90') && keep(name))
+    .map((name) => withoutComments(read(folder, name)))
+    .join('\n');
+const programs = sourcesBelow('procedures');
+// Module files of interfaces alone call nothing.
+const helpers = [...sourcesBelow('fortran', (name) => !name.startsWith('raw')).matchAll(
   /^ {2}(?:[\w() ]+ )?(?:function|subroutine) (\w+)\([\s\S]*?^ {2}end (?:function|subroutine)/gm)];
 
 const isCalled = (entry) =>
