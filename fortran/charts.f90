@@ -4,9 +4,12 @@ module charts
   use, intrinsic :: iso_c_binding, only: c_double, c_int64_t, c_null_ptr, c_ptr
   use, intrinsic :: iso_fortran_env, only: error_unit
   use chartxml
+  use korva, only: data_set
   implicit none
   private
-  public :: create_chart, describe_chart, write_text, store_numbers
+  public :: open_observations
+  public :: create_chart, describe_chart, write_text, declared_variable, computed_variable
+  public :: start_row, store_numbers, title_axis, send_chart
   public :: text, translated, composed, listed, number_text, variable_label
   public :: display_format, format_type
   public :: made, make, require
@@ -21,15 +24,54 @@ module charts
 
   ! String handles of the predefined words that procedures name most.
   integer(cx), parameter, public :: word_footnote = 13, word_subtitle = 16, word_title = 17
-  integer(cx), parameter, public :: word_line = 21, word_point = 23
-  integer(cx), parameter, public :: word_style_by = 36
-  integer(cx), parameter, public :: word_simple_line = 43, word_scatter = 96
+  integer(cx), parameter, public :: word_interval = 20, word_line = 21, word_point = 23
+  integer(cx), parameter, public :: word_polar = 31, word_style_by = 36
+  integer(cx), parameter, public :: word_simple_bar = 41, word_simple_line = 43
+  integer(cx), parameter, public :: word_dodge = 88, word_natural = 93, word_scatter = 96
+  integer(cx), parameter, public :: word_count = 140, word_clustered_bar = 146
+
+  !> Pattern of listed(): each item on a line of its own.
+  character(*), parameter, public :: one_a_line = '[%1:\n^1:]1'
 
   ! Type codes of display formats.
   integer, parameter, public :: text_format = 1, dollar_format = 4, plain_format = 5
   integer, parameter, public :: percent_format = 31
 
 contains
+
+  !> Opens the data set that the command line names, else the one at `otherwise`; variable v
+  !> of the run is the column names(v), and from `numbers` on they have to be numbers or dates.
+  subroutine open_observations(observations, procedure_name, otherwise, names, numbers)
+    type(data_set), intent(inout) :: observations
+    character(*), intent(in) :: procedure_name, otherwise, names(:)
+    integer(cx), intent(in) :: numbers
+    character(:), allocatable :: path
+    integer :: columns(size(names)), v
+
+    path = first_argument(otherwise)
+    call require(observations%open(path), 'cannot open the data set '//path)
+    columns = [(observations%find_column(trim(names(v))), v=1, size(names))]
+    call require(all(columns > 0), 'this is not the data set that was expected')
+    call require(observations%use_variables(columns), 'cannot use the variables')
+    call require_numbers(observations, procedure_name, numbers, size(names, kind=cx))
+  end subroutine
+
+  !> A row's cells would not tell a text from a number; the display format does, which a
+  !> chart knows.
+  subroutine require_numbers(observations, procedure_name, first, last)
+    type(data_set), intent(in) :: observations
+    character(*), intent(in) :: procedure_name
+    integer(cx), intent(in) :: first, last
+    integer(cx) :: chart, variable, format
+
+    chart = made('a chart', cx_createchart(c_null_ptr, observations%dictionary, &
+      procedure_name, len(procedure_name, kind=cx)))
+    do variable = first, last
+      format = made('a display format', cx_getvariableformat(chart, variable))
+      call require(format_type(format) /= text_format, 'a column is not of numbers')
+    end do
+    call make('the end of the chart', cx_killchart(chart))
+  end subroutine
 
   !> cx_createchartex for the data set behind `dictionary`.
   function create_chart(dictionary, procedure_name, source, graph, data) result(chart)
@@ -50,6 +92,14 @@ contains
       'cannot describe the chart')
   end subroutine
 
+  !> Describes the chart and ends it.
+  subroutine send_chart(chart, description)
+    integer(cx), intent(in) :: chart, description
+
+    call describe_chart(chart, description)
+    call require(cx_endchart(chart) >= 0, 'cannot send the chart')
+  end subroutine
+
   !> Puts a text of its own into the chart's graph frame: title, subtitle or footnote, as
   !> `style` says.
   subroutine write_text(chart, graph, style, string)
@@ -57,6 +107,43 @@ contains
 
     call make('a text of the chart', &
       cx_addframewithlabel(chart, graph, style, 1_cx, made('a text', string)))
+  end subroutine
+
+  !> A variable of the run as a variable of the chart.
+  function declared_variable(chart, source, number, categorical) result(variable)
+    integer(cx), intent(in) :: chart, source, number, categorical
+    integer(cx) :: variable
+
+    variable = made('a variable', cx_addvariable(chart, source, number, categorical))
+  end function
+
+  !> A variable whose values the procedure computes, with its label and display format;
+  !> word_count as name when it counts cases.
+  function computed_variable(chart, source, label, format, name) result(variable)
+    integer(cx), intent(in) :: chart, source, label, format
+    integer(cx), intent(in), optional :: name
+    integer(cx) :: variable, used
+
+    used = absent
+    if (present(name)) used = name
+    variable = made('a computed variable', cx_addaggregate(chart, source, used, false, &
+      made('a text', label), absent, absent))
+    if (format /= absent) &
+      call make('a display format', cx_setvariableformat(chart, variable, format))
+  end function
+
+  !> Puts a title beside an axis or above a legend, in the node's own style.
+  subroutine title_axis(chart, axis, style, string)
+    integer(cx), intent(in) :: chart, axis, style, string
+
+    call make('the title of an axis or legend', &
+      cx_addlabel(chart, axis, style, made('a text', string)))
+  end subroutine
+
+  subroutine start_row(chart, source)
+    integer(cx), intent(in) :: chart, source
+
+    call require(cx_addrow(chart, source) >= 0, 'cannot add a row')
   end subroutine
 
   !> Stores a number in each of the columns of the row that was added last.

@@ -12,12 +12,13 @@ program economics
   use charts
   use chartxml
   use korva
+  use least_squares
   implicit none
 
   character(*), parameter :: procedure_name = 'economics'
   real(dp), parameter :: seconds_per_year = 365.2425_dp*86400
 
-  ! The variables of this run, in the order in which open_observations names them.
+  ! The variables of this run, in the order in which they are opened.
   integer(cx), parameter :: date = 1, decade = 2, consumption = 3, population = 4, &
     savings_rate = 5
 
@@ -57,7 +58,11 @@ contains
     type(data_set) :: observations
     type(sample) :: cases
 
-    call open_observations(observations)
+    call open_observations(observations, procedure_name, otherwise='data/economics', &
+      names=[character(12) :: 'date', 'decade', 'consumption', 'population', &
+      'savings_rate'], numbers=1_cx)
+    call require(observations%split_by([observations%find_column('decade')]), &
+      'cannot split by decade')
     call load_cases(observations, cases)
 
     call draw(observations, cases, series( &
@@ -76,22 +81,6 @@ contains
   end subroutine
 
   ! Data
-
-  subroutine open_observations(observations)
-    type(data_set), intent(inout) :: observations
-    character(:), allocatable :: path
-    integer :: columns(5)
-
-    path = first_argument(otherwise='data/economics')
-    call require(observations%open(path), 'cannot open the data set '//path)
-    columns = [observations%find_column('date'), observations%find_column('decade'), &
-      observations%find_column('consumption'), observations%find_column('population'), &
-      observations%find_column('savings_rate')]
-    call require(all(columns > 0), 'this is not the data set that was expected')
-    call require(observations%use_variables(columns), 'cannot use the variables')
-    call require(observations%cell_count() == size(columns), 'a column is not of numbers')
-    call require(observations%split_by(columns(decade:decade)), 'cannot split by decade')
-  end subroutine
 
   !> Reads the cases in the order of their dates and drops those with a missing value.
   subroutine load_cases(observations, cases)
@@ -124,6 +113,7 @@ contains
     type(series), intent(in) :: shown
     integer, intent(in) :: decade
     real(dp), allocatable :: x(:), y(:)
+    real(dp) :: coefficients(2)
 
     x = pack(years(cases, cases%date), cases%group == decade)
     y = pack(shown%value, cases%group == decade)
@@ -134,14 +124,9 @@ contains
     fit%cases = size(x)
     fit%mean = mean(y)
     if (shown%grows) y = log(y)
-    fit%slope = sum((x - mean(x))*(y - mean(y)))/sum((x - mean(x))**2)
-    fit%intercept = mean(y) - fit%slope*mean(x)
-  end function
-
-  pure real(dp) function mean(values)
-    real(dp), intent(in) :: values(:)
-
-    mean = sum(values)/size(values)
+    coefficients = fitted_polynomial(x, y, degree=1)
+    fit%intercept = coefficients(1)
+    fit%slope = coefficients(2)
   end function
 
   elemental real(dp) function years(cases, date)
@@ -177,8 +162,7 @@ contains
     call draw_axes(plot, shown)
     call draw_elements(plot)
     call draw_legend(plot)
-    call write_texts(plot, cases, shown, trends)
-    call require(cx_endchart(plot%chart) >= 0, 'cannot send the chart')
+    call write_texts_and_send(plot, cases, shown, trends)
   end subroutine
 
   subroutine declare_variables(plot, shown)
@@ -187,39 +171,20 @@ contains
 
     integer(cx) :: format
 
-    plot%decade = variable(plot, decade, true)
+    plot%decade = declared_variable(plot%chart, plot%source, decade, true)
     call make('the names of the decades', cx_addrelabels(plot%chart, plot%decade, decade))
-    plot%date = variable(plot, date, false)
+    plot%date = declared_variable(plot%chart, plot%source, date, false)
     if (shown%grows) then
       format = display_format(dollar_format, 8, 0)
-      plot%value = computed(plot, 'Spending per person (dollars a year)', format)
+      plot%value = computed_variable(plot%chart, plot%source, &
+        translated('Spending per person (dollars a year)'), format)
     else
       format = made('a display format', cx_getvariableformat(plot%chart, savings_rate))
-      plot%value = variable(plot, savings_rate, false)
+      plot%value = declared_variable(plot%chart, plot%source, savings_rate, false)
     end if
-    plot%trend = computed(plot, shown%trend_label, format)
+    plot%trend = computed_variable(plot%chart, plot%source, &
+      translated(shown%trend_label), format)
   end subroutine
-
-  function variable(plot, number, categorical)
-    type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: number, categorical
-    integer(cx) :: variable
-
-    variable = made('a variable', &
-      cx_addvariable(plot%chart, plot%source, number, categorical))
-  end function
-
-  !> A variable whose values the procedure computes.
-  function computed(plot, label, format) result(variable)
-    type(drawing), intent(in) :: plot
-    character(*), intent(in) :: label
-    integer(cx), intent(in) :: format
-    integer(cx) :: variable
-
-    variable = made('a computed variable', cx_addaggregate(plot%chart, plot%source, absent, &
-      false, made('a text', translated(label)), absent, absent))
-    call make('a display format', cx_setvariableformat(plot%chart, variable, format))
-  end function
 
   subroutine fill_rows(plot, cases, shown, trends)
     type(drawing), intent(in) :: plot
@@ -230,7 +195,7 @@ contains
 
     do i = 1, size(cases%date)
       g = cases%group(i)
-      call require(cx_addrow(plot%chart, plot%source) >= 0, 'cannot add a row')
+      call start_row(plot%chart, plot%source)
       call store_numbers(plot%chart, plot%source, &
         [plot%decade, plot%date, plot%value, plot%trend], &
         [real(cases%decades(g), dp), cases%date(i), shown%value(i), &
@@ -251,10 +216,8 @@ contains
     else
       y_title = variable_label(savings_rate)
     end if
-    call make('the title of x', &
-      cx_addlabel(plot%chart, x_axis, x_style, made('a text', variable_label(date))))
-    call make('the title of y', &
-      cx_addlabel(plot%chart, y_axis, y_style, made('a text', y_title)))
+    call title_axis(plot%chart, x_axis, x_style, variable_label(date))
+    call title_axis(plot%chart, y_axis, y_style, y_title)
   end subroutine
 
   !> A point for each case and a line for each decade.
@@ -277,18 +240,16 @@ contains
 
     call make('the legend', cx_addlegendframe(plot%chart, plot%graph, plot%points, 1_cx, &
       word_style_by, ignored, style, legend))
-    call make('the title of the legend', &
-      cx_addlabel(plot%chart, legend, style, made('a text', variable_label(decade))))
+    call title_axis(plot%chart, legend, style, variable_label(decade))
   end subroutine
 
   ! Texts
 
-  subroutine write_texts(plot, cases, shown, trends)
+  subroutine write_texts_and_send(plot, cases, shown, trends)
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(series), intent(in) :: shown
     type(trend), intent(in) :: trends(:)
-    character(*), parameter :: one_a_line = '[%1:\n^1:]1'
     integer(cx) :: lines(size(trends))
     integer :: i
 
@@ -300,7 +261,7 @@ contains
         slope_of(trends(i)), mean_of(trends(i)), number_text(real(trends(i)%cases, dp), 0)])
     end do
     call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
-    call describe_chart(plot%chart, translated(shown%description))
+    call send_chart(plot%chart, translated(shown%description))
   end subroutine
 
   !> "Decade: 1970s"

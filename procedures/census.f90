@@ -1,0 +1,318 @@
+! How did the population of the United States grow, and which curve tells it best?
+!
+! usage: census [data set]
+!
+! Fits eleven curve models by least squares, in the form in which each is linear, and
+! draws them in groups that leave each chart readable: over the number of the census, and
+! over its day. The data set is a data package or a CSV file with these columns;
+! data/census below the working directory when none is named.
+program census
+  use, intrinsic :: iso_c_binding, only: dp => c_double
+  use charts
+  use chartxml
+  use korva
+  use least_squares
+  implicit none
+
+  character(*), parameter :: procedure_name = 'census'
+
+  ! The variables of this run, in the order in which they are opened.
+  integer(cx), parameter :: number = 1, day = 2, population = 3
+
+  !> What a logistic curve approaches, in millions: least squares takes it as given.
+  real(dp), parameter :: population_limit = 250
+
+  ! The models, in the order of their names in the library's string table.
+  integer, parameter :: linear = 1, logarithmic = 2, inverse = 3, quadratic = 4, cubic = 5, &
+    compound = 6, power = 7, s_curve = 8, growth = 9, exponential = 10, logistic = 11
+
+  type :: sample
+    real(dp), allocatable :: number(:), day(:), population(:)
+  end type
+
+  !> A model with its coefficients as the library takes them.
+  type :: curve
+    integer :: model
+    real(dp) :: b(4)
+    real(dp) :: r_squared
+    integer(cx) :: name  !< a string handle
+  end type
+
+  !> What one of the charts shows.
+  type :: view
+    integer, allocatable :: models(:)
+    logical :: over_days
+  end type
+
+  !> The chart and the nodes that several steps refer to.
+  type :: drawing
+    integer(cx) :: chart, source, graph, data
+    integer(cx) :: x, y    !< variables
+    integer(cx) :: points  !< an element
+    integer(cx), allocatable :: curves(:)
+  end type
+
+  call run
+
+contains
+
+  subroutine run
+    type(data_set) :: observations
+    type(sample) :: cases
+    logical, parameter :: axes(2) = [.false., .true.]
+    integer :: i
+
+    call open_observations(observations, procedure_name, otherwise='data/census', &
+      names=[character(10) :: 'census', 'day', 'population'], numbers=1_cx)
+    call load_cases(observations, cases)
+
+    ! Compound, growth and exponential are one curve written in three ways: each chart has
+    ! one of them, and no more curves than there are kinds of dashes.
+    do i = 1, size(axes)
+      call draw(observations, cases, view([linear, quadratic, cubic, compound], axes(i)))
+      call draw(observations, cases, view([logarithmic, inverse, s_curve, growth], axes(i)))
+      call draw(observations, cases, view([power, exponential, logistic], axes(i)))
+    end do
+
+    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call observations%close()
+  end subroutine
+
+  ! Data
+
+  subroutine load_cases(observations, cases)
+    type(data_set), intent(in) :: observations
+    type(sample), intent(out) :: cases
+    real(dp) :: cells(3)
+    integer :: row
+
+    allocate (cases%number(0), cases%day(0), cases%population(0))
+    do row = 1, observations%row_count()
+      call require(observations%read_row(row, cells), 'cannot read the data set')
+      if (any(cells <= missing_value())) cycle
+      cases%number = [cases%number, cells(number)]
+      cases%day = [cases%day, cells(day)]
+      cases%population = [cases%population, cells(population)]
+    end do
+    call require(all(cases%number > 0) .and. all(cases%day > 0), &
+      'numbers of censuses and days have to be after zero')
+    call require(all(cases%population > 0) .and. all(cases%population < population_limit), &
+      'no curve of growth: a population is not between zero and the limit')
+  end subroutine
+
+  ! Estimation: every model is a polynomial once x or y is transformed
+
+  type(curve) function fit(model, x, y)
+    integer, intent(in) :: model
+    real(dp), intent(in) :: x(:), y(:)
+    integer :: degree
+
+    degree = 1
+    if (model == quadratic) degree = 2
+    if (model == cubic) degree = 3
+    fit%model = model
+    fit%b = 0
+    fit%b(:degree + 1) = fitted_polynomial(transformed_x(model, x), transformed_y(model, y), degree)
+
+    select case (model)
+    case (compound)
+      fit%b(:2) = exp(fit%b(:2))
+    case (power, exponential)
+      fit%b(1) = exp(fit%b(1))
+    case (logistic)
+      fit%b = [exp(fit%b(:2)), 1/population_limit, 0.0_dp]
+    end select
+    fit%r_squared = explained_share(y, predicted(fit, x))
+  end function
+
+  elemental real(dp) function transformed_x(model, x) result(transformed)
+    integer, intent(in) :: model
+    real(dp), intent(in) :: x
+
+    select case (model)
+    case (logarithmic, power)
+      transformed = log(x)
+    case (inverse, s_curve)
+      transformed = 1/x
+    case default
+      transformed = x
+    end select
+  end function
+
+  elemental real(dp) function transformed_y(model, y) result(transformed)
+    integer, intent(in) :: model
+    real(dp), intent(in) :: y
+
+    select case (model)
+    case (linear, logarithmic, inverse, quadratic, cubic)
+      transformed = y
+    case (logistic)
+      transformed = log(1/y - 1/population_limit)
+    case default
+      transformed = log(y)
+    end select
+  end function
+
+  elemental real(dp) function predicted(line, x)
+    type(curve), intent(in) :: line
+    real(dp), intent(in) :: x
+
+    associate (b => line%b)
+      select case (line%model)
+      case (linear, quadratic, cubic)
+        predicted = b(1) + x*(b(2) + x*(b(3) + x*b(4)))
+      case (logarithmic)
+        predicted = b(1) + b(2)*log(x)
+      case (inverse)
+        predicted = b(1) + b(2)/x
+      case (compound)
+        predicted = b(1)*b(2)**x
+      case (power)
+        predicted = b(1)*x**b(2)
+      case (s_curve)
+        predicted = exp(b(1) + b(2)/x)
+      case (growth)
+        predicted = exp(b(1) + b(2)*x)
+      case (exponential)
+        predicted = b(1)*exp(b(2)*x)
+      case default
+        predicted = 1/(b(3) + b(1)*b(2)**x)
+      end select
+    end associate
+  end function
+
+  ! The charts
+
+  subroutine draw(observations, cases, shown)
+    type(data_set), intent(in) :: observations
+    type(sample), intent(in) :: cases
+    type(view), intent(in) :: shown
+    type(curve) :: curves(size(shown%models))
+    type(drawing) :: plot
+    real(dp) :: x(size(cases%number))
+    integer :: i
+
+    x = merge(cases%day, cases%number, shown%over_days)
+    curves = [(fit(shown%models(i), x, cases%population), i=1, size(curves))]
+    plot%chart = made('a chart', create_chart(observations%dictionary, procedure_name, &
+      plot%source, plot%graph, plot%data))
+    plot%x = declared_variable(plot%chart, plot%source, merge(day, number, shown%over_days), false)
+    plot%y = declared_variable(plot%chart, plot%source, population, false)
+    do i = 1, size(x)
+      call start_row(plot%chart, plot%source)
+      call store_numbers(plot%chart, plot%source, [plot%x, plot%y], [x(i), cases%population(i)])
+    end do
+    call draw_axes(plot, shown)
+    call draw_points_and_curves(plot, shown, curves)
+    call draw_legends(plot)
+    call write_texts_and_send(plot, shown, curves)
+  end subroutine
+
+  subroutine draw_axes(plot, shown)
+    type(drawing), intent(in) :: plot
+    type(view), intent(in) :: shown
+    integer(cx) :: x_style, x_axis, y_style, y_axis
+
+    call make('the axes', cx_addxydimensionwithaxis(plot%chart, plot%data, absent, absent, &
+      false, false, x_style, x_axis, y_style, y_axis))
+    call title_axis(plot%chart, x_axis, x_style, &
+      variable_label(merge(day, number, shown%over_days)))
+    call title_axis(plot%chart, y_axis, y_style, variable_label(population))
+  end subroutine
+
+  !> The curves go by the names that the library gives their models.
+  subroutine draw_points_and_curves(plot, shown, curves)
+    type(drawing), intent(inout) :: plot
+    type(view), intent(in) :: shown
+    type(curve), intent(inout) :: curves(:)
+    character(6) :: key
+    integer :: i
+
+    call make('the points', cx_addxyelementex(plot%chart, plot%data, 1_cx, word_point, &
+      plot%x, plot%y, word_scatter, plot%points))
+    call make('the name of the points', &
+      cx_setelementname(plot%chart, plot%points, made('a text', translated('Censuses'))))
+    allocate (plot%curves(size(curves)))
+    do i = 1, size(curves)
+      plot%curves(i) = made('a curve', curve_node(plot, curves(i), int(i, cx), &
+        merge(true, false, shown%over_days)))
+      write (key, '(a, i5)') 'E', 60550 + curves(i)%model
+      curves(i)%name = made('the name of a model', translated(key))
+    end do
+  end subroutine
+
+  function curve_node(plot, line, style, over_days) result(node)
+    type(drawing), intent(in) :: plot
+    type(curve), intent(in) :: line
+    integer(cx), intent(in) :: style, over_days
+    integer(cx) :: node
+
+    associate (chart => plot%chart, frame => plot%data, b => line%b)
+      select case (line%model)
+      case (linear)
+        node = cx_addyofxlinear(chart, frame, style, b(1), b(2), over_days)
+      case (logarithmic)
+        node = cx_addyofxlogarithmic(chart, frame, style, b(1), b(2), over_days)
+      case (inverse)
+        node = cx_addyofxinverse(chart, frame, style, b(1), b(2), over_days)
+      case (quadratic)
+        node = cx_addyofxquadratic(chart, frame, style, b(1), b(2), b(3), over_days)
+      case (cubic)
+        node = cx_addyofxcubic(chart, frame, style, b(1), b(2), b(3), b(4), over_days)
+      case (compound)
+        node = cx_addyofxcompound(chart, frame, style, b(1), b(2), over_days)
+      case (power)
+        node = cx_addyofxpower(chart, frame, style, b(1), b(2), over_days)
+      case (s_curve)
+        node = cx_addyofxs(chart, frame, style, b(1), b(2), over_days)
+      case (growth)
+        node = cx_addyofxgrowth(chart, frame, style, b(1), b(2), over_days)
+      case (exponential)
+        node = cx_addyofxexponential(chart, frame, style, b(1), b(2), over_days)
+      case default
+        node = cx_addyofxlogistic(chart, frame, style, b(1), b(2), b(3), over_days)
+      end select
+    end associate
+  end function
+
+  !> One for the points and, below it, one for each curve.
+  subroutine draw_legends(plot)
+    type(drawing), intent(in) :: plot
+    integer(cx) :: legend, style
+    integer :: i
+
+    call make('the legend of the points', cx_addlegendframe(plot%chart, plot%graph, plot%points, &
+      1_cx, absent, ignored, style, legend))
+    do i = 1, size(plot%curves)
+      call make('the legend of a curve', cx_addlegendframeex(plot%chart, plot%graph, &
+        plot%curves(i), int(i + 1, cx), absent, style, legend))
+    end do
+  end subroutine
+
+  ! Texts
+
+  subroutine write_texts_and_send(plot, shown, curves)
+    type(drawing), intent(in) :: plot
+    type(view), intent(in) :: shown
+    type(curve), intent(in) :: curves(:)
+    character(*), parameter :: commas = '[%1:, ^1:]1'
+    integer(cx) :: lines(size(curves))
+    integer :: i
+
+    call write_text(plot%chart, plot%graph, word_title, &
+      translated('Population of the United States'))
+    if (shown%over_days) then
+      call write_text(plot%chart, plot%graph, word_subtitle, translated('Curves over days'))
+    else
+      call write_text(plot%chart, plot%graph, word_subtitle, translated('Curves over numbers'))
+    end if
+    do i = 1, size(curves)
+      lines(i) = composed('Fit of a curve^3', &
+        [curves(i)%name, number_text(curves(i)%r_squared, 4), text('R²')])
+    end do
+    call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
+    call send_chart(plot%chart, composed('Chart description^1', &
+      [listed(commas, curves%name)]))
+  end subroutine
+
+end program
