@@ -23,9 +23,11 @@ prefix=$scratch/unpacked/usr
 grep --quiet 'Flipper length (mm)' "$scratch/charts/0001-outside/chart.svg"
 [[ -s $scratch/charts/0001-outside/chart.png ]]
 
-# The manual page knows every option.
-options=$("$prefix/bin/chartxml" render --help | grep --only-matching -e '--[a-z]*')
+# The manual page knows every verb and every option.
+command=$prefix/bin/chartxml
+verbs=$("$command" --help | sed -n '/^Subcommands:/,/^$/s/^  \([a-z]*\) .*/\1/p')
+options=$(for verb in "" $verbs; do "$command" ${verb:+"$verb"} --help; done | grep -o -e '--[a-z]*' | sort -u)
 manual=$(sed 's/\\-/-/g' "$prefix/share/man/man1/chartxml.1")
-for option in $options; do
-  [[ $manual == *"$option"* ]] || { echo "chartxml.1 does not know $option" >&2 && exit 1; }
+for word in $verbs $options; do
+  [[ $manual == *"$word"* ]] || { echo "chartxml.1 does not know $word" >&2 && exit 1; }
 done
