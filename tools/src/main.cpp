@@ -16,14 +16,15 @@ namespace {
 
 using tools::Status;
 
-constexpr const char* exitStatus = R"(
+constexpr const char* exitStatus = R"text(
 Exit status:
   0  all is well
   1  a chart is not as it should be, or cannot be drawn
   2  the command line is not understood, or names what is not there
   3  the work could not be done: a file cannot be read or written, Node.js is missing
 
-"chartxml <verb> --help" tells more of a verb.)";
+"chartxml <verb> --help" tells more of a verb; "source <(chartxml completion bash)", or
+zsh, completes verbs and options.)text";
 
 /// The command line with what each verb does.
 class CommandLine {
