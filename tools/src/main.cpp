@@ -90,7 +90,7 @@ private:
 
   void addValidate() {
     CLI::App& verb = add("validate", "Check chart documents against their grammar",
-                         "chartxml validate charts/0001-economics/chart.xml",
+                         "chartxml validate charts/0001-penguins/chart.xml",
                          [this] { return tools::validate(arguments_, asJson_); });
     verb.add_option("file", arguments_,
                     "Documents, chart folders, or output folders that hold some")
@@ -109,7 +109,7 @@ private:
 
   void addInfo() {
     CLI::App& verb = add("info", "Tell what charts are: texts, data, files, versions",
-                         "chartxml info charts/0001-economics --json",
+                         "chartxml info charts/0001-penguins --json",
                          [this] { return tools::info(arguments_, asJson_); });
     takeFolders(verb, "Chart folders, or output folders that hold some");
     offerJson(verb);
