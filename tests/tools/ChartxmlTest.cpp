@@ -222,6 +222,8 @@ TEST_F(Command, IsCompletedByTheShellWithItsOwnVerbsAndOptions) {
   EXPECT_EQ(completed("chartxml v", 1), "validate verify\n");
   EXPECT_EQ(completed("chartxml render --", 2), "--help --svg --png --node\n");
   EXPECT_EQ(completed("chartxml verify charts/0", 2), "charts/0001-small\n");
+  EXPECT_EQ(completed("chartxml render charts --node charts/0001-small/s", 4),
+            "charts/0001-small/source0.csv\n");
   EXPECT_EQ(completed("chartxml validate charts/0001-small/chart.x", 2),
             "charts/0001-small/chart.xml\n");
   EXPECT_THAT(chartxml("completion zsh").text,

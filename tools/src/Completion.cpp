@@ -44,6 +44,15 @@ char kindOfArguments(const CLI::App& verb) {
   return !positionals.empty() && takesFolders(positionals.front()) ? 'd' : 'f';
 }
 
+/// The names of options that are followed by a file.
+std::string valuedOf(const CLI::App& verb) {
+  std::string names;
+  for (const CLI::Option* option :
+       verb.get_options([](const CLI::Option* each) { return isNamed(each) && takesValue(each); }))
+    names += nameOf(option) + " ";
+  return names;
+}
+
 /// A text between single quotes, without the signs that zsh's _arguments reads.
 std::string quoted(const std::string& text) {
   std::string safe;
@@ -77,11 +86,11 @@ std::string zshArguments(const CLI::App& verb) {
 std::string bashCompletion(const CLI::App& app) {
   std::string cases = fmt::format("  '') words='{}' ;;\n", wordsOf(app));
   for (const CLI::App* verb : verbsOf(app))
-    cases += fmt::format("  {}) words='{}' kind={} ;;\n", verb->get_name(), wordsOf(*verb),
-                         kindOfArguments(*verb));
+    cases += fmt::format("  {}) words='{}' valued=' {}' kind={} ;;\n", verb->get_name(),
+                         wordsOf(*verb), valuedOf(*verb), kindOfArguments(*verb));
   return fmt::format(R"(# Completes {0} in bash; printed by: {0} completion bash
 _{0}() {{
-  local word=${{COMP_WORDS[COMP_CWORD]}} verb= words= kind=f i
+  local word=${{COMP_WORDS[COMP_CWORD]}} verb= words= valued= kind=f i
   for ((i = 1; i < COMP_CWORD; i++)); do
     [[ ${{COMP_WORDS[i]}} == -* ]] || {{ verb=${{COMP_WORDS[i]}} && break; }}
   done
@@ -90,6 +99,7 @@ _{0}() {{
   if [[ -z $verb || $word == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
   else
+    [[ $valued == *" ${{COMP_WORDS[COMP_CWORD - 1]}} "* ]] && kind=f
     compopt -o filenames
     mapfile -t COMPREPLY < <(compgen -$kind -- "$word")
   fi

@@ -16,14 +16,15 @@ namespace {
 
 using tools::Status;
 
-constexpr const char* exitStatus = R"(
+constexpr const char* exitStatus = R"text(
 Exit status:
   0  all is well
   1  a chart is not as it should be, or cannot be drawn
   2  the command line is not understood, or names what is not there
   3  the work could not be done: a file cannot be read or written, Node.js is missing
 
-"chartxml <verb> --help" tells more of a verb.)";
+"chartxml <verb> --help" tells more of a verb; "source <(chartxml completion bash)", or
+zsh, completes verbs and options.)text";
 
 /// The command line with what each verb does.
 class CommandLine {
@@ -89,7 +90,7 @@ private:
 
   void addValidate() {
     CLI::App& verb = add("validate", "Check chart documents against their grammar",
-                         "chartxml validate charts/0001-economics/chart.xml",
+                         "chartxml validate charts/0001-penguins/chart.xml",
                          [this] { return tools::validate(arguments_, asJson_); });
     verb.add_option("file", arguments_,
                     "Documents, chart folders, or output folders that hold some")
@@ -108,7 +109,7 @@ private:
 
   void addInfo() {
     CLI::App& verb = add("info", "Tell what charts are: texts, data, files, versions",
-                         "chartxml info charts/0001-economics --json",
+                         "chartxml info charts/0001-penguins --json",
                          [this] { return tools::info(arguments_, asJson_); });
     takeFolders(verb, "Chart folders, or output folders that hold some");
     offerJson(verb);
