@@ -21,8 +21,9 @@ struct HeldReports {
   bool holding = false;
 };
 
+// Never destroyed: reports come also from destructors that run at exit.
 HeldReports& held() {
-  static HeldReports reports;
+  static HeldReports& reports = *new HeldReports;
   return reports;
 }
 
