@@ -33,6 +33,7 @@ constexpr Comparison comparisons[] = {
     {"placed/label/100000", "placed/label/1000", "a legend and its label"},
     {"placed/aggregate/100000", "placed/aggregate/1000", "a computed variable with its column"},
     {"value/entry/1000000", "value/push_back/1000000", "row and value, against push_back"},
+    {"value/column/1000000", "value/push_back/1000000", "a column's value, against push_back"},
     {"value/entry/1000000", "value/entry/10000", "row and value at 1 000 000, against 10 000"},
     {"text/entry", "text/copy", "text registered, against a u16string copied"},
     {"key/entry", "key/bundle", "key translated and kept, against ICU's bundle look-up"},

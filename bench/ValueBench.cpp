@@ -27,6 +27,22 @@ void valuesThroughEntryPoint(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
+void columnThroughEntryPoint(benchmark::State& state) {
+  const std::vector<double> values(static_cast<std::size_t>(state.range(0)), 0.5);
+  const std::int64_t count = state.range(0);
+  const std::int64_t firstRow = 1;
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto data = std::make_unique<DataChart>(1);
+    state.ResumeTiming();
+    chartxml_loadnumbers_(&data->chart, &data->variables.front(), &firstRow, values.data(), &count);
+    state.PauseTiming();
+    data.reset();
+    state.ResumeTiming();
+  }
+  state.SetItemsProcessed(state.iterations() * count);
+}
+
 [[gnu::noinline]] void push(std::vector<double>& column, double value) {
   column.push_back(value);
   benchmark::ClobberMemory();
@@ -44,5 +60,6 @@ void valuesPushedBack(benchmark::State& state) {
 
 BENCHMARK(valuesPushedBack)->Name("value/push_back")->Arg(1000000);
 BENCHMARK(valuesThroughEntryPoint)->Name("value/entry")->Arg(10000)->Arg(1000000);
+BENCHMARK(columnThroughEntryPoint)->Name("value/column")->Arg(1000000);
 
 } // namespace

@@ -9,8 +9,9 @@ const broken = { hang: 6, breakMark: ' &' };
 /** One module a group. */
 export function fortran(group) {
   const wrappers = group.entries.filter(isWrapped).map(entry => wrapper(entry));
-  const pointers = wrappers.some(({ dummies }) => dummies.some(dummy => dummy.attributes === pointer));
-  const reals = wrappers.some(({ dummies }) => dummies.some(({ name }) => /cells/.test(name)));
+  const dummies = wrappers.flatMap(one => one.dummies);
+  const pointers = dummies.some(({ attributes }) => attributes === pointer);
+  const reals = dummies.some(({ attributes }) => attributes.includes('c_double'));
   const kinds = ['c_int64_t', reals && 'c_double', pointers && 'c_ptr'].filter(Boolean).sort();
   return [
     ...wrap(madeFrom, 98).map(line => `! ${line}`), '!', `! ${group.title}, as Fortran has it.`,
@@ -69,8 +70,8 @@ const scalar = 'class(*), intent(in)';
 const output = 'class(*), intent(inout)';
 const pointer = 'type(c_ptr), intent(in)';
 
-// How each kind is declared and taken, and what is handed on; `index` counts the arguments of
-// the same store.
+// How each kind is declared; where its arguments are kept until the call and what takes them
+// there, or else what is handed on as it is.
 const dummyKinds = {
   integer: { attributes: scalar, store: 'i', take: 'take' },
   string: { attributes: scalar, store: 'i', take: 'take_string' },
@@ -113,10 +114,12 @@ function wrapper(entry) {
 // What has to be given stands first, the procedure's handle, which few give, last.
 const rank = ({ name, optional }) => (name === 'procedure_handle' ? 2 : optional ? 1 : 0);
 
+const nothingMade = /^-?[01]|^the (parent|list|number of rows|chart argument|variable|position)\b/;
+
 /** The name of the output that takes what an entry point made, when there is something. */
 function madeBy({ name, returns }, outs, isFunction) {
   if (isFunction || !/_(add|begin|copy|create)/.test(name)) return '';
-  if (/^-?[01]|^the (parent|list|number of rows|chart argument|variable|position)\b/.test(returns)) return '';
+  if (nothingMade.test(returns)) return '';
   if (outs.some(out => new RegExp(`^the (new )?${out}\\b`).test(returns))) return '';
   return returns.startsWith('the chart') ? 'chart' : 'handle';
 }
@@ -132,12 +135,13 @@ function step(argument, entry, counts) {
     name: snakeCase(name), shape, attributes, optional: isOptional(argument, entry),
   };
   if (pass) return { dummy, passed: pass(dummy.name) };
-  if (store === 'list') return { dummy, take: `${take}('${dummy.name}', ${dummy.name})`, passed: ['this%list'] };
+  const taken = `'${dummy.name}', ${dummy.name}`;
+  if (store === 'list') return { dummy, take: `${take}(${taken})`, passed: ['this%list'] };
   counts[store] = (counts[store] ?? 0) + 1;
   const place = counts[store];
   return {
     dummy,
-    take: `${take}(${place}, '${dummy.name}', ${dummy.name})`,
+    take: `${take}(${place}, ${taken})`,
     give: kind === 'out' && `call this%give(${place}, ${dummy.name})`,
     passed: [`this%${store}(${place})`],
   };

@@ -17,7 +17,8 @@ export function words(root) {
     .sort(([one], [other]) => one - other);
   const constants = [
     ...strings.map(([handle, text]) => ({ name: nameOf('string', text), value: handle, text })),
-    ...roleNames(read(roles)).map((text, i) => ({ name: nameOf('role', text), value: i + 1, text })),
+    ...roleNames(read(roles))
+      .map((text, i) => ({ name: nameOf('role', text), value: i + 1, text })),
   ];
   requireOnce(constants.map(({ name }) => name));
   return [
@@ -31,7 +32,7 @@ export function words(root) {
   ];
 }
 
-const nameOf = (kind, text) => `${kind}_${snakeCase(text).replace(/\W+/g, '_').replace(/_+/g, '_')}`;
+const nameOf = (kind, text) => `${kind}_${snakeCase(text).replace(/[\W_]+/g, '_')}`;
 
 const roleNames = source =>
   /names\{"",([^}]*)\}/.exec(source)[1].match(/\w+/g);

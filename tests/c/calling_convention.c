@@ -7,7 +7,7 @@
 
 static int failures = 0;
 
-static void expect(const char *behaviour, int holds) {
+static void expect(const char* behaviour, int holds) {
   if (holds) return;
   ++failures;
   fprintf(stderr, "FAILED: %s\n", behaviour);
@@ -16,15 +16,16 @@ static void expect(const char *behaviour, int holds) {
 static const int64_t none = -1, zero = 0, one = 1, far_up = INT64_C(1) << 32;
 
 /* The chart's document as it is by now. */
-static const char *document(int64_t chart) {
+static const char* document(int64_t chart) {
   static char text[8192];
   const int64_t room = sizeof text - 1;
   const int64_t length = chartxml_getxml_(&chart, text, &room);
-  text[length < 0 ? 0 : length < room ? length : room] = '\0';
+  expect("the document comes whole", length > 0 && length < room);
+  text[length < 0 || length > room ? 0 : length] = '\0';
   return text;
 }
 
-static int64_t string(const char *bytes, int64_t length) {
+static int64_t string(const char* bytes, int64_t length) {
   return cx_string_(&zero, bytes, &length);
 }
 
@@ -56,8 +57,7 @@ static void test_texts(int64_t chart, int64_t frame) {
 }
 
 static void test_columns(int64_t chart, int64_t source) {
-  const int64_t variable =
-      cx_addaggregate_(&chart, &source, &none, &zero, &none, &none, &none);
+  const int64_t variable = cx_addaggregate_(&chart, &source, &none, &zero, &none, &none, &none);
   const double numbers[] = {1.5, 2.5};
   const int64_t two = 2;
   expect("a column is stored", chartxml_loadnumbers_(&chart, &variable, &two, numbers, &two) == 0);

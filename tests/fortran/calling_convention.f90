@@ -93,7 +93,8 @@ contains
     call expect('a text has the given length, trailing blanks included', &
       index(document, '>[ab  ]</label>') > 0)
     call expect('the variables of an array come in order', &
-      index(document, 'expression="variable9/variable9label + variable7/variable7label" id="variable10"') > 0)
+      index(document, 'expression="variable9/variable9label + variable7/variable7label" '// &
+      'id="variable10"') > 0)
     call expect('bytes beyond ASCII arrive', index(document, '>Größe &lt;1</label>') > 0)
     call expect('a logical other than 0 clips', &
       index(document, '<frame clip="true" id="frame_data_1"') > 0)

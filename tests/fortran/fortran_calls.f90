@@ -89,8 +89,9 @@ contains
     call add_legend_frame(chart, 999, 999, 1, style=style, legend=style, stat=stat)
     call expect_error('another step is told', &
       'parent handle (999) out of range (0-'//decimal(legend + 1)//')')
+    legend = -7
     call add_dimension_axis(chart, data, 4, axis=legend, stat=stat)
-    call expect('outputs of later steps are left alone', legend > 0)
+    call expect('outputs of later steps are left alone', legend, -7)
     call expect('a silent refusal is one', stat, 1)
   end subroutine
 
@@ -139,11 +140,13 @@ contains
   subroutine test_answers
     integer :: stat
 
-    call expect('nothing there is an answer', get_facet_label(chart, only_labeling(), 9, stat=stat), -1)
+    call expect('nothing there is an answer', &
+      get_facet_label(chart, only_labeling(), 9, stat=stat), -1)
     call expect('and no refusal', stat, 0)
     call expect('a bad node is one', get_facet_label(chart, data, 9, stat=stat), -1)
     call expect('with its reason', stat, 1)
-    call expect_error('which is told', 'can''t get facet label from anything but facet labeling frame')
+    call expect_error('which is told', &
+      'can''t get facet label from anything but facet labeling frame')
   end subroutine
 
   integer function only_labeling()
@@ -206,7 +209,8 @@ contains
     call load(chart, table, rows(6:2:-2, :))
     call load(chart, source, numbers, stat=stat)
     call expect('a column needs a variable', stat, 1)
-    call expect_error('with its node', 'the node '//decimal(source)//' is no variable with a column')
+    call expect_error('with its node', &
+      'the node '//decimal(source)//' is no variable with a column')
     call load(chart, x, numbers, first=0, stat=stat)
     call expect_error('rows count from 1', 'no 6 rows from row 0 on: rows go from 1 to 2147483647')
     call load(chart, table(:1), rows, stat=stat)

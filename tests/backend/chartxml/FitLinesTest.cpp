@@ -132,6 +132,7 @@ TEST_F(FitLines, AreRefusedByTheStepThatFails) {
     EXPECT_EQ(add(frame, Int(1), {2, -std::numeric_limits<double>::max()}, Int(0)), -1) << name;
     EXPECT_THAT(takeReports(), ElementsAre("parameter handle out of range")) << name;
   }
+  EXPECT_EQ(fragment(chart, 0), before);
   cx_killchart_(Int(0));
   for (const auto& line : cases) {
     EXPECT_EQ(line.add(frame, Int(1), coefficients, Int(0)), -1) << line.name;

@@ -24,7 +24,7 @@ ChartString withPoint(ChartString text) {
   std::string shown = text.toUTF8();
   const std::size_t sign = shown.find(locale->decimalSeparator);
   if (sign == std::string::npos) return text;
-  text.assignUTF8(shown.replace(sign, locale->decimalSeparator.size(), "."));
+  text.assignUTF8(shown.replace(sign, locale->decimalSeparator.size(), 1, '.'));
   return text;
 }
 

@@ -21,8 +21,9 @@ struct HeldReports {
   bool holding = false;
 };
 
+// Never destroyed: reports come also from destructors that run at exit.
 HeldReports& held() {
-  static HeldReports reports;
+  static HeldReports& reports = *new HeldReports;
   return reports;
 }
 
@@ -76,16 +77,17 @@ int64_t chartxml_refuse_(const char* text, const int64_t* textLength) {
 }
 
 int64_t chartxml_endcall_(const char* callName, const int64_t* callNameLength,
-                          const int64_t* failed, const int64_t* mayBeSilent,
-                          const int64_t* wanted, char* buffer, const int64_t* bufferCapacity) {
+                          const int64_t* failed, const int64_t* mayBeSilent, const int64_t* wanted,
+                          char* buffer, const int64_t* bufferCapacity) {
   return caught(__func__, [&] {
     if (!held().holding) return 0;
     const bool programTakesThem = static_cast<bool>(held().before);
     host::setErrorCallback(std::exchange(held().before, nullptr));
     held().holding = false;
-    const auto reports = std::exchange(held().reports, {});
+    const bool refused = logical(failed) && !(logical(mayBeSilent) && held().reports.empty());
+    if (!refused && held().reports.empty()) return 0;
 
-    const bool refused = logical(failed) && !(logical(mayBeSilent) && reports.empty());
+    const auto reports = std::exchange(held().reports, {});
     if (refused) assign(joined(reports), buffer, bufferCapacity);
     if (refused && logical(wanted)) return 1;
     const std::string name = Text{callName, callNameLength}.read();
