@@ -19,21 +19,40 @@ h1 { font-size: 1.4rem; margin: .5rem 0 1rem; }
 h2 { font-size: 1.1rem; margin: 1.5rem 0 .5rem; }
 figure { margin: 0; }
 figcaption, .soft { color: var(--soft); }
+.plot { position: relative; }
+#chart { width: fit-content; max-width: 100%; }
 #chart svg { max-width: 100%; height: auto; }
+.ring { position: absolute; width: 1.4rem; height: 1.4rem; margin: -.8rem 0 0 -.8rem; border: .15rem solid var(--ink);
+  border-radius: 50%; outline: .1rem solid var(--paper); pointer-events: none; }
+#live { min-height: 1.5em; margin: .25rem 0; font-weight: 600; }
+:focus-visible { outline: .15rem solid var(--link); outline-offset: .15rem; }
+[hidden] { display: none !important; }
 .later { visibility: hidden; animation: show 0s 1.5s forwards; }
 @keyframes show { to { visibility: visible; } }
 .bad { border-left: .3rem solid #d55e00; padding: .3rem 1rem; }
-button { font: inherit; padding: .25rem .8rem; margin: .75rem .5rem .75rem 0; color: inherit; background: none;
-  border: 1px solid var(--line); border-radius: .3rem; cursor: pointer; }
+fieldset { display: flex; flex-wrap: wrap; gap: .25rem 1.25rem; margin: .75rem 0; border: 1px solid var(--line); border-radius: .3rem; }
+button, input[type=search] { font: inherit; padding: .25rem .8rem; margin: .75rem .5rem .75rem 0; color: inherit;
+  background: none; border: 1px solid var(--soft); border-radius: .3rem; }
+button { cursor: pointer; }
 button:hover { border-color: var(--ink); }
+button:disabled { opacity: .5; cursor: default; }
 .table { overflow-x: auto; }
 table { border-collapse: collapse; font-variant-numeric: tabular-nums; }
 th, td { border-bottom: 1px solid var(--line); padding: .2rem .9rem .2rem 0; text-align: left; }
 td.number, th.number { text-align: right; }
+.search { display: flex; flex-wrap: wrap; gap: .5rem 1rem; align-items: center; }
+.search input { flex: 1 1 15rem; margin: 0; }
 .cards { display: grid; grid-template-columns: repeat(auto-fill, minmax(20rem, 1fr)); gap: 1.5rem; padding: 0; list-style: none; }
 .cards li { border: 1px solid var(--line); border-radius: .4rem; overflow: hidden; }
 .cards img { display: block; width: 100%; aspect-ratio: 4 / 3; object-fit: contain; background: #fff; }
-.cards p, .cards h2 { margin: .6rem 1rem; overflow-wrap: anywhere; }
+.cards p, .cards h2, .cards details { margin: .6rem 1rem; overflow-wrap: anywhere; }
+pre { overflow: auto; max-height: 20rem; font-size: .85rem; line-height: 1.35; }
+@media print {
+  :root { color-scheme: light; --ink: #000; --soft: #333; --paper: #fff; --line: #999; --link: #000; }
+  body { max-width: none; padding: 0; }
+  nav, #actions, #filters, #keys, #live, .ring, .search, button { display: none !important; }
+  figure, .cards li, tr { break-inside: avoid; }
+}
 )";
 
 std::string replaced(std::string_view text, std::string_view (*replacement)(char)) {
