@@ -1,6 +1,6 @@
 // Shows and hides the groups of a legend, by its entries and by a list of boxes.
 
-import {textsOf} from './texts.js';
+import {literal, textsOf} from './texts.js';
 
 const mostBoxes = 100;
 
@@ -43,7 +43,7 @@ export function prepareFilters(spec) {
     const name = `filter_${filters.length}_`;
     filters.push({...variable, signal, name, title: [legend.title].flat().join(' ')});
     spec.signals.push({name: signal, value: []});
-    const expr = isShown(signal, `datum[${JSON.stringify(variable.field)}]`);
+    const expr = isShown(signal, `datum[${literal(variable.field)}]`);
     for (const set of data) set.transform = [{type: 'filter', expr}, ...(set.transform ?? [])];
     dim(legend, name, signal);
   }

@@ -37,7 +37,7 @@
   function cardOf(chart) {
     const {folder, name, description = '', picture, trouble} = chart;
     const page = urlOf(folder, 'chart.html');
-    const card = make('li', {lang: chart.language ?? 'en'});
+    const card = make('li', {lang: Object.hasOwn(all, chart.language) ? chart.language : language});
     if (picture) {
       const image = make('img', {alt: '', loading: 'lazy', src: urlOf(folder, picture)});
       card.append(make('a', {href: page, tabIndex: -1, ariaHidden: 'true'}, image));

@@ -1,3 +1,5 @@
+import {literal} from './texts.js';
+
 /** So many marks get a label each; more are no help, and the page would be slow. */
 const mostLabels = 500;
 
@@ -6,7 +8,7 @@ function label(mark) {
   if (tooltip) {
     const text = `join(${tooltip}, "; ")`;
     const isOneMark = mark.type === 'line' || mark.type === 'area';
-    const data = JSON.stringify(mark.from?.data ?? '');
+    const data = literal(mark.from?.data ?? '');
     mark.encode.update.description = {
       signal: isOneMark ? text : `length(data(${data})) <= ${mostLabels} ? ${text} : null`,
     };

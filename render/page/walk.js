@@ -86,17 +86,24 @@ class Walk {
   async go(step, toGroup) {
     this.series ??= seriesOf(this.page);
     if (this.series.length === 0) return;
-    const former = this.series[this.group]?.[this.index];
-    this.group = (this.group + toGroup + this.series.length) % this.series.length;
+    const former = this.stop;
+    if (former) this.group += toGroup + this.series.length;
+    this.group %= this.series.length;
     const stops = this.series[this.group];
     this.index = toGroup && former ? nearest(stops, former) : this.index + step;
     this.index = Math.min(Math.max(this.index, 0), stops.length - 1);
     await this.tell(stops);
   }
 
+  get stop() {
+    return this.series?.[this.group]?.[this.index];
+  }
+
   async tell(stops) {
-    this.mark(stops[this.index]);
-    const text = await textOf(stops[this.index], this.page);
+    const {stop} = this;
+    this.mark(stop);
+    const text = await textOf(stop, this.page);
+    if (stop !== this.stop) return;
     this.live.textContent =
       word('Position^3', text, shownNumber(this.index + 1), shownNumber(stops.length));
   }
@@ -134,6 +141,7 @@ const keys = {
 export function addWalk(page, container, live) {
   const walk = new Walk(page, container, live);
   container.setAttribute('role', 'application');
+  container.setAttribute('aria-label', page.spec.usermeta.title);
   container.setAttribute('aria-roledescription', word('Chart'));
   container.setAttribute('aria-describedby', 'about keys');
   container.tabIndex = 0;
@@ -144,7 +152,8 @@ export function addWalk(page, container, live) {
     event.preventDefault();
     act(walk);
   });
-  container.addEventListener('blur', () => walk.leave());
-  addEventListener('resize', () => walk.mark(walk.series?.[walk.group]?.[walk.index]));
+  // The text stays: what is below it must not move under the pointer that clicks there.
+  container.addEventListener('blur', () => (walk.ring.hidden = true));
+  addEventListener('resize', () => walk.mark(walk.stop));
   return walk;
 }

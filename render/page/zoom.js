@@ -1,7 +1,7 @@
 // Zooms and moves the continuous scales of a plot within their whole ranges.
 
 import {scale as scaleOf} from 'vega';
-import {textsOf} from './texts.js';
+import {literal, textsOf} from './texts.js';
 import {word} from './words.js';
 
 const mostTicks = 8;
@@ -13,7 +13,7 @@ const decimals = /"([^"]*)\.(\d+)f"/g;
 /** The column with the axis's format, when it is one of dates or durations. */
 const dateColumn = (text, columns) =>
   columns.find(({date, field, text: own}) =>
-    date && own?.replaceAll(`datum[${JSON.stringify(field)}]`, 'datum.value') === text);
+    date && own?.replaceAll(`datum[${literal(field)}]`, 'datum.value') === text);
 
 /** Lets the labels of an axis follow its scale. */
 function prepareAxis(axis, dimension, spec) {

@@ -1,5 +1,6 @@
 #include "page/Html.h"
 
+#include <algorithm>
 #include <cctype>
 
 #include <fmt/format.h>
@@ -73,6 +74,12 @@ void replaceAll(std::string& text, std::string_view from, std::string_view to) {
     text.replace(at, from.size(), to);
 }
 
+/// What is no language tag would be an error to whatever reads it.
+std::string_view languageTag(std::string_view language) {
+  const auto isPlain = [](unsigned char c) { return c == '-' || (c < 0x80 && std::isalnum(c)); };
+  return !language.empty() && std::ranges::all_of(language, isPlain) ? language : "en";
+}
+
 } // namespace
 
 std::string escapeHtml(std::string_view utf8) {
@@ -137,7 +144,7 @@ std::string pageHead(std::string_view language, std::string_view title, std::str
 <style>{}</style>
 </head>
 )",
-                     escapeHtml(language), policy, escapeHtml(title), style);
+                     languageTag(language), policy, escapeHtml(title), style);
 }
 
 } // namespace render
