@@ -32,7 +32,8 @@ figcaption, .soft { color: var(--soft); }
 @keyframes show { to { visibility: visible; } }
 .bad { border-left: .3rem solid #d55e00; padding: .3rem 1rem; }
 fieldset { display: flex; flex-wrap: wrap; gap: .25rem 1.25rem; margin: .75rem 0; border: 1px solid var(--line); border-radius: .3rem; }
-button, input[type=search] { font: inherit; padding: .25rem .8rem; margin: .75rem .5rem .75rem 0; color: inherit;
+#actions { display: flex; flex-wrap: wrap; gap: .5rem; }
+button, input[type=search] { font: inherit; padding: .25rem .8rem; margin: 0; color: inherit;
   background: none; border: 1px solid var(--soft); border-radius: .3rem; }
 button { cursor: pointer; }
 button:hover { border-color: var(--ink); }
@@ -42,8 +43,8 @@ table { border-collapse: collapse; font-variant-numeric: tabular-nums; }
 th, td { border-bottom: 1px solid var(--line); padding: .2rem .9rem .2rem 0; text-align: left; }
 td.number, th.number { text-align: right; }
 .search { display: flex; flex-wrap: wrap; gap: .5rem 1rem; align-items: center; }
-.search input { flex: 1 1 15rem; margin: 0; }
-.cards { display: grid; grid-template-columns: repeat(auto-fill, minmax(20rem, 1fr)); gap: 1.5rem; padding: 0; list-style: none; }
+.search input { flex: 1 1 15rem; }
+.cards { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(20rem, 100%), 1fr)); gap: 1.5rem; align-items: start; padding: 0; list-style: none; }
 .cards li { border: 1px solid var(--line); border-radius: .4rem; overflow: hidden; }
 .cards img { display: block; width: 100%; aspect-ratio: 4 / 3; object-fit: contain; background: #fff; }
 .cards p, .cards h2, .cards details { margin: .6rem 1rem; overflow-wrap: anywhere; }
