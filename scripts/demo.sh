@@ -34,7 +34,11 @@ run_procedure() {
   before=$(chart_folders)
   say "running ${1##*/} in $2"
   CHARTXML_OUTPUT=$gallery CHARTXML_LANG=$2 "$1" || status=$?
-  comm -13 <(printf '%s\n' "$before") <(chart_folders) >>"$made"
+  local chart
+  while read -r chart; do
+    printf '%s\n' "$chart" >>"$made"
+    cp -- "procedures/${1##*/}.f90" "$gallery/$chart/procedure.f90"
+  done < <(comm -13 <(printf '%s\n' "$before") <(chart_folders))
   ((status == 0)) || fail "${1##*/} ended with status $status"
 }
 

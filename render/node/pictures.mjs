@@ -8,6 +8,7 @@ import {readFileSync, renameSync, rmSync, writeFileSync} from 'node:fs';
 import {basename, join} from 'node:path';
 import {Resvg} from '@resvg/resvg-js';
 import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
+import {pngWithTexts, svgWithTexts, textsOfPicture} from '../page/pictureTexts.js';
 import {nameFaces} from './faces.mjs';
 import {textWidth} from './textWidth.mjs';
 
@@ -43,10 +44,12 @@ async function draw(folder, {svg, png}) {
   // The ids in a picture count from one, whatever was drawn before it.
   resetSVGDefIds();
   const picture = await new View(parse(spec), {renderer: 'none'}).toSVG();
-  if (svg) writeWhole(join(folder, 'chart.svg'), picture);
+  const texts = textsOfPicture(spec);
+  if (svg) writeWhole(join(folder, 'chart.svg'), svgWithTexts(picture, texts));
   if (png) {
     const zoom = {fitTo: {mode: 'zoom', value: pngScale}, font: fonts};
-    writeWhole(join(folder, 'chart.png'), new Resvg(nameFaces(anchorClippedGroups(picture)), zoom).render().asPng());
+    const pixels = new Resvg(nameFaces(anchorClippedGroups(picture)), zoom).render().asPng();
+    writeWhole(join(folder, 'chart.png'), pngWithTexts(pixels, texts));
   }
 }
 

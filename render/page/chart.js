@@ -12,22 +12,26 @@ function formatTooltip(pairs) {
   return `<table>${pairs.map(row).join('')}</table>`;
 }
 
-/** Draws into the element and follows the reader's choice of light or dark. */
+/**
+ * Draws into the element and follows the reader's choice of light or dark; paper is
+ * always light.
+ */
 export async function drawChart(runtime, container) {
   const dark = matchMedia('(prefers-color-scheme: dark)');
-  const theme = () => (dark.matches ? 'dark' : 'light');
-  const tooltip = (options) => new Handler({...options, formatTooltip});
   const view = new View(runtime, {
     container,
     renderer: 'svg',
     hover: true,
     expr: expressionInterpreter,
-    tooltip: tooltip({theme: theme()}).call,
   });
-  await view.signal('dark', dark.matches).runAsync();
-  dark.addEventListener('change', () => {
-    view.tooltip(tooltip({theme: theme()}).call);
-    view.signal('dark', dark.matches).runAsync();
-  });
+  const follow = (isDark) => {
+    const theme = isDark ? 'dark' : 'light';
+    view.tooltip(new Handler({theme, formatTooltip}).call);
+    return view.signal('dark', isDark);
+  };
+  await follow(dark.matches).runAsync();
+  dark.addEventListener('change', () => follow(dark.matches).runAsync());
+  addEventListener('beforeprint', () => follow(false).run());
+  addEventListener('afterprint', () => follow(dark.matches).run());
   return view;
 }

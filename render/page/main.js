@@ -2,23 +2,41 @@
 
 import {parse} from 'vega';
 import {drawChart} from './chart.js';
+import {addFilters, prepareFilters} from './filter.js';
+import {prepareLabels} from './labels.js';
 import {addSaveButtons} from './save.js';
-import {fillTable} from './table.js';
+import {addTable} from './table.js';
+import {addWalk} from './walk.js';
+import {word} from './words.js';
+import {addZoom, prepareZoom} from './zoom.js';
+
+const pristine = document.documentElement.cloneNode(true);
+const element = (id) => document.getElementById(id);
 
 async function drawPage() {
-  const spec = JSON.parse(document.getElementById('spec').textContent);
+  const spec = JSON.parse(element('spec').textContent);
+  const rows = spec.data[0]?.values ?? [];
+  const filters = prepareFilters(spec);
+  const zoom = prepareZoom(spec);
+  prepareLabels(spec);
   // Expressions are kept as trees: the page's policy allows no code from texts.
   const runtime = parse(spec, null, {ast: true});
-  const view = await drawChart(runtime, document.getElementById('chart'));
-  addSaveButtons(runtime, document.getElementById('actions'));
-  await fillTable(view, spec, document.getElementById('data'));
+  const view = await drawChart(runtime, element('chart'));
+
+  const page = {spec, rows, runtime, view, pristine, filters, zoom, actions: element('actions')};
+  const walk = addWalk(page, element('chart'), element('live'));
+  page.changed = () => walk.renew();
+  await addFilters(page, element('filters'));
+  addZoom(page, element('chart'));
+  addSaveButtons(page);
+  addTable(page, element('data'));
 }
 
-const trouble = document.getElementById('trouble');
+const trouble = element('trouble');
 drawPage().then(
   () => trouble.remove(),
   (error) => {
-    trouble.textContent = `The picture cannot be drawn: ${error.message}`;
+    trouble.textContent = word('Not drawn^1', error.message);
     trouble.classList.remove('later');
   },
 );

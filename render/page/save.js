@@ -1,36 +1,69 @@
 import {View} from 'vega';
 import {expressionInterpreter} from 'vega-interpreter';
+import {csvOf} from './csv.js';
+import {pngWithTexts, svgWithTexts, textsOfPicture} from './pictureTexts.js';
+import {word} from './words.js';
 
 const pngScale = 2;
 
-/** What a saved picture is made from: always the light one, as it is printed. */
-const light = (runtime) => new View(runtime, {renderer: 'none', expr: expressionInterpreter});
+/** What a saved picture is made from: what is seen, but always light, as it is printed. */
+function light({runtime, view, filters, zoom}) {
+  const picture = new View(runtime, {renderer: 'none', expr: expressionInterpreter});
+  const names = filters.map(({signal}) => signal)
+    .concat(zoom.flatMap(({name}) => [`zoom_${name}`, `ticks_${name}`, `decimals_${name}`]))
+    .concat(zoom.length > 0 ? 'zoomed' : []);
+  for (const name of names) picture.signal(name, view.signal(name));
+  return picture;
+}
+
+const svg = async (page) => svgWithTexts(await light(page).toSVG(), textsOfPicture(page.spec));
+
+async function png(page) {
+  const url = await light(page).toImageURL('png', pngScale);
+  const bytes = Uint8Array.from(atob(url.slice(url.indexOf(',') + 1)), (c) => c.charCodeAt(0));
+  return pngWithTexts(bytes, textsOfPicture(page.spec));
+}
+
+async function sha256(text) {
+  const digest = await crypto.subtle.digest('SHA-256', new TextEncoder().encode(text));
+  return btoa(String.fromCharCode(...new Uint8Array(digest)));
+}
+
+/**
+ * The page in one file, its script inside: the bundle is the body of this function. The
+ * page's policy then names the script by its checksum.
+ */
+async function wholePage({pristine}) {
+  const script = `${chartxmlPage}\nchartxmlPage();`;
+  const page = pristine.cloneNode(true);
+  const policy = page.querySelector('meta[http-equiv]');
+  policy.content = policy.content.replace(/script-src [^;]*/, `script-src 'sha256-${await sha256(script)}'`);
+  page.querySelector('nav')?.remove();
+  const inline = document.createElement('script');
+  inline.textContent = script;
+  page.querySelector('#runtime').replaceWith(inline);
+  inline.id = 'runtime';
+  return `<!doctype html>\n${page.outerHTML}`;
+}
 
 const formats = [
-  {
-    name: 'SVG',
-    file: 'chart.svg',
-    url: async (runtime) =>
-      URL.createObjectURL(new Blob([await light(runtime).toSVG()], {type: 'image/svg+xml'})),
-  },
-  {
-    name: 'PNG',
-    file: 'chart.png',
-    url: (runtime) => light(runtime).toImageURL('png', pngScale),
-  },
+  {key: 'Save as^1', name: 'SVG', file: 'chart.svg', type: 'image/svg+xml', make: svg},
+  {key: 'Save as^1', name: 'PNG', file: 'chart.png', type: 'image/png', make: png},
+  {key: 'Save as^1', name: 'CSV', file: 'chart.csv', type: 'text/csv', make: csvOf},
+  {key: 'Save the page', name: '', file: 'chart.html', type: 'text/html', make: wholePage},
 ];
 
-export function addSaveButtons(runtime, place) {
-  for (const {name, file, url} of formats) {
+export function addSaveButtons(page) {
+  for (const {key, name, file, type, make} of formats) {
     const button = document.createElement('button');
-    button.textContent = `Save as ${name}`;
+    button.textContent = word(key, name);
     button.addEventListener('click', async () => {
       const link = document.createElement('a');
-      link.href = await url(runtime);
+      link.href = URL.createObjectURL(new Blob([await make(page)], {type}));
       link.download = file;
       link.click();
       setTimeout(() => URL.revokeObjectURL(link.href), 60000);
     });
-    place.append(button);
+    page.actions.append(button);
   }
 }

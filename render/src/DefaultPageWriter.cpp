@@ -3,6 +3,6 @@
 
 host::PageWriter host::defaultPageWriter() {
   return {.writeChart = render::writeChart,
-          .writeGallery = render::writeGallery,
+          .writeGallery = render::updateGallery,
           .versions = render::versions()};
 }

@@ -6,8 +6,11 @@
 #include "page/ChartPage.h"
 #include "page/Files.h"
 #include "page/Gallery.h"
+#include "page/GalleryList.h"
 #include "page/Runtime.h"
 #include "resolve/Chart.h"
+#include "text/Words.h"
+#include "thin/Excerpt.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -16,12 +19,25 @@ namespace {
 //   read        chart.xml, CSV, manifest      -> ChartFolder
 //   resolve     references, extents, groups   -> Chart
 //   translate   one translator a node kind    -> Parts
+//   thin        rows and columns that are drawn -> Excerpts
 //   assemble    one Vega specification        -> JSON
-Json specification(const ChartFolder& folder) {
+Json specification(const ChartFolder& folder, const Words& words) {
   Notes notes;
   const Chart chart = resolve(folder, notes);
   Parts parts = translate(chart, notes);
-  return assemble(chart, std::move(parts), notes);
+  return assemble(chart, std::move(parts), excerptsOf(chart), words, notes);
+}
+
+/// The gallery page, with its list made by one of the writers and the shared scripts.
+void place(const std::filesystem::path& outputFolder,
+           void (*writeList)(const std::filesystem::path&)) {
+  try {
+    placeRuntime(outputFolder);
+    writeList(outputFolder);
+    writeChanged(outputFolder / "index.html", galleryPage());
+  } catch (const std::filesystem::filesystem_error& e) {
+    throw RenderError(e.what());
+  }
 }
 
 /// The manifest of a chart that is refused, or what can be told without one.
@@ -41,9 +57,10 @@ void writeChart(const std::filesystem::path& chartFolder) {
   const std::filesystem::path page = folder / "chart.html";
   try {
     const ChartFolder chart = ChartFolder::read(folder);
-    const Json spec = specification(chart);
+    const Words words(chart.manifest.language);
+    const Json spec = specification(chart, words);
     writeFile(folder / "chart.vg.json", laidOut(spec));
-    writeFile(page, chartPage(chart.manifest, spec));
+    writeFile(page, chartPage(chart.manifest, spec, words));
   } catch (const RenderError& e) {
     const std::string_view reason = e.what();
     const std::string prefix = folder.native() + "/";
@@ -55,12 +72,11 @@ void writeChart(const std::filesystem::path& chartFolder) {
 }
 
 void writeGallery(const std::filesystem::path& outputFolder) {
-  try {
-    placeRuntime(outputFolder);
-    writeFile(outputFolder / "index.html", galleryPage(outputFolder));
-  } catch (const std::filesystem::filesystem_error& e) {
-    throw RenderError(e.what());
-  }
+  place(outputFolder, writeGalleryList);
+}
+
+void updateGallery(const std::filesystem::path& outputFolder) {
+  place(outputFolder, updateGalleryList);
 }
 
 } // namespace render

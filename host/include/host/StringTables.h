@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -68,6 +70,14 @@ KORVA_API bool setOutputLanguage(const std::string& code);
 
 /// The code page of the texts that FacSTDictionary gives for a language.
 std::string codePageOfLanguage(const std::string& code);
+
+/// Texts by their keys, UTF-8.
+using TableTexts = std::map<std::string, std::string, std::less<>>;
+
+/// The texts of a table, such as "page", in a language, whatever the output language;
+/// English where the language has none. A table that is missing or damaged is reported
+/// once, its texts are not there.
+TableTexts textsOfTable(const std::string& table, const std::string& language);
 
 /// share/chartxml beside the library, of the build tree or the installed one.
 std::string shareFolder();

@@ -22,10 +22,16 @@ public:
 /// chart cannot be read; a page that says so is written all the same.
 void writeChart(const std::filesystem::path& chartFolder);
 
-/// Writes index.html, the gallery of the charts in an output folder in the order
-/// of their names, and runtime/, the script that the chart pages share. Throws
-/// RenderError when they cannot be written.
+/// Writes index.html, the gallery of the charts in an output folder in the order of
+/// their names, gallery.js, the list that it shows, and runtime/, the scripts that the
+/// pages share. A chart stands there with its picture, chart.svg or chart.png, and with
+/// the source of its procedure, a file "procedure" with any extension, where its folder
+/// has them. Throws RenderError when they cannot be written.
 void writeGallery(const std::filesystem::path& outputFolder);
+
+/// The same for a gallery that is there: adds the charts and errors that its list
+/// lacks. The cost of one more chart hardly grows with their number.
+void updateGallery(const std::filesystem::path& outputFolder);
 
 /// The versions of what makes and draws the pages, by name: renderer, vega, ...
 std::map<std::string, std::string> versions();

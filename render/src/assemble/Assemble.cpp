@@ -1,10 +1,10 @@
 #include "assemble/Assemble.h"
 
-#include <algorithm>
-
 #include <fmt/format.h>
 
+#include "assemble/Describe.h"
 #include "text/Expression.h"
+#include "text/PlainValue.h"
 #include "text/Wrap.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
@@ -19,20 +19,17 @@ Json cell(const Variable& variable, std::size_t row) {
 }
 
 /// The rows of each data source, with a field for each variable.
-Json sources(const Chart& chart) {
+Json sources(const std::vector<Excerpt>& excerpts) {
   Json data = Json::array();
-  for (const auto& [id, table] : chart.folder->tables) {
-    std::vector<const Variable*> variables;
-    for (const Variable& variable : chart.variables)
-      if (variable.source == id && variable.texts != nullptr) variables.push_back(&variable);
+  for (const Excerpt& excerpt : excerpts) {
     Json rows = Json::array();
-    for (std::size_t row = 0; row < table.rowCount; ++row) {
+    for (const std::size_t row : excerpt.rows) {
       Json fields = Json::object();
-      for (const Variable* variable : variables)
+      for (const Variable* variable : excerpt.variables)
         fields[variable->id] = cell(*variable, row);
       rows.push_back(std::move(fields));
     }
-    data.push_back({{"name", id}, {"values", std::move(rows)}});
+    data.push_back({{"name", excerpt.source}, {"values", std::move(rows)}});
   }
   return data;
 }
@@ -110,63 +107,50 @@ void addTitles(Json& spec, Json& plot, const Parts& parts) {
         {"lineHeight", theme::footnoteSize + 5}};
 }
 
-/// "Species: Adélie, Gentoo" of the first element with groups; empty without.
-std::string describeGroups(const Chart& chart) {
-  const auto grouped =
-      std::ranges::find_if(chart.elements, [](const Element& e) { return e.group != nullptr; });
-  if (grouped == chart.elements.end()) return {};
-  std::string labels;
-  for (const Category& category : grouped->group->categories)
-    if (category.expression.empty()) labels += (labels.empty() ? "" : ", ") + category.label;
-  return labels.empty() ? labels : fmt::format("{}: {}", grouped->group->title, labels);
-}
-
-/// What the picture shows, for those who cannot see it.
-std::string describe(const Chart& chart, const Parts& parts) {
-  std::string text;
-  const auto add = [&text](std::string_view sentence) {
-    if (sentence.empty()) return;
-    const bool isClosed = text.ends_with('.') || text.ends_with("。");
-    if (!text.empty()) text += isClosed ? " " : ". ";
-    text += sentence;
-  };
-  for (const std::string& title : parts.title)
-    add(title);
-  add(chart.folder->manifest.description);
-  for (const Dimension* dimension : {&chart.x, &chart.y})
-    if (!dimension->variables.empty())
-      add(fmt::format("{}: {}", dimension->role, dimension->variables.front()->title));
-  add(describeGroups(chart));
-  return text.empty() ? chart.folder->manifest.name : text;
-}
-
 /// The columns of the first data source, for the page's table.
-Json tableColumns(const Chart& chart) {
+Json tableColumns(const std::vector<Excerpt>& excerpts) {
   Json columns = Json::array();
-  for (const Variable& variable : chart.variables) {
-    if (variable.texts == nullptr || variable.source != chart.folder->tables.begin()->first)
-      continue;
-    Json column{{"field", variable.id}, {"title", variable.title}};
-    for (const Category& category : variable.categories)
+  if (excerpts.empty()) return columns;
+  for (const Variable* variable : excerpts.front().variables) {
+    Json column{{"field", variable->id}, {"title", variable->title}};
+    for (const Category& category : variable->categories)
       if (category.label != category.key) column["labels"][category.key] = category.label;
-    const std::string value = datum(variable.id);
-    if (!variable.categorical)
-      column["text"] = valueText(variable.format, value);
-    else if (!std::holds_alternative<std::monostate>(variable.format))
-      column["text"] = valueText(variable.format, fmt::format("toNumber({})", value));
+    const std::string value = datum(variable->id);
+    if (!variable->categorical)
+      column["text"] = valueText(variable->format, value);
+    else if (!std::holds_alternative<std::monostate>(variable->format))
+      column["text"] = valueText(variable->format, fmt::format("toNumber({})", value));
+    if (std::holds_alternative<DateFormat>(variable->format)) column["date"] = true;
     columns.push_back(std::move(column));
   }
   return columns;
 }
 
+/// What the page shows beside the picture.
+Json pageMeta(const Chart& chart, const Parts& parts, const std::vector<Excerpt>& excerpts,
+              const Words& words, const Notes& notes) {
+  const Manifest& manifest = chart.folder->manifest;
+  Json meta{{"title", parts.title.empty() ? manifest.name : parts.title.front()},
+            {"notes", notes.all()},
+            {"columns", tableColumns(excerpts)}};
+  for (const Excerpt& excerpt : excerpts)
+    if (excerpt.isThinned())
+      meta["notes"].push_back(
+          words("Thinned^2", {roundedText(static_cast<double>(excerpt.rows.size()), manifest.signs),
+                              roundedText(static_cast<double>(excerpt.drawable), manifest.signs)}));
+  return meta;
+}
+
 } // namespace
 
-Json assemble(const Chart& chart, Parts parts, const Notes& notes) {
+Json assemble(const Chart& chart, Parts parts, const std::vector<Excerpt>& excerpts,
+              const Words& words, const Notes& notes) {
+  Json meta = pageMeta(chart, parts, excerpts, words, notes);
   Json plot{{"type", "group"},
             {"encode",
              {{"update", {{"width", {{"signal", "width"}}}, {"height", {{"signal", "height"}}}}}}}};
   Json spec{{"$schema", "https://vega.github.io/schema/vega/v6.json"},
-            {"description", describe(chart, parts)},
+            {"description", describe(chart, parts, words)},
             {"width", theme::plotWidth},
             {"height", theme::plotHeight},
             {"padding", 20},
@@ -185,10 +169,10 @@ Json assemble(const Chart& chart, Parts parts, const Notes& notes) {
   plot["legends"] = std::move(parts.legends);
   plot["marks"] = std::move(parts.marks);
 
-  spec["data"] = sources(chart);
+  spec["data"] = sources(excerpts);
   append(spec["data"], std::move(parts.data));
   spec["marks"] = Json::array({std::move(plot)});
-  spec["usermeta"] = {{"notes", notes.all()}, {"columns", tableColumns(chart)}};
+  spec["usermeta"] = std::move(meta);
   return spec;
 }
 

@@ -10,18 +10,18 @@ namespace {
 constexpr std::string_view policy =
     "default-src 'none'; script-src 'self'; style-src 'unsafe-inline'; img-src data: blob:";
 
-std::string header(const Manifest& manifest) {
-  std::string html = fmt::format("<body>\n<nav><a href=\"../index.html\">All charts</a></nav>\n"
-                                 "<main>\n<h1>{}</h1>\n",
-                                 escapeHtml(manifest.name));
+std::string header(const Manifest& manifest, const Words& words) {
+  std::string html =
+      fmt::format("<body>\n<nav><a href=\"../index.html\">{}</a></nav>\n<main>\n<h1>{}</h1>\n",
+                  escapeHtml(words("All charts")), escapeHtml(manifest.name));
   if (!manifest.splitHeader.empty())
     html += fmt::format("<p class=\"soft\">{}</p>\n", escapeHtml(manifest.splitHeader));
   return html;
 }
 
-std::string noteList(const Json& notes) {
+std::string noteList(const Json& notes, const Words& words) {
   if (notes.empty()) return {};
-  std::string html = "<h2>Notes</h2>\n<ul id=\"notes\">\n";
+  std::string html = fmt::format("<h2>{}</h2>\n<ul id=\"notes\">\n", escapeHtml(words("Notes")));
   for (const Json& note : notes)
     html += fmt::format("<li>{}</li>\n", escapeHtml(note.get_ref<const std::string&>()));
   return html + "</ul>\n";
@@ -29,35 +29,51 @@ std::string noteList(const Json& notes) {
 
 } // namespace
 
-std::string chartPage(const Manifest& manifest, const Json& spec) {
+std::string chartPage(const Manifest& manifest, const Json& spec, const Words& words) {
+  constexpr std::string_view script = "../runtime/chartxml-page.js";
   const std::string json = spec.dump(-1, ' ', false, Json::error_handler_t::replace);
-  return pageHead(manifest.language, manifest.name, policy) + header(manifest) +
-         fmt::format(R"(<figure>
-<div id="chart" role="img" aria-label="{}"></div>
-<p id="trouble" class="later bad">The picture is not drawn: the script ../runtime/chartxml-page.js is missing beside this page, or scripts are switched off.</p>
-<figcaption>{}</figcaption>
+  const auto& title = spec["usermeta"]["title"].get_ref<const std::string&>();
+  const auto word = [&words](std::string_view key) { return escapeHtml(words(key)); };
+  return pageHead(manifest.language, title, policy) + header(manifest, words) +
+         fmt::format(
+             R"(<figure>
+<div class="plot"><div id="chart" role="img" aria-label="{title}"></div></div>
+<p id="trouble" class="later bad">{trouble}</p>
+<p id="live" role="status"></p>
+<figcaption>{description}</figcaption>
 </figure>
+<div id="filters"></div>
 <p id="actions"></p>
-{}<details id="data">
-<summary>Data</summary>
-<div class="table"></div>
+<p id="keys" class="soft" hidden>{keys} <span id="zoom-keys" hidden>{zoomKeys}</span></p>
+<h2>{shows}</h2>
+<p id="about">{about}</p>
+{notes}<details id="data">
+<summary>{data}</summary>
+<div class="table" tabindex="0" role="region" aria-label="{data}"></div>
 </details>
 </main>
-<script type="application/json" id="spec">{}</script>
-<script src="../runtime/chartxml-page.js"></script>
+<script type="application/json" id="words">{words}</script>
+<script type="application/json" id="spec">{spec}</script>
+<script id="runtime" src="{script}"></script>
 </body>
 </html>
 )",
-                     escapeHtml(spec["description"].get_ref<const std::string&>()),
-                     escapeHtml(manifest.description), noteList(spec["usermeta"]["notes"]),
-                     escapeScript(json));
+             fmt::arg("title", escapeHtml(title)),
+             fmt::arg("trouble", escapeHtml(words("No script^1", {script}))),
+             fmt::arg("description", escapeHtml(manifest.description)),
+             fmt::arg("keys", word("Keys")), fmt::arg("zoomKeys", word("Zoom keys")),
+             fmt::arg("shows", word("What it shows")),
+             fmt::arg("about", escapeHtml(spec["description"].get_ref<const std::string&>())),
+             fmt::arg("notes", noteList(spec["usermeta"]["notes"], words)),
+             fmt::arg("data", word("Data")), fmt::arg("words", escapeScript(words.json().dump())),
+             fmt::arg("spec", escapeScript(json)), fmt::arg("script", script));
 }
 
 std::string refusedPage(const Manifest& manifest, std::string_view reason) {
-  return pageHead(manifest.language, manifest.name, policy) + header(manifest) +
-         fmt::format("<p class=\"bad\">This chart cannot be drawn: {}</p>\n</main>\n</body>\n"
-                     "</html>\n",
-                     escapeHtml(reason));
+  const Words words(manifest.language);
+  return pageHead(manifest.language, manifest.name, policy) + header(manifest, words) +
+         fmt::format("<p class=\"bad\">{}</p>\n</main>\n</body>\n</html>\n",
+                     escapeHtml(words("Refused^1", {reason})));
 }
 
 } // namespace render

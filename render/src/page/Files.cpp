@@ -48,4 +48,10 @@ std::string readFile(const std::filesystem::path& file) {
   return bytes;
 }
 
+void writeChanged(const std::filesystem::path& file, std::string_view bytes) {
+  std::error_code error;
+  if (file_size(file, error) == bytes.size() && !error && readFile(file) == bytes) return;
+  writeFile(file, bytes);
+}
+
 } // namespace render

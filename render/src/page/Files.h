@@ -9,6 +9,9 @@ namespace render {
 /// Writes a file so that it appears whole or not at all. Throws RenderError.
 void writeFile(const std::filesystem::path& file, std::string_view bytes);
 
+/// The same, unless the file holds these bytes already.
+void writeChanged(const std::filesystem::path& file, std::string_view bytes);
+
 /// The bytes of a file. Throws RenderError.
 std::string readFile(const std::filesystem::path& file);
 

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 namespace render {
 
-/// The gallery page of an output folder: a card for each chart folder in the
-/// order of their names, then the output's error list.
-std::string galleryPage(const std::filesystem::path& outputFolder);
+/// The gallery page. It is the same for every output folder: what it shows is in the
+/// list beside it, and its words are those of the reader's language.
+std::string galleryPage();
 
 } // namespace render

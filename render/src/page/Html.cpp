@@ -1,5 +1,6 @@
 #include "page/Html.h"
 
+#include <algorithm>
 #include <cctype>
 
 #include <fmt/format.h>
@@ -19,21 +20,41 @@ h1 { font-size: 1.4rem; margin: .5rem 0 1rem; }
 h2 { font-size: 1.1rem; margin: 1.5rem 0 .5rem; }
 figure { margin: 0; }
 figcaption, .soft { color: var(--soft); }
+.plot { position: relative; }
+#chart { width: fit-content; max-width: 100%; }
 #chart svg { max-width: 100%; height: auto; }
+.ring { position: absolute; width: 1.4rem; height: 1.4rem; margin: -.8rem 0 0 -.8rem; border: .15rem solid var(--ink);
+  border-radius: 50%; outline: .1rem solid var(--paper); pointer-events: none; }
+#live { min-height: 1.5em; margin: .25rem 0; font-weight: 600; }
+:focus-visible { outline: .15rem solid var(--link); outline-offset: .15rem; }
+[hidden] { display: none !important; }
 .later { visibility: hidden; animation: show 0s 1.5s forwards; }
 @keyframes show { to { visibility: visible; } }
 .bad { border-left: .3rem solid #d55e00; padding: .3rem 1rem; }
-button { font: inherit; padding: .25rem .8rem; margin: .75rem .5rem .75rem 0; color: inherit; background: none;
-  border: 1px solid var(--line); border-radius: .3rem; cursor: pointer; }
+fieldset { display: flex; flex-wrap: wrap; gap: .25rem 1.25rem; margin: .75rem 0; border: 1px solid var(--line); border-radius: .3rem; }
+#actions { display: flex; flex-wrap: wrap; gap: .5rem; }
+button, input[type=search] { font: inherit; padding: .25rem .8rem; margin: 0; color: inherit;
+  background: none; border: 1px solid var(--soft); border-radius: .3rem; }
+button { cursor: pointer; }
 button:hover { border-color: var(--ink); }
+button:disabled { opacity: .5; cursor: default; }
 .table { overflow-x: auto; }
 table { border-collapse: collapse; font-variant-numeric: tabular-nums; }
 th, td { border-bottom: 1px solid var(--line); padding: .2rem .9rem .2rem 0; text-align: left; }
 td.number, th.number { text-align: right; }
-.cards { display: grid; grid-template-columns: repeat(auto-fill, minmax(20rem, 1fr)); gap: 1.5rem; padding: 0; list-style: none; }
+.search { display: flex; flex-wrap: wrap; gap: .5rem 1rem; align-items: center; }
+.search input { flex: 1 1 15rem; }
+.cards { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(20rem, 100%), 1fr)); gap: 1.5rem; align-items: start; padding: 0; list-style: none; }
 .cards li { border: 1px solid var(--line); border-radius: .4rem; overflow: hidden; }
 .cards img { display: block; width: 100%; aspect-ratio: 4 / 3; object-fit: contain; background: #fff; }
-.cards p, .cards h2 { margin: .6rem 1rem; overflow-wrap: anywhere; }
+.cards p, .cards h2, .cards details { margin: .6rem 1rem; overflow-wrap: anywhere; }
+pre { overflow: auto; max-height: 20rem; font-size: .85rem; line-height: 1.35; }
+@media print {
+  :root { color-scheme: light; --ink: #000; --soft: #333; --paper: #fff; --line: #999; --link: #000; }
+  body { max-width: none; padding: 0; }
+  nav, #actions, #filters, #keys, #live, .ring, .search, button { display: none !important; }
+  figure, .cards li, tr { break-inside: avoid; }
+}
 )";
 
 std::string replaced(std::string_view text, std::string_view (*replacement)(char)) {
@@ -52,6 +73,12 @@ std::string replaced(std::string_view text, std::string_view (*replacement)(char
 void replaceAll(std::string& text, std::string_view from, std::string_view to) {
   for (std::size_t at = text.find(from); at != text.npos; at = text.find(from, at + to.size()))
     text.replace(at, from.size(), to);
+}
+
+/// What is no language tag would be an error to whatever reads it.
+std::string_view languageTag(std::string_view language) {
+  const auto isPlain = [](unsigned char c) { return c == '-' || (c < 0x80 && std::isalnum(c)); };
+  return !language.empty() && std::ranges::all_of(language, isPlain) ? language : "en";
 }
 
 } // namespace
@@ -118,7 +145,7 @@ std::string pageHead(std::string_view language, std::string_view title, std::str
 <style>{}</style>
 </head>
 )",
-                     escapeHtml(language), policy, escapeHtml(title), style);
+                     languageTag(language), policy, escapeHtml(title), style);
 }
 
 } // namespace render

@@ -9,19 +9,15 @@
 namespace render {
 
 void placeRuntime(const std::filesystem::path& outputFolder) {
-  static constexpr const char* script = "chartxml-page.js";
-  const std::filesystem::path from =
-      std::filesystem::path(host::shareFolder()) / "runtime" / script;
-  if (!exists(from)) return;
+  const std::filesystem::path from = std::filesystem::path(host::shareFolder()) / "runtime";
   const std::filesystem::path folder = outputFolder / "runtime";
   std::error_code error;
-  create_directory(folder, error);
-  if (error) throw RenderError(fmt::format("{}: {}", folder.native(), error.message()));
-
-  const std::string bytes = readFile(from);
-  const std::filesystem::path to = folder / script;
-  if (file_size(to, error) == bytes.size() && !error && readFile(to) == bytes) return;
-  writeFile(to, bytes);
+  for (const char* script : {"chartxml-page.js", "chartxml-gallery.js"}) {
+    if (!exists(from / script)) continue;
+    create_directory(folder, error);
+    if (error) throw RenderError(fmt::format("{}: {}", folder.native(), error.message()));
+    writeChanged(folder / script, readFile(from / script));
+  }
 }
 
 } // namespace render

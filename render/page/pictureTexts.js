@@ -1,0 +1,55 @@
+// Pictures say what they show: a title and a description in SVG, text chunks in PNG.
+// Shared by the page and the program that draws without a browser.
+
+const escapes = {'&': '&amp;', '<': '&lt;', '>': '&gt;'};
+const escape = (text) => text.replace(/[&<>]/g, (c) => escapes[c]);
+
+/** The title and the description of a specification. */
+export const textsOfPicture = (spec) => ({
+  title: spec.usermeta?.title ?? '',
+  description: spec.description ?? '',
+});
+
+/** The SVG with them as its first elements. */
+export const svgWithTexts = (svg, {title, description}) =>
+  svg.replace(/<svg[^>]*>/, (open) =>
+    `${open}<title>${escape(title)}</title><desc>${escape(description)}</desc>`);
+
+const crcTable = Uint32Array.from({length: 256}, (_, byte) => {
+  let code = byte;
+  for (let bit = 0; bit < 8; ++bit) code = code & 1 ? (code >>> 1) ^ 0xedb88320 : code >>> 1;
+  return code;
+});
+
+function crc(bytes) {
+  let code = 0xffffffff;
+  for (const byte of bytes) code = crcTable[(code ^ byte) & 0xff] ^ (code >>> 8);
+  return ~code >>> 0;
+}
+
+/** An iTXt chunk: keyword, no compression, no language, then UTF-8. */
+function textChunk(keyword, text) {
+  const content = new TextEncoder().encode(`iTXt${keyword}\0\0\0\0\0${text}`);
+  const chunk = new Uint8Array(content.length + 8);
+  const view = new DataView(chunk.buffer);
+  view.setUint32(0, content.length - 4);
+  chunk.set(content, 4);
+  view.setUint32(content.length + 4, crc(content));
+  return chunk;
+}
+
+/** The PNG with them behind its header. */
+export function pngWithTexts(png, {title, description}) {
+  const header = 8 + 25; // the signature, and the chunk that comes first in every PNG
+  const parts = [
+    png.subarray(0, header), textChunk('Title', title), textChunk('Description', description),
+    png.subarray(header),
+  ];
+  const result = new Uint8Array(parts.reduce((length, part) => length + part.length, 0));
+  let at = 0;
+  for (const part of parts) {
+    result.set(part, at);
+    at += part.length;
+  }
+  return result;
+}

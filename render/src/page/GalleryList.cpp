@@ -1,0 +1,189 @@
+#include "page/GalleryList.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <fmt/format.h>
+#include <render/Pages.h>
+
+#include "page/Files.h"
+#include "page/Html.h"
+#include "read/ChartFolder.h"
+#include "text/Json.h"
+
+namespace render {
+namespace {
+
+namespace fs = std::filesystem;
+
+// One call a line, its first argument a JSON text: the chart's folder, or the error.
+constexpr std::string_view chartCall = "chartxmlGallery.chart(";
+constexpr std::string_view sourceCall = "chartxmlGallery.source(";
+constexpr std::string_view errorCall = "chartxmlGallery.error(";
+constexpr std::string_view lineEnd = ");\n";
+
+std::string line(std::string_view call, const Json& arguments) {
+  const std::string json = arguments.dump(-1, ' ', false, Json::error_handler_t::replace);
+  return fmt::format("{}{}{}", call, escapeScript(json.substr(1, json.size() - 2)), lineEnd);
+}
+
+bool isChart(const fs::path& folder) {
+  return !folder.filename().native().starts_with('.') && exists(folder / "chart.xml");
+}
+
+std::optional<std::string> firstOf(const fs::path& folder,
+                                   std::initializer_list<const char*> names) {
+  for (const char* name : names)
+    if (exists(folder / name)) return name;
+  return std::nullopt;
+}
+
+/// The source of the procedure that sent the chart: a file called "procedure".
+std::optional<std::string> sourceFile(const fs::path& folder) {
+  std::optional<std::string> found;
+  for (const auto& entry : fs::directory_iterator(folder))
+    if (entry.path().stem() == "procedure" && entry.is_regular_file())
+      if (const std::string name = entry.path().filename(); !found || name < *found) found = name;
+  return found;
+}
+
+/// Sources that were written already; charts of one procedure share theirs.
+using Sources = std::map<std::string, std::size_t>;
+
+/// A source as the page shows it. A longer one is linked only.
+std::string sourceLine(const fs::path& file, Sources& sources, Json& chart) {
+  constexpr std::uintmax_t longest = 200'000;
+  chart["sourceFile"] = file.filename().native();
+  if (file_size(file) > longest) return {};
+  std::string text = readFile(file);
+  const auto [known, isNew] = sources.try_emplace(text, sources.size());
+  chart["source"] = known->second;
+  return isNew ? line(sourceCall, Json::array({std::move(text)})) : std::string();
+}
+
+std::string chartLines(const fs::path& folder, Sources& sources) {
+  Json chart = Json::object();
+  try {
+    const Manifest manifest = Manifest::read(folder);
+    chart = {{"name", manifest.name},
+             {"description", manifest.description},
+             {"language", manifest.language}};
+  } catch (const RenderError& e) {
+    chart = {{"name", folder.filename().native()}, {"trouble", e.what()}};
+  }
+  if (const auto picture = firstOf(folder, {"chart.svg", "chart.png"})) chart["picture"] = *picture;
+  std::string lines;
+  if (const auto source = sourceFile(folder)) lines = sourceLine(folder / *source, sources, chart);
+  return lines + line(chartCall, Json::array({folder.filename().native(), std::move(chart)}));
+}
+
+/// The entries of errors.json: texts, or objects that hold one as "message".
+std::vector<std::string> errorTexts(const fs::path& outputFolder) {
+  const fs::path file = outputFolder / "errors.json";
+  if (!exists(file)) return {};
+  const auto json = Json::parse(readFile(file), nullptr, false);
+  if (!json.is_array()) return {"errors.json cannot be read"};
+  std::vector<std::string> texts;
+  for (const Json& entry : json) {
+    const Json text = entry.is_object() ? entry.value("message", Json()) : entry;
+    texts.push_back(text.is_string() ? text.get<std::string>()
+                                     : entry.dump(-1, ' ', false, Json::error_handler_t::replace));
+  }
+  return texts;
+}
+
+/// The list as it stands.
+struct Listed {
+  std::set<std::string> charts;
+  std::size_t errors = 0;
+};
+
+/// Nothing when the list is not there or a line of it was not written to its end.
+std::optional<Listed> readList(const fs::path& file) {
+  if (!exists(file)) return std::nullopt;
+  const std::string list = readFile(file);
+  if (!list.empty() && !list.ends_with(lineEnd)) return std::nullopt;
+  Listed listed;
+  for (std::string_view rest = list; !rest.empty();) {
+    const std::string_view next = rest.substr(0, rest.find('\n'));
+    rest.remove_prefix(next.size() + 1);
+    if (next.starts_with(errorCall)) ++listed.errors;
+    if (!next.starts_with(chartCall)) continue;
+    // The folder's name, in a JSON text that holds no quote unescaped.
+    std::size_t end = chartCall.size() + 1;
+    while (end < next.size() && next[end] != '"')
+      end += next[end] == '\\' ? 2 : 1;
+    const auto name = Json::parse(
+        next.substr(chartCall.size(), std::min(end + 1, next.size()) - chartCall.size()), nullptr,
+        false);
+    if (!name.is_string()) return std::nullopt;
+    listed.charts.insert(name.get<std::string>());
+  }
+  return listed;
+}
+
+/// The names of the charts: all that are in the list and still there, and the new ones.
+std::vector<std::string> chartNames(const fs::path& outputFolder, const Listed& listed) {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(outputFolder)) {
+    std::string name = entry.path().filename();
+    if (listed.charts.contains(name) || isChart(entry.path())) names.push_back(std::move(name));
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+void append(const fs::path& file, std::string_view lines) {
+  errno = 0;
+  std::ofstream stream(file, std::ios::binary | std::ios::app);
+  stream.write(lines.data(), static_cast<std::streamsize>(lines.size()));
+  stream.close();
+  if (!stream)
+    throw RenderError(fmt::format("{}: {}", file.native(),
+                                  errno != 0 ? std::strerror(errno) : "cannot be written"));
+}
+
+} // namespace
+
+void writeGalleryList(const fs::path& outputFolder) {
+  std::string list;
+  Sources sources;
+  for (const std::string& name : chartNames(outputFolder, {}))
+    list += chartLines(outputFolder / name, sources);
+  for (const std::string& error : errorTexts(outputFolder))
+    list += line(errorCall, Json::array({error}));
+  writeFile(outputFolder / galleryListName, list);
+}
+
+void updateGalleryList(const fs::path& outputFolder) {
+  const std::optional<Listed> listed = readList(outputFolder / galleryListName);
+  if (!listed) return writeGalleryList(outputFolder);
+  const std::vector<std::string> names = chartNames(outputFolder, *listed);
+  std::vector<std::string> added;
+  std::ranges::set_difference(names, listed->charts, std::back_inserter(added));
+  const std::vector<std::string> errors = errorTexts(outputFolder);
+  const bool isStale =
+      names.size() - added.size() < listed->charts.size() || errors.size() < listed->errors;
+  if (isStale) return writeGalleryList(outputFolder);
+
+  std::string lines;
+  for (const std::string& name : added) {
+    // Sources come with the whole list, where each stands once.
+    Sources none;
+    if (sourceFile(outputFolder / name)) return writeGalleryList(outputFolder);
+    lines += chartLines(outputFolder / name, none);
+  }
+  for (std::size_t i = listed->errors; i < errors.size(); ++i)
+    lines += line(errorCall, Json::array({errors[i]}));
+  if (!lines.empty()) append(outputFolder / galleryListName, lines);
+}
+
+} // namespace render

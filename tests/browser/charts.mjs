@@ -1,0 +1,68 @@
+// Makes the output folder that the pages are tried in.
+//
+// usage: node charts.mjs <build folder> <output folder>
+import {execFileSync} from 'node:child_process';
+import {copyFileSync, mkdirSync, readdirSync, rmSync, writeFileSync} from 'node:fs';
+import {join, resolve} from 'node:path';
+import {attack, folders, rowsOfBig} from './names.mjs';
+
+const [build, output] = process.argv.slice(2).map((path) => resolve(path));
+const root = resolve(import.meta.dirname, '../..');
+
+const document = ({label, id, relabels = '', title, element = 'points'}) => `<graph name="n">
+<source id="source0"><otherAccess type="object"/></source>
+<variable id="v1" sourceName="A" source="source0" categorical="false" label="${label}"/>
+<variable id="v2" sourceName="B" source="source0" categorical="false" label="b"/>
+<variable id="${id}" sourceName="Group" source="source0" categorical="true" label="${label}">${relabels}</variable>
+<frame id="outer"><label id="label_title">${title}</label><frame id="data">
+<dimension role="x"><axis><majorTicks/></axis></dimension>
+<dimension role="y"><axis><majorTicks/></axis></dimension>
+<element type="point" id="${element}"><x variable="v1"/><y variable="v2"/>
+<styleBy variable="${id}" id="by" styleCycle="c"/></element>
+<legend id="legend"><legendTarget id="target" element="${element}"/></legend></frame></frame></graph>`;
+
+const escape = (text) =>
+  text.replace(/[&<>"]/g, (c) => `&#${c.charCodeAt(0)};`).replaceAll('\n', '&#10;');
+
+function writeChart(name, manifest, xml, csv) {
+  const folder = join(output, name);
+  mkdirSync(folder);
+  writeFileSync(join(folder, 'chart.xml'), xml);
+  writeFileSync(join(folder, 'manifest.json'), JSON.stringify(manifest));
+  writeFileSync(join(folder, 'source0.csv'), csv);
+}
+
+function runProcedure(name, language) {
+  execFileSync(join(build, 'bin/procedures', name), [join(root, 'data', name)], {
+    env: {...process.env, CHARTXML_OUTPUT: output, CHARTXML_LANG: language}, stdio: 'inherit',
+  });
+}
+
+/** Every place that a text of the user's can come from holds one that tries to get out. */
+function writeHostile() {
+  const text = escape(attack);
+  const relabels = `<relabel from="a" to="${text}"/>`;
+  const quoted = `"${attack.replaceAll('"', '""')}"`;
+  const csv = `A,B,Group\n1,2,a\n2,3,${quoted}\n3,5,=1+1\n4,4,constructor\n5,3,__proto__\n`;
+  writeChart(folders.hostile,
+    {name: attack, description: attack, splitHeader: attack, language: attack},
+    document({label: text, id: text, relabels, title: text, element: `e${text}`}), csv);
+  writeFileSync(join(output, folders.hostile, `procedure.<img src=x onerror=alert(1)>`), attack);
+}
+
+function writeBig() {
+  let csv = 'A,B,Group\n';
+  for (let i = 0; i < rowsOfBig; ++i) csv += `${i},${(i * 7919) % 1000},${i % 2 ? 'odd' : 'even'}\n`;
+  writeChart(folders.big, {name: 'big', language: 'de'},
+    document({label: 'Row', id: 'v3', title: 'Many rows'}), csv);
+}
+
+rmSync(output, {recursive: true, force: true});
+mkdirSync(output, {recursive: true});
+runProcedure('penguins', 'en');
+runProcedure('economics', 'ja');
+for (const chart of readdirSync(output).filter((name) => /-penguins$/.test(name)))
+  copyFileSync(join(root, 'procedures/penguins.f90'), join(output, chart, 'procedure.f90'));
+writeHostile();
+writeBig();
+execFileSync(join(build, 'bin/chartxml'), ['render', output, '--svg'], {stdio: 'inherit'});

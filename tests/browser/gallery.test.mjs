@@ -1,0 +1,73 @@
+import assert from 'node:assert/strict';
+import {readFileSync} from 'node:fs';
+import {test} from 'node:test';
+import {attack, folders} from './names.mjs';
+import {assertAccessible, saved, until, urlOf, withChart, withPage} from './support.mjs';
+
+const index = urlOf('index.html');
+const shown = (page) => page.$$eval('#charts > li', (cards) => cards.filter((card) => !card.hidden).length);
+
+for (const colorScheme of ['light', 'dark'])
+  test(`axe finds nothing in the gallery in ${colorScheme}`, () =>
+    withPage(index, async (page) => {
+      await page.locator('summary').first().click();
+      await assertAccessible(page);
+    }, {colorScheme}));
+
+test('the gallery shows names, pictures, descriptions and sources', () =>
+  withPage(index, async (page) => {
+    const card = page.locator('#charts > li').first();
+    assert.equal(await card.locator('h2').innerText(), 'penguins');
+    assert.match(await card.locator('p').first().innerText(), /^Scatter plot of body mass/);
+    await until(page, "document.querySelector('#charts img').naturalWidth > 0");
+    await card.locator('summary').click();
+    assert.match(await card.locator('pre').innerText(), /^! Are penguins with longer flippers heavier/);
+    await card.locator('h2 a').click();
+    await page.waitForURL(/0001-penguins\/chart\.html$/);
+    await page.waitForSelector('#trouble', {state: 'detached'});
+  }));
+
+test('the search finds names and descriptions', () =>
+  withPage(index, async (page) => {
+    assert.equal(await page.textContent('#found'), '5 of 5 charts');
+    await page.getByLabel('Search names and descriptions').fill('  FLIPPER body');
+    assert.equal(await shown(page), 1);
+    assert.equal(await page.textContent('#found'), '1 of 5 charts');
+    await page.getByLabel('Search names and descriptions').fill('no such');
+    assert.equal(await shown(page), 0);
+  }));
+
+test("the gallery speaks the reader's language", () =>
+  withPage(index, async (page) => {
+    assert.equal(await page.textContent('h1'), '图表');
+    assert.equal(await page.getAttribute('html', 'lang'), 'zh-cn');
+  }, {locale: 'zh-CN'}));
+
+test('hostile texts are texts on a chart page', () =>
+  withChart(folders.hostile, async (page) => {
+    assert.equal(await page.textContent('h1'), attack);
+    assert.equal(await page.textContent('figcaption'), attack);
+    await page.locator('#data summary').click();
+    await page.waitForSelector('#data tbody tr');
+    assert.equal(await page.locator('#data tbody td').nth(2).textContent(), attack);
+    await page.locator('.mark-symbol.role-mark path').first().hover({force: true});
+    await page.waitForSelector('#vg-tooltip-element.visible');
+    assert.equal(await page.locator('#vg-tooltip-element img').count(), 0);
+    for (const box of await page.locator('fieldset input').all()) await box.uncheck();
+    await until(page, "document.querySelectorAll('.mark-symbol.role-mark path').length === 0");
+    await page.locator('fieldset input').last().check();
+    await page.focus('#chart');
+    await page.keyboard.press('ArrowRight');
+    await until(page, "document.getElementById('live').textContent !== ''");
+    assert.match(readFileSync(await saved(page, 'Save as CSV'), 'utf8'), /\r\n3,5,'=1\+1\r\n/);
+    assert.match(readFileSync(await saved(page, 'Save as SVG'), 'utf8'), /<title>&lt;\/script&gt;/);
+  }));
+
+test('hostile texts are texts in the gallery', () =>
+  withPage(index, async (page) => {
+    const card = page.locator('#charts > li').nth(3);
+    assert.equal(await card.locator('h2 a').textContent(), attack);
+    await card.locator('summary').click();
+    assert.equal(await card.locator('pre').textContent(), attack);
+    assert.equal(await page.locator('#charts img:not([src$=".svg"])').count(), 0);
+  }));

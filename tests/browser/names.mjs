@@ -1,0 +1,9 @@
+// What the charts that pages are tried with hold.
+
+export const folders = {
+  penguins: '0001-penguins', dates: '0002-economics', hostile: '0100-hostile', big: '0200-big',
+};
+export const rowsOfBig = 250_000;
+
+export const attack = `</script><script>window.broken = 1</script><img src=x onerror="window.broken = 1">` +
+  `'"\`\${window.broken = 1}&amp;\\ \u2028 ]]> --> {{x}}\n*/`;
