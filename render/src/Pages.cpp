@@ -19,9 +19,11 @@ namespace {
 //   assemble    one Vega specification        -> JSON
 Json specification(const ChartFolder& folder) {
   Notes notes;
-  const Chart chart = resolve(folder, notes);
-  Parts parts = translate(chart, notes);
-  return assemble(chart, std::move(parts), notes);
+  Chart chart = resolve(folder, notes);
+  const Layout layout = Layout::of(chart, notes);
+  makeUnitsEqual(chart, layout, notes);
+  Parts parts = translate(chart, layout, notes);
+  return assemble(chart, layout, std::move(parts), notes);
 }
 
 /// The manifest of a chart that is refused, or what can be told without one.
