@@ -179,9 +179,11 @@ private:
     };
     const double low = scaled(extent.low, dimension_);
     const double high = scaled(extent.high, dimension_);
-    const double range = high - low;
-    dimension_.low = unscaled(low - range * margin("lowerMargin", extent.low), dimension_);
-    dimension_.high = unscaled(high + range * margin("upperMargin", extent.high), dimension_);
+    const double below = (high - low) * margin("lowerMargin", extent.low);
+    const double above = (high - low) * margin("upperMargin", extent.high);
+    // Without a margin the end is the value itself, to the last digit.
+    dimension_.low = below > 0 ? unscaled(low - below, dimension_) : extent.low;
+    dimension_.high = above > 0 ? unscaled(high + above, dimension_) : extent.high;
   }
 
   Dimension& dimension_;

@@ -222,14 +222,15 @@ TEST_F(TranslateTest, WhatIsNotDrawnIsNoted) {
       </axis></dimension><element type="contour"/><element type="point" id="e"><x variable="v1"/>
       </element><guide id="g" type="function"><parameter name="y" value="sin(x)"/></guide>
       <wonder color="&#10;red"><inner/></wonder>)xml";
-  EXPECT_EQ(notes(unknown, R"(<style id="s" value="fill:red;fill-pattern:0"/>
+  EXPECT_EQ(
+      notes(unknown, R"(<style id="s" value="fill:red;fill-pattern:0"/>
                               <frame id="more"><element type="point"/></frame>)"),
-            json({"more is not drawn yet: a chart shows one plot",
-                  "e is not drawn: it has no y variable with data",
-                  "the scale logit is not drawn yet", missingRow,
-                  "dimension: role=\"z\" is not drawn yet", "majorTicks: stagger=\"true\" is not drawn yet",
-                  "element of type contour in data is not drawn yet", refusedFormula,
-                  "wonder in data is not drawn yet", "s: fill:red is not drawn yet"}));
+      json({"more is not drawn yet: a chart shows one plot",
+            "e is not drawn: it has no y variable with data", "the scale logit is not drawn yet",
+            missingRow, "dimension: role=\"z\" is not drawn yet",
+            "majorTicks: stagger=\"true\" is not drawn yet",
+            "element of type contour in data is not drawn yet", refusedFormula,
+            "wonder in data is not drawn yet", "s: fill:red is not drawn yet"}));
 }
 
 TEST_F(TranslateTest, ValuesThatCannotBeDrawnAreCounted) {
