@@ -21,9 +21,19 @@ module charts
 
   ! String handles of the predefined words that procedures name most.
   integer(cx), parameter, public :: word_footnote = 13, word_subtitle = 16, word_title = 17
-  integer(cx), parameter, public :: word_line = 21, word_point = 23
+  integer(cx), parameter, public :: word_area = 18, word_interval = 20, word_line = 21
+  integer(cx), parameter, public :: word_point = 23, word_schema = 24
   integer(cx), parameter, public :: word_style_by = 36
-  integer(cx), parameter, public :: word_simple_line = 43, word_scatter = 96
+  integer(cx), parameter, public :: word_stacked_bar = 42, word_simple_line = 43
+  integer(cx), parameter, public :: word_histogram = 44, word_box_plot = 61
+  integer(cx), parameter, public :: word_error_bar = 69
+  integer(cx), parameter, public :: word_type = 71, word_normal = 72, word_distribution = 73
+  integer(cx), parameter, public :: word_stack = 87, word_dodge = 88
+  integer(cx), parameter, public :: word_stacked_area = 95, word_scatter = 96
+  integer(cx), parameter, public :: word_clustered_bar = 146
+
+  ! The roles that an axis or a facet has.
+  integer(cx), parameter, public :: role_x = 1, role_y = 2
 
   ! Type codes of display formats.
   integer, parameter, public :: text_format = 1, dollar_format = 4, plain_format = 5

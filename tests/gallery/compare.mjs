@@ -2,12 +2,14 @@
 // that are committed. Numbers are compared to nine digits: the last ones differ between
 // LAPACK libraries. What differs stays in the output folder, to be looked at.
 //
-// usage: node compare.mjs <procedure> <data set> <language> <expected folder> <output folder>
+// A procedure finds its data set below the working directory.
+//
+// usage: node compare.mjs <procedure> <language> <expected folder> <output folder>
 import {execFileSync} from 'node:child_process';
 import {readdirSync, readFileSync, rmSync} from 'node:fs';
 import {join} from 'node:path';
 
-const [procedure, dataSet, language, expected, output] = process.argv.slice(2);
+const [procedure, language, expected, output] = process.argv.slice(2);
 const digits = 9;
 
 const rounded = (text) =>
@@ -20,7 +22,7 @@ const withoutHashes = (text) =>
 const charts = (folder) => readdirSync(folder).filter((name) => /^\d{4}-/.test(name));
 
 rmSync(output, {recursive: true, force: true});
-execFileSync(procedure, [dataSet], {
+execFileSync(procedure, [], {
   env: {...process.env, CHARTXML_OUTPUT: output, CHARTXML_LANG: language},
   stdio: 'inherit',
 });

@@ -123,7 +123,9 @@ Json thinMark(const Element& element, Context& context) {
   addSlotOffset(place, element, theme::barBand, context);
   update[channelsOf(role, context.chart).start] = std::move(place);
   addMeasure(update, element, context);
-  update["stroke"] = element.group != nullptr ? color(element, context) : Json{{"signal", "ink"}};
+  // Whiskers and error bars cross bars of their own color.
+  const bool isOfGroup = element.group != nullptr && lookOf(*element.node) == Look::thin;
+  update["stroke"] = isOfGroup ? color(element, context) : Json{{"signal", "ink"}};
   update["strokeWidth"] = {{"value", theme::thinWidth}};
   update["tooltip"] = itemTooltip(element, context);
   return {{"type", "rule"},
@@ -143,7 +145,7 @@ Json capMark(const Element& element, const char* end, Context& context) {
   const bool liesAcross = isAcross(placeRole(element), context.chart);
   update[place.start] = std::move(update[place.start]);
   update["size"] = {{"value", theme::capLength * theme::capLength}};
-  update["shape"] = {{"value", liesAcross ? "M-0.5,0H0.5" : "M0,-0.5V0.5"}};
+  update["shape"] = {{"value", liesAcross ? "M-1,0H1" : "M0,-1V1"}};
   mark["type"] = "symbol";
   return mark;
 }
