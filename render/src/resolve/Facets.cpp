@@ -12,6 +12,7 @@ namespace render {
 namespace {
 
 constexpr std::size_t mostPanels = 20; ///< in a row or column
+constexpr std::size_t mostCells = 100; ///< that are tried: products grow fast
 
 /// The columns and rows that a node of the facets makes; empty for a direction that it
 /// does not split.
@@ -35,6 +36,7 @@ std::vector<FacetCell> product(const std::vector<FacetCell>& outer,
   std::vector<FacetCell> cells;
   for (const FacetCell& first : outer)
     for (const FacetCell& second : inner) {
+      if (cells.size() == mostCells) return cells;
       FacetCell cell = first;
       cell.insert(cell.end(), second.begin(), second.end());
       if (!onlyWhatOccurs || occurs(cell)) cells.push_back(std::move(cell));
@@ -81,7 +83,7 @@ private:
       return {};
     }
     std::vector<FacetCell> cells;
-    for (std::size_t i = 0; i < variable->categories.size(); ++i)
+    for (std::size_t i = 0; i < std::min(mostCells, variable->categories.size()); ++i)
       cells.push_back({{.node = &node, .variable = variable, .category = i}});
     if (node.attribute("role") == "x") return {.columns = std::move(cells)};
     if (node.attribute("role") == "y") return {.rows = std::move(cells)};

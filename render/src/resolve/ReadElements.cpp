@@ -66,13 +66,18 @@ public:
     if (const std::string_view why = lack(element, type); !why.empty()) return refuse(why);
 
     readAesthetics(element);
-    for (const Variable* variable : {element.y, element.group, element.shade, element.size})
+    std::vector<const Variable*> variables{element.y, element.group, element.shade, element.size,
+                                           element.labels};
+    variables.insert(variables.end(), element.splits.begin(), element.splits.end());
+    for (const Variable* variable : variables)
       if (variable != nullptr && variable->source != sourceOf(element))
         return refuse("its variables are of different data sources");
-    std::erase_if(element.splits,
-                  [&](const Variable* split) { return split->source != sourceOf(element); });
     if (element.method != Method::none) element.weight = weightOf(sourceOf(element));
-    // A box plot stands beside others, whatever it measures; a sum of parts on a base.
+    const bool standsAtNumber = element.place() != nullptr && !element.place()->categorical;
+    if (element.modifier == Modifier::dodge && standsAtNumber) {
+      notes_.add(fmt::format("{}: marks at numbers are not put side by side", node_.name()));
+      element.modifier = Modifier::none;
+    }
     element.index = chart_.elements.size();
     chart_.elements.push_back(std::move(element));
   }
@@ -110,7 +115,6 @@ private:
     const std::string_view grid = parameter(*element.statistic, "grid");
     if (name == "histogram" || (name == "bin" && grid.empty())) {
       element.method = Method::histogram;
-      element.hasBase = element.hasBase && true;
     } else if (name == "bin") {
       element.method = Method::hexagons;
     } else if (name == "percent") {
@@ -146,6 +150,9 @@ private:
   static bool measuresAlongX(const Element& element) {
     const bool yIsPlace = element.y != nullptr && element.y->categorical;
     if (element.x == nullptr) return yIsPlace || element.method == Method::histogram;
+    const bool hasOnlyValues = element.y == nullptr && element.method == Method::summary &&
+                               element.summary->needsMeasure && !element.x->categorical;
+    if (hasOnlyValues) return true;
     return yIsPlace && !element.x->categorical;
   }
 

@@ -41,6 +41,7 @@ struct Extent {
   bool leavesOut = false; ///< values that the scale does not take
 
   void hold(double value) {
+    if (!std::isfinite(value)) return; // a sum can be too large for a number
     low = std::min(low, value);
     high = std::max(high, value);
   }
@@ -182,8 +183,12 @@ private:
     const double below = (high - low) * margin("lowerMargin", extent.low);
     const double above = (high - low) * margin("upperMargin", extent.high);
     // Without a margin the end is the value itself, to the last digit.
-    dimension_.low = below > 0 ? unscaled(low - below, dimension_) : extent.low;
-    dimension_.high = above > 0 ? unscaled(high + above, dimension_) : extent.high;
+    const auto moved = [this](double length, double by, double value) {
+      const double there = by != 0 ? unscaled(length + by, dimension_) : value;
+      return std::isfinite(there) ? there : value;
+    };
+    dimension_.low = moved(low, -below, extent.low);
+    dimension_.high = moved(high, above, extent.high);
   }
 
   Dimension& dimension_;

@@ -27,7 +27,8 @@ constexpr NamedType methods[] = {{"linear", ScaleType::linear},
 double parameterOr(const Node& scale, std::string_view name, double usual, Notes& notes) {
   const std::string_view text = parameter(scale, name);
   const double value = numberOf(text);
-  if (value > 0 && value != (name == "base" ? 1 : 0)) return value;
+  constexpr double largest = 100;
+  if (value > (name == "base" ? 1 : 0) && value <= largest) return value;
   if (!text.empty())
     notes.add(fmt::format("{}: {}=\"{}\" is not drawn: {} takes its place", scale.name(), name,
                           shown(text), usual));

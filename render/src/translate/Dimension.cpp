@@ -10,6 +10,7 @@
 #include "translate/CategoryLabels.h"
 #include "translate/Encode.h"
 #include "translate/FacetLabels.h"
+#include "translate/MinorTicks.h"
 #include "translate/PolarAxis.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
@@ -80,19 +81,42 @@ Ticks ticksOf(const Dimension& dimension, const Node* majorTicks, const Context&
   return ticksWithin(dimension.low, dimension.high, tickCount(dimension, context));
 }
 
-void labelNumbers(Json& axis, const Dimension& dimension, const Node* majorTicks,
+bool showsPercent(const Node& axis) {
+  const Node* transform = axis.child("transform");
+  return transform != nullptr && transform->attribute("method") == "percent";
+}
+
+/// The axis's own format, else that of the values along it.
+std::optional<NumberFormat> formatOf(const Node& axis, const Format& usual, Notes& notes) {
+  if (const Node* own = axis.child("numberFormat")) return NumberFormat::read(*own, notes);
+  const auto* number = std::get_if<NumberFormat>(&usual);
+  return number != nullptr ? std::optional(*number) : std::nullopt;
+}
+
+/// What a delta asks for and ticks at categories or dates do not have.
+void refuseDelta(const Node* majorTicks, Notes& notes) {
+  if (majorTicks == nullptr || majorTicks->attribute("delta").empty()) return;
+  notes.add(fmt::format("{}: delta=\"{}\" is not drawn", majorTicks->name(),
+                        shown(majorTicks->attribute("delta"))));
+}
+
+void labelNumbers(Json& json, const Dimension& dimension, const Node& axis,
                   const Context& context) {
+  const Node* majorTicks = axis.child("majorTicks");
   const Format& format = dimension.format();
   if (const auto* date = std::get_if<DateFormat>(&format)) {
     const std::vector<double> values = timeTicks(dimension, *date, context);
-    if (!values.empty()) return setTicks(axis, values, dateText(*date, "datum.value"));
+    refuseDelta(majorTicks, context.notes);
+    if (!values.empty()) return setTicks(json, values, dateText(*date, "datum.value"));
   }
-  const auto* number = std::get_if<NumberFormat>(&format);
   const Ticks ticks = ticksOf(dimension, majorTicks, context);
+  const bool isPercent = showsPercent(axis);
   const double magnitude = std::max(std::abs(dimension.low), std::abs(dimension.high));
-  setTicks(axis, ticks.values,
-           tickText(number != nullptr ? std::optional(*number) : std::nullopt, "datum.value",
-                    ticks.decimals, magnitude));
+  setTicks(json, ticks.values,
+           tickText(formatOf(axis, format, context.notes),
+                    isPercent ? "(datum.value*100)" : "datum.value",
+                    isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
+                    isPercent ? 100 * magnitude : magnitude));
 }
 
 /// The angle of the labels that the document asks for.
@@ -166,10 +190,12 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
     json["gridScale"] = dimension.role == "x" ? "y" : "x";
     if (!isUntitled) centreTitle(json, across, context);
   }
-  if (dimension.categorical)
+  if (dimension.categorical) {
+    refuseDelta(ticks, context.notes);
     labelCategories(json, dimension, context);
-  else
-    labelNumbers(json, dimension, ticks, context);
+  } else {
+    labelNumbers(json, dimension, axis, context);
+  }
   if (ticks != nullptr) setTickStyle(json, *ticks, context);
   return json;
 }
@@ -179,11 +205,19 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
 /// The axes of a dimension; its scale is there whether it has a node or not.
 void translateDimension(const Node& node, Context& context) {
   const std::string_view role = node.attribute("role");
-  if (role != "x" && role != "y") return;
+  if (role != "x" && role != "y") {
+    if (node.child("axis") != nullptr)
+      context.notes.add(fmt::format("the axis of {} is not drawn yet", shown(role)));
+    return;
+  }
   if (context.chart.isPolar) return addPolarAxis(node, context);
-  for (const Node& child : node.children)
-    if (child.kind == "axis")
-      context.parts.axes.push_back(axisOf(child, context.along(role), context));
+  for (const Node& child : node.children) {
+    if (child.kind != "axis") continue;
+    Json axis = axisOf(child, context.along(role), context);
+    if (const Node* minorTicks = child.child("minorTicks"))
+      addMinorTicks(axis, *minorTicks, context.along(role), context);
+    context.parts.axes.push_back(std::move(axis));
+  }
 }
 
 } // namespace render

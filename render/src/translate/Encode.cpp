@@ -138,7 +138,8 @@ Json itemTooltip(const Element& element, Context& context) {
   const auto add = [&entries](const std::string& entry) {
     entries += entries.empty() ? entry : "," + entry;
   };
-  const auto number = [&](const Variable* variable, std::string_view title, const char* field) {
+  const auto number = [&](const Variable* variable, std::string_view title,
+                          std::string_view field) {
     const Format format = variable != nullptr ? variable->format : Format();
     add(fmt::format("[{},{}]", literal(title), valueText(format, fmt::format("datum.{}", field))));
   };
@@ -155,14 +156,9 @@ Json itemTooltip(const Element& element, Context& context) {
     }
   }
   const Variable* measure = element.measure();
-  const bool countsRows = measure == nullptr;
-  const bool isRange = element.isComposed() || (element.summary && element.summary != nullptr &&
-                                                element.method == Method::summary);
-  const std::string title = countsRows ? std::string("n") : measure->title;
-  if (isRange && !countsRows && element.hasBase && element.isComposed())
-    number(measure, title, "low");
-  const Format format = countsRows ? Format() : measure->format;
-  add(fmt::format("[{},{}]", literal(title), valueText(format, "datum.value")));
+  const std::string title = measure != nullptr ? measure->title : "n";
+  if (measure != nullptr && element.isComposed() && element.hasBase) number(measure, title, "low");
+  number(measure, title, "value");
   return {{"signal", fmt::format("[{}]", entries)}};
 }
 

@@ -32,6 +32,11 @@ void addVariables(Json& fields, const Element& element, const Item& item) {
 }
 
 bool isDrawn(const Element& element, const Item& item, const Context& context) {
+  if (element.isSlice) {
+    if (item.high < item.low)
+      context.notes.add(fmt::format("values below zero have no piece of {}", element.node->name()));
+    return item.high > item.low;
+  }
   const Dimension& place = context.along(placeRole(element));
   const Dimension& measure = context.along(measureRole(element));
   const bool hasPlace = place.categorical || takes(item.place(), place);
@@ -105,8 +110,7 @@ Json elementData(const Element& element, const Context& context) {
   const std::set<double> slots = slotsOf(element, context);
   Json values = Json::array();
   for (const Item& item : context.panel().items[element.index])
-    if (element.isSlice || isDrawn(element, item, context))
-      values.push_back(fieldsOf(element, item, slots, context));
+    if (isDrawn(element, item, context)) values.push_back(fieldsOf(element, item, slots, context));
   return {{"name", context.inPanel(element.node->id())},
           {"values", std::move(values)},
           {"transform", Json::array()}};

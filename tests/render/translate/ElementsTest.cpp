@@ -212,6 +212,42 @@ TEST_F(ElementsTest, HexagonsCountTheRowsOfTheirCells) {
   EXPECT_EQ(cells, json::parse("[[0,2],[10.5,3],[20,1]]"));
 }
 
+TEST_F(ElementsTest, TheNameOfAStyleSaysWhatAnIntervalLooksLike) {
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
+      {"element_simplebar_1", {"rect"}},
+      {"element_dropdownline_1", {"rule"}},
+      {"element_errorbar_1", {"rule", "symbol", "symbol"}},
+      {"element_errorbarhidden_1", {}},
+  };
+  for (const auto& [id, marks] : cases) {
+    const json drawn = spec(fmt::format(R"(<element type="interval" id="{}">{}{}</element>)", id,
+                                        placed, statistic("range")),
+                            parts);
+    std::vector<std::string> types;
+    for (const json& mark : drawn["marks"][0]["marks"])
+      types.push_back(mark["type"].get<std::string>());
+    EXPECT_EQ(types, marks) << id;
+  }
+}
+
+TEST_F(ElementsTest, PiecesOfAPieAndBarsInPolarCoordinatesAreSectors) {
+  constexpr std::string_view polar = R"(<coordinateTransform method="polar"/>)";
+  EXPECT_EQ(drawn(fmt::format("{}{}", polar,
+                              element("interval",
+                                      fmt::format(R"(<theta variable="v2"/>{}{})", statistic("sum"),
+                                                  grouped),
+                                      "stack")),
+                  parts, {"v4", "low", "high"}, groupVariable),
+            json::parse(R"([["p",0,50],["q",50,100]])"));
+  EXPECT_THAT(spec_["usermeta"]["notes"],
+              testing::Contains("values below zero have no piece of e"));
+  EXPECT_EQ(spec_["marks"][0]["marks"][0]["type"], "arc");
+  drawn(fmt::format("{}{}", polar, element("interval", placed)), parts, {});
+  const json& update = spec_["marks"][0]["marks"][0]["encode"]["update"];
+  EXPECT_EQ(update["outerRadius"], json::parse(R"({"scale":"y","field":"high"})"));
+  EXPECT_EQ(scale("y")["range"], json({0, 240}));
+}
+
 TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
   const struct {
     std::string plot;
@@ -225,6 +261,8 @@ TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
        "e is not drawn: its statistic needs a continuous variable"},
       {element("point", R"(<x variable="v1"/><y variable="v2"/>)", "jitter"),
        "e: positionModifier=\"jitter\" is not drawn yet"},
+      {element("interval", R"(<x variable="v1"/><y variable="v2"/>)", "dodge"),
+       "e: marks at numbers are not put side by side"},
       {element("area", R"(<x variable="v3"/><y variable="v3"/>)" + statistic("mean")),
        "e is not drawn: it measures categories"},
       {element("point", R"(<x variable="v1"/><y variable="v2"/><split variable="v9"/>)"),

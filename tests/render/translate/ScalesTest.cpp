@@ -165,4 +165,22 @@ TEST_F(ScalesTest, TicksStandAtMultiplesOfDelta) {
   EXPECT_EQ(spec_["marks"][0]["axes"][0]["labelAngle"], -90);
 }
 
+TEST_F(ScalesTest, AnAxisHasAFormatOfItsOwnPercentagesAndMinorTicks) {
+  folder_
+      .write("chart.xml", document(std::string(R"(<dimension role="x" lowerMargin="0%"
+    upperMargin="0%"><axis id="a"><majorTicks delta="0.5"/><transform method="percent"/><minorTicks
+    number="4"/><numberFormat suffix="%"/></axis></dimension>)") +
+                                   std::string(point)))
+      .write("source0.csv", "A,B,Group\n0.45,1,a\n1,2,a\n");
+  spec_ = folder_.spec();
+  const json axes = spec_["marks"][0]["axes"];
+  ASSERT_EQ(axes.size(), 2U);
+  EXPECT_EQ(axes[0]["values"], json({0.5, 0.6, 0.7, 0.8, 0.9, 1}));
+  EXPECT_EQ(axes[1]["values"], json({0.5, 1}));
+  const std::string text = axes[1]["encode"]["labels"]["update"]["text"]["signal"];
+  EXPECT_THAT(text, testing::HasSubstr("datum.value*100"));
+  EXPECT_THAT(text, testing::HasSubstr("\"%\""));
+  EXPECT_EQ(notes(), json::array());
+}
+
 } // namespace
