@@ -66,8 +66,9 @@ void addRange(const Element& element, std::size_t row, std::vector<Item>& items)
 }
 
 std::vector<Item> itemOfEachRow(const Element& element, const Rows& rows) {
+  const bool hasOnePlace = element.place() == nullptr || element.place()->members.empty();
   const bool isRange =
-      element.measure() != nullptr && !element.measure()->members.empty() &&
+      hasOnePlace && element.measure() != nullptr && !element.measure()->members.empty() &&
       (element.hasBase || (element.summary != nullptr && element.summary->name == "range"));
   std::vector<Item> items;
   for (const std::size_t row : rows)

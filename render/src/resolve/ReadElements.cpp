@@ -186,6 +186,11 @@ private:
                               element.method == Method::hexagons;
     if (needsNumbers && (place == nullptr || place->categorical || !place->members.empty()))
       return "its statistic needs a continuous variable";
+    const bool isComposed = place != nullptr && !place->members.empty();
+    if (isComposed && element.method != Method::none)
+      return "its statistic needs places of one variable";
+    if (element.method == Method::hexagons && (measure == nullptr || !measure->members.empty()))
+      return "its statistic needs two variables";
     return {};
   }
 

@@ -5,6 +5,7 @@
 
 #include "resolve/DateTicks.h"
 #include "resolve/Ticks.h"
+#include "text/Expression.h"
 #include "text/Show.h"
 #include "text/Wrap.h"
 #include "translate/CategoryLabels.h"
@@ -119,8 +120,27 @@ void labelNumbers(Json& json, const Dimension& dimension, const Node& axis,
                     isPercent ? 100 * magnitude : magnitude));
 }
 
+/// How long the ticks are, and on which side of the axis they stand.
+void setTickLength(Json& json, const Node& majorTicks, const Context& context) {
+  constexpr double usual = 5;
+  constexpr double most = 50;
+  const std::string_view text = majorTicks.attribute("length");
+  double length = numberOf(text);
+  if (!(length >= 0 && length <= most)) {
+    if (!text.empty())
+      context.notes.add(
+          fmt::format("{}: length=\"{}\" is not drawn", majorTicks.name(), shown(text)));
+    length = usual;
+  }
+  const bool isInside = majorTicks.attribute("position") == "inside";
+  if (length == usual && !isInside) return;
+  json["tickSize"] = jsonNumber(isInside ? -length : length);
+  if (isInside) json["labelPadding"] = jsonNumber(usual + length);
+}
+
 /// The angle of the labels that the document asks for.
 void setTickStyle(Json& json, const Node& majorTicks, const Context& context) {
+  setTickLength(json, majorTicks, context);
   const std::string_view text = majorTicks.attribute("labelAngle");
   const double angle = numberOf(text);
   if (text.empty()) return;
@@ -131,6 +151,14 @@ void setTickStyle(Json& json, const Node& majorTicks, const Context& context) {
   }
   json["labelAngle"] = jsonNumber(angle);
   if (angle != 0 && json["orient"] == "bottom") json["labelAlign"] = angle < 0 ? "right" : "left";
+}
+
+/// The line of the other axis lies where the scale begins; a grid line would cover it.
+void hideGridOnBaseline(Json& json, const Dimension& dimension) {
+  const Json values = json.value("values", Json::array());
+  if (dimension.categorical || values.empty() || values[0] != jsonNumber(dimension.low)) return;
+  json["encode"]["grid"]["update"]["opacity"] = {
+      {"signal", fmt::format("datum.value==={}?0:1", literal(dimension.low))}};
 }
 
 /// Where the axis of a role stands among the panels: whether its ticks are labelled
@@ -157,9 +185,9 @@ Standing standingOf(const Dimension& dimension, bool opposite, const Context& co
 void centreTitle(Json& json, bool across, const Context& context) {
   const Layout& layout = context.layout;
   if (across)
-    json["titleX"] = layout.width / 2 - layout.left[context.panel().column];
+    json["titleX"] = jsonNumber(layout.width / 2 - layout.left[context.panel().column]);
   else
-    json["titleY"] = layout.height / 2 - layout.top[context.panel().row];
+    json["titleY"] = jsonNumber(layout.height / 2 - layout.top[context.panel().row]);
 }
 
 Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
@@ -197,6 +225,7 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
     labelNumbers(json, dimension, axis, context);
   }
   if (ticks != nullptr) setTickStyle(json, *ticks, context);
+  if (json["grid"] == true) hideGridOnBaseline(json, dimension);
   return json;
 }
 

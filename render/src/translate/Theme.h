@@ -30,7 +30,7 @@ constexpr double thinWidth = 1.5; ///< of whiskers, error bars and outlines
 constexpr double barOpacity = 0.85;
 constexpr double areaOpacity = 0.7;
 constexpr int smallestSize = 20; ///< of symbols that a variable sizes
-constexpr int largestSize = 700;
+constexpr int largestSize = 450;
 
 constexpr double barBand = 0.8;    ///< the part of a category's room that its bars fill
 constexpr double boxBand = 0.5;    ///< the same of one box, which needs less

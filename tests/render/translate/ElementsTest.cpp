@@ -249,6 +249,8 @@ TEST_F(ElementsTest, PiecesOfAPieAndBarsInPolarCoordinatesAreSectors) {
 }
 
 TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
+  constexpr std::string_view range =
+      R"(<variable id="r" expression="v1 + v2" categorical="false"/>)";
   const struct {
     std::string plot;
     std::string note;
@@ -261,6 +263,11 @@ TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
        "e is not drawn: its statistic needs a continuous variable"},
       {element("point", R"(<x variable="v1"/><y variable="v2"/>)", "jitter"),
        "e: positionModifier=\"jitter\" is not drawn yet"},
+      {element("schema", R"(<x variable="r"/><y variable="v2"/>)"),
+       "e is not drawn: its statistic needs places of one variable"},
+      {element("point", R"(<x variable="v1"/><y variable="r"/>)" +
+                            statistic("bin", R"(<parameter name="grid" value="hex"/>)")),
+       "e is not drawn: its statistic needs two variables"},
       {element("interval", R"(<x variable="v1"/><y variable="v2"/>)", "dodge"),
        "e: marks at numbers are not put side by side"},
       {element("area", R"(<x variable="v3"/><y variable="v3"/>)" + statistic("mean")),
@@ -269,7 +276,7 @@ TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
        "e: the variable of its split has no data"},
   };
   for (const auto& [plot, note] : cases)
-    EXPECT_THAT(spec(plot, parts)["usermeta"]["notes"], testing::Contains(note)) << plot;
+    EXPECT_THAT(spec(plot, parts, range)["usermeta"]["notes"], testing::Contains(note)) << plot;
 }
 
 } // namespace
