@@ -32,9 +32,6 @@ module charts
   integer(cx), parameter, public :: word_stacked_area = 95, word_scatter = 96
   integer(cx), parameter, public :: word_clustered_bar = 146
 
-  ! The roles that an axis or a facet has.
-  integer(cx), parameter, public :: role_x = 1, role_y = 2
-
   ! Type codes of display formats.
   integer, parameter, public :: text_format = 1, dollar_format = 4, plain_format = 5
   integer, parameter, public :: percent_format = 31

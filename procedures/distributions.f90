@@ -78,7 +78,7 @@ contains
     do class = first - 1, last + 1
       low = class*class_width
       do s = 1, size(cases%species%levels)
-        call add_row(plot)
+        call begin_row(plot)
         call store_name(plot, species, cases%species%levels(s))
         call store_numbers(plot%chart, plot%source, [flipper, number], &
           [low + class_width/2, real(count(cases%species%code == s .and. &

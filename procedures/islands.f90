@@ -51,7 +51,7 @@ contains
         values = pack(cases%mass, cases%island%code == i .and. cases%species%code == s)
         if (size(values) < 2) cycle
         error = 1.96_dp*deviation(values)/sqrt(real(size(values), dp))
-        call add_row(plot)
+        call begin_row(plot)
         call store_name(plot, island, cases%island%levels(i))
         call store_name(plot, species, cases%species%levels(s))
         call store_numbers(plot%chart, plot%source, [height, lower, upper], &
@@ -83,7 +83,7 @@ contains
     do i = 1, size(cases%island%levels)
       all_of_island = count(cases%island%code == i)
       do s = 1, size(cases%species%levels)
-        call add_row(plot)
+        call begin_row(plot)
         call store_name(plot, island, cases%island%levels(i))
         call store_name(plot, species, cases%species%levels(s))
         call store_numbers(plot%chart, plot%source, [share], [100*real(count( &
@@ -116,8 +116,8 @@ contains
 
     facet = made('the panels', cx_addtablefacet(plot%chart, plot%data))
     cross = made('the panels', cx_addcross(plot%chart, facet))
-    call make('the columns', cx_addfacetvariable(plot%chart, cross, role_x, island))
-    call make('the rows', cx_addfacetvariable(plot%chart, cross, role_y, sex))
+    call make('the columns', cx_addfacetvariable(plot%chart, cross, int(role_x, cx), island))
+    call make('the rows', cx_addfacetvariable(plot%chart, cross, int(role_y, cx), sex))
     call draw_axes(plot, variable_label(flipper_number), variable_label(mass_number))
     points = element(plot, word_point, flipper, mass, word_scatter)
     call make('the colors', cx_addstylebycolor(plot%chart, points, species))

@@ -10,7 +10,7 @@ module drawings
   private
   public :: new_drawing, send
   public :: variable, factor_variable, computed, range_of
-  public :: add_row, store_name, store_cases
+  public :: begin_row, store_name, store_cases
   public :: draw_axes, part, element, group, draw_legend
 
   !> A chart under construction and the nodes that several steps refer to.
@@ -83,7 +83,7 @@ contains
     range_of = made('a range', cx_addrangevariable(plot%chart, list))
   end function
 
-  subroutine add_row(plot)
+  subroutine begin_row(plot)
     type(drawing), intent(in) :: plot
 
     call require(cx_addrow(plot%chart, plot%source) >= 0, 'cannot add a row')
@@ -108,7 +108,7 @@ contains
     integer :: i, n
 
     do i = 1, size(numbers, 1)
-      call add_row(plot)
+      call begin_row(plot)
       call store_numbers(plot%chart, plot%source, columns, numbers(i, :))
       if (.not. present(names)) cycle
       do n = 1, size(names)
