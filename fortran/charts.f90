@@ -24,10 +24,15 @@ module charts
 
   ! String handles of the predefined words that procedures name most.
   integer(cx), parameter, public :: word_footnote = 13, word_subtitle = 16, word_title = 17
-  integer(cx), parameter, public :: word_interval = 20, word_line = 21, word_point = 23
+  integer(cx), parameter, public :: word_area = 18, word_interval = 20, word_line = 21
+  integer(cx), parameter, public :: word_point = 23, word_schema = 24
   integer(cx), parameter, public :: word_polar = 31, word_style_by = 36
-  integer(cx), parameter, public :: word_simple_bar = 41, word_simple_line = 43
-  integer(cx), parameter, public :: word_dodge = 88, word_natural = 93, word_scatter = 96
+  integer(cx), parameter, public :: word_simple_bar = 41, word_stacked_bar = 42
+  integer(cx), parameter, public :: word_simple_line = 43, word_histogram = 44
+  integer(cx), parameter, public :: word_box_plot = 61, word_error_bar = 69
+  integer(cx), parameter, public :: word_type = 71, word_normal = 72, word_distribution = 73
+  integer(cx), parameter, public :: word_stack = 87, word_dodge = 88, word_natural = 93
+  integer(cx), parameter, public :: word_stacked_area = 95, word_scatter = 96
   integer(cx), parameter, public :: word_count = 140, word_clustered_bar = 146
 
   !> Pattern of listed(): each item on a line of its own.

@@ -32,7 +32,8 @@ contains
     call this%finish(made=handle, stat=stat, errmsg=errmsg)
   end subroutine
 
-  !> Adds the labelled ticks to an axis. handle: the new ticks.
+  !> Adds the labelled ticks to an axis. handle: the new ticks. Refuses that a style is taken,
+  !> beside other ticks of the axis.
   subroutine add_major_ticks(chart, parent, position, grid_lines, length, label_angle, stagger, &
       delta, handle, stat, errmsg)
     class(*), intent(in) :: chart, parent

@@ -155,7 +155,8 @@ contains
     call this%finish(stat=stat, errmsg=errmsg)
   end subroutine
 
-  !> Completes the chart, sends it and forgets it; it is gone also when sending failed.
+  !> Completes the chart, sends it and forgets it; it is gone also when sending failed. While
+  !> bootstrapping, nothing is sent and the result is -1.
   subroutine end_chart(chart, stat, errmsg)
     class(*), intent(in) :: chart
     class(*), intent(inout), optional :: stat

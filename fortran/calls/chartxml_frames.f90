@@ -107,8 +107,8 @@ contains
     call this%finish(made=handle, stat=stat, errmsg=errmsg)
   end subroutine
 
-  !> Gives a frame its facet labeling, at most one. handle: the frame's facet labeling, new or
-  !> known. Refuses a node that is no frame.
+  !> Gives a frame its facet labeling, at most one; one anywhere below the frame counts. handle: the
+  !> frame's facet labeling, new or known. Refuses a node that is no frame.
   subroutine add_facet_labeling(chart, frame, handle, stat, errmsg)
     class(*), intent(in) :: chart, frame
     class(*), intent(inout), optional :: handle, stat

@@ -20,7 +20,8 @@ module chartxml_raw_axes
       integer(c_int64_t), intent(in) :: chart, parent, suffix, opposite
     end function
 
-    !> Adds the labelled ticks to an axis. Returns the new ticks.
+    !> Adds the labelled ticks to an axis. Returns the new ticks. Reports that a style is taken,
+    !> beside other ticks of the axis.
     integer(c_int64_t) function cx_addmajorticks(chart, parent, position, grid_lines, length, &
         label_angle, stagger, delta) bind(C, name="cx_addmajorticks_")
       import

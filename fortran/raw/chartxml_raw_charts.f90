@@ -106,7 +106,8 @@ module chartxml_raw_charts
       integer(c_int64_t), intent(in) :: ignored1
     end function
 
-    !> Completes the chart, sends it and forgets it; it is gone also when sending failed. Returns 0.
+    !> Completes the chart, sends it and forgets it; it is gone also when sending failed. While
+    !> bootstrapping, nothing is sent and the result is -1. Returns 0.
     integer(c_int64_t) function cx_endchart(chart) bind(C, name="cx_endchart_")
       import
       integer(c_int64_t), intent(in) :: chart

@@ -55,8 +55,8 @@ module chartxml_raw_frames
       integer(c_int64_t), intent(in) :: ignored1
     end function
 
-    !> Gives a frame its facet labeling, at most one. Returns the frame's facet labeling, new or
-    !> known. Reports a node that is no frame.
+    !> Gives a frame its facet labeling, at most one; one anywhere below the frame counts. Returns
+    !> the frame's facet labeling, new or known. Reports a node that is no frame.
     integer(c_int64_t) function cx_addfacetlabeling(chart, frame) &
         bind(C, name="cx_addfacetlabeling_")
       import

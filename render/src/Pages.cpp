@@ -23,9 +23,11 @@ namespace {
 //   assemble    one Vega specification        -> JSON
 Json specification(const ChartFolder& folder, const Words& words) {
   Notes notes;
-  const Chart chart = resolve(folder, notes);
-  Parts parts = translate(chart, notes);
-  return assemble(chart, std::move(parts), excerptsOf(chart), words, notes);
+  Chart chart = resolve(folder, notes);
+  const Layout layout = Layout::of(chart, notes);
+  makeUnitsEqual(chart, layout, notes);
+  Parts parts = translate(chart, layout, notes);
+  return assemble(chart, layout, std::move(parts), excerptsOf(chart), words, notes);
 }
 
 /// The gallery page, with its list made by one of the writers and the shared scripts.

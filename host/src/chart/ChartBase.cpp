@@ -16,7 +16,6 @@
 #include <host/ErrorLog.h>
 #include <host/ZephUni.h>
 
-
 using xercesc::DOMDocument;
 using xercesc::DOMElement;
 using xercesc::XMLPlatformUtils;

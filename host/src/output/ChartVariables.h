@@ -33,7 +33,7 @@ private:
   std::set<std::string_view> sources_;
   std::string_view firstSource_;
   std::unordered_map<std::string_view, std::uint32_t> byId_; ///< empty when none is computed
-  std::vector<std::uint32_t> byPlace_; ///< indices of variables
+  std::vector<std::uint32_t> byPlace_;                       ///< indices of variables
 };
 
 } // namespace host

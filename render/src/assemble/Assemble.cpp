@@ -6,6 +6,7 @@
 #include "text/Expression.h"
 #include "text/PlainValue.h"
 #include "text/Wrap.h"
+#include "translate/FacetLabels.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
 
@@ -37,23 +38,6 @@ Json sources(const std::vector<Excerpt>& excerpts) {
 void append(Json& list, Json more) {
   for (Json& item : more)
     list.push_back(std::move(item));
-}
-
-void addPositionScale(Json& scales, const Dimension& dimension) {
-  const char* const range = dimension.role == "x" ? "width" : "height";
-  if (!dimension.categorical) {
-    scales.push_back(
-        {{"name", dimension.role},
-         {"type", "linear"},
-         {"domain", Json::array({jsonNumber(dimension.low), jsonNumber(dimension.high)})},
-         {"range", range},
-         {"zero", false}});
-    return;
-  }
-  Json scale = categoryScale(std::string(dimension.role), dimension.categories, range);
-  scale["type"] = "point";
-  scale["padding"] = 0.5;
-  scales.push_back(std::move(scale));
 }
 
 /// The legend of the function lines that have a name.
@@ -143,16 +127,16 @@ Json pageMeta(const Chart& chart, const Parts& parts, const std::vector<Excerpt>
 
 } // namespace
 
-Json assemble(const Chart& chart, Parts parts, const std::vector<Excerpt>& excerpts,
-              const Words& words, const Notes& notes) {
+Json assemble(const Chart& chart, const Layout& layout, Parts parts,
+              const std::vector<Excerpt>& excerpts, const Words& words, const Notes& notes) {
   Json meta = pageMeta(chart, parts, excerpts, words, notes);
   Json plot{{"type", "group"},
             {"encode",
              {{"update", {{"width", {{"signal", "width"}}}, {"height", {{"signal", "height"}}}}}}}};
   Json spec{{"$schema", "https://vega.github.io/schema/vega/v6.json"},
             {"description", describe(chart, parts, words)},
-            {"width", theme::plotWidth},
-            {"height", theme::plotHeight},
+            {"width", jsonNumber(layout.width)},
+            {"height", jsonNumber(layout.height)},
             {"padding", 20},
             {"background", {{"signal", "paper"}}},
             {"config", theme::config(chart.folder->manifest)},
@@ -161,11 +145,13 @@ Json assemble(const Chart& chart, Parts parts, const std::vector<Excerpt>& excer
 
   addFunctionLegend(parts);
   Json scales = Json::array();
-  addPositionScale(scales, chart.x);
-  addPositionScale(scales, chart.y);
+  if (!chart.facets.isSplit()) append(scales, std::move(parts.positionScales));
   append(scales, std::move(parts.scales));
   plot["scales"] = std::move(scales);
   plot["axes"] = std::move(parts.axes);
+  if (!chart.facets.rows.front().empty())
+    for (Json& legend : parts.legends)
+      legend["offset"] = theme::legendOffset + rowLabelRoom(chart);
   plot["legends"] = std::move(parts.legends);
   plot["marks"] = std::move(parts.marks);
 

@@ -6,7 +6,10 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include "resolve/Panels.h"
+#include "resolve/ReadElements.h"
 #include "resolve/Scale.h"
+#include "text/Show.h"
 
 namespace render {
 namespace {
@@ -20,8 +23,41 @@ void readVariables(Chart& chart, Notes& notes) {
   }
 }
 
+/// The variables that a variable is composed of, "variable1 + variable2".
+void readMembers(Variable& variable, std::string_view expression, const Chart& chart,
+                 Notes& notes) {
+  constexpr std::string_view plus = " + ";
+  std::vector<const Variable*> members;
+  while (!expression.empty()) {
+    const std::string_view id = expression.substr(0, expression.find(plus));
+    expression.remove_prefix(std::min(id.size() + plus.size(), expression.size()));
+    const auto found = chart.variableOfId.find(id);
+    const Variable* member = found == chart.variableOfId.end() ? nullptr : found->second;
+    const bool isUsable = member != nullptr && !member->numbers.empty() &&
+                          (members.empty() || members.front()->source == member->source);
+    if (!isUsable) {
+      notes.add(fmt::format("{} is not drawn yet: it is composed of {}", variable.id, shown(id)));
+      return;
+    }
+    members.push_back(member);
+  }
+  if (members.empty()) return;
+  variable.source = members.front()->source;
+  variable.format = members.front()->format;
+  variable.members = std::move(members);
+}
+
+void composeVariables(Chart& chart, Notes& notes) {
+  for (Variable& variable : chart.variables) {
+    const Node* node = chart.folder->document.find(variable.id);
+    if (node != nullptr && !node->attribute("expression").empty())
+      readMembers(variable, node->attribute("expression"), chart, notes);
+  }
+}
+
 bool holdsPlot(const Node& frame) {
-  static constexpr std::array<std::string_view, 3> parts{"dimension", "element", "guide"};
+  static constexpr std::array<std::string_view, 4> parts{"dimension", "element", "elementGroup",
+                                                         "guide"};
   return std::ranges::any_of(frame.children, [](const Node& child) {
     return std::ranges::find(parts, child.kind) != parts.end();
   });
@@ -40,61 +76,19 @@ void findPlot(const Node& parent, Chart& chart, Notes& notes) {
   }
 }
 
-const Variable* variableOf(const Node& aesthetic, const Chart& chart) {
-  const auto found = chart.variableOfId.find(aesthetic.attribute("variable"));
-  return found == chart.variableOfId.end() ? nullptr : found->second;
+std::string_view sourceOf(const Element& element) {
+  return (element.x != nullptr ? element.x : element.y)->source;
 }
 
-/// The variable of a position role, which stands in the element or its position.
-const Variable* positionVariable(const Node& element, std::string_view role, const Chart& chart) {
-  const Node* position = element.child("position");
-  const Node* aesthetic = position ? position->child(role) : nullptr;
-  if (aesthetic == nullptr) aesthetic = element.child(role);
-  return aesthetic ? variableOf(*aesthetic, chart) : nullptr;
-}
-
-/// The first categorical variable that the element's groups differ by; what it
-/// asks for beyond that is noted.
-const Variable* groupVariable(const Node& element, const Chart& chart, Notes& notes) {
-  const Variable* group = nullptr;
-  for (const Node& child : element.children) {
-    if (child.kind != "styleBy" && child.kind != "color") continue;
-    const Variable* variable = variableOf(child, chart);
-    if (variable == nullptr || variable->texts == nullptr)
-      notes.add(fmt::format("{}: the variable of its {} has no data", element.name(), child.kind));
-    else if (!variable->categorical)
-      notes.add(fmt::format("{}: a {} by the values of {} is not drawn yet", element.name(),
-                            child.kind, variable->title));
-    else if (group != nullptr && group != variable)
-      notes.add(fmt::format("{}: a second grouping, by {}, is not drawn yet", element.name(),
-                            variable->title));
-    else
-      group = variable;
-  }
-  return group;
-}
-
-void readElement(const Node& node, Chart& chart, Notes& notes) {
-  const auto refuse = [&](std::string_view why) {
-    notes.add(fmt::format("{} is not drawn: {}", node.name(), why));
-  };
-  const Variable* x = positionVariable(node, "x", chart);
-  const Variable* y = positionVariable(node, "y", chart);
-  if (x == nullptr || x->texts == nullptr) return refuse("it has no x variable with data");
-  if (y == nullptr || y->texts == nullptr) return refuse("it has no y variable with data");
-  if (x->source != y->source) return refuse("its variables are of different data sources");
-
-  const Variable* group = groupVariable(node, chart, notes);
-  if (group != nullptr && group->source != x->source)
-    return refuse("its variables are of different data sources");
-  chart.elements.push_back({.node = &node, .x = x, .y = y, .group = group});
+std::size_t rowCountOf(const Element& element, const Chart& chart) {
+  return chart.folder->tables.find(sourceOf(element))->second.rowCount;
 }
 
 /// One note for all elements that leave out as many rows of as many.
 void noteMissingRows(const Chart& chart, Notes& notes) {
   std::map<std::pair<std::size_t, std::size_t>, std::vector<std::string_view>> elementsOfCount;
   for (const Element& element : chart.elements) {
-    const std::size_t rows = element.x->texts->size();
+    const std::size_t rows = rowCountOf(element, chart);
     std::size_t left = 0;
     for (std::size_t row = 0; row < rows; ++row)
       left += element.draws(row) ? 0 : 1;
@@ -105,11 +99,15 @@ void noteMissingRows(const Chart& chart, Notes& notes) {
                           count.second, fmt::join(elements, ", ")));
 }
 
-} // namespace
-
-bool Element::draws(std::size_t row) const {
-  return !x->isMissing(row) && !y->isMissing(row) && (group == nullptr || !group->isMissing(row));
+void readCoordinates(Chart& chart) {
+  for (const Node& node : chart.plot->children) {
+    if (node.kind != "coordinateTransform") continue;
+    chart.isTransposed = chart.isTransposed || node.attribute("method") == "transpose";
+    chart.isPolar = chart.isPolar || node.attribute("method") == "polar";
+  }
 }
+
+} // namespace
 
 const Format& Dimension::format() const {
   static const Format none;
@@ -123,26 +121,35 @@ const Element* Chart::find(const Node& node) const {
   return found == elements.end() ? nullptr : &*found;
 }
 
-const Dimension* Chart::dimension(std::string_view role) const {
-  if (role == "x") return &x;
-  return role == "y" ? &y : nullptr;
+const Variable* Chart::variableOf(const Node& aesthetic) const {
+  const auto found = variableOfId.find(aesthetic.attribute("variable"));
+  return found == variableOfId.end() ? nullptr : found->second;
+}
+
+const Node* Chart::dimensionNode(std::string_view role) const {
+  if (plot == nullptr) return nullptr;
+  const auto found = std::ranges::find_if(plot->children, [role](const Node& child) {
+    return child.kind == "dimension" && child.attribute("role") == role;
+  });
+  return found == plot->children.end() ? nullptr : &*found;
 }
 
 Chart resolve(const ChartFolder& folder, Notes& notes) {
   Chart chart{.folder = &folder};
   readVariables(chart, notes);
+  composeVariables(chart, notes);
+  chart.panels.emplace_back();
   findPlot(folder.document.graph(), chart, notes);
   if (chart.plot == nullptr) {
     notes.add("the chart has no frame with dimensions or elements to draw");
     return chart;
   }
-  static constexpr std::array<std::string_view, 2> drawnTypes{"point", "line"};
-  for (const Node& node : chart.plot->children)
-    if (node.kind == "element" &&
-        std::ranges::find(drawnTypes, node.attribute("type")) != drawnTypes.end())
-      readElement(node, chart, notes);
-  fitDimension(chart.x, &Element::x, chart, notes);
-  fitDimension(chart.y, &Element::y, chart, notes);
+  readCoordinates(chart);
+  readElements(chart, notes);
+  agreeOnKinds(chart, notes);
+  chart.facets = readFacets(chart, notes);
+  makePanels(chart, notes);
+  fitDimensions(chart, notes);
   noteMissingRows(chart, notes);
   return chart;
 }

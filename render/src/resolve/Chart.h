@@ -1,40 +1,52 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <deque>
+#include <map>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 #include "read/ChartFolder.h"
+#include "resolve/Element.h"
+#include "resolve/Facets.h"
 #include "resolve/Notes.h"
 #include "resolve/Variable.h"
 
 namespace render {
 
-/// A graphic element that can be drawn: its variables have data, of one source.
-struct Element {
-  const Node* node;
-  const Variable* x;
-  const Variable* y;
-  const Variable* group; ///< tells groups apart by colour and shape; may be null
+enum class ScaleType : std::uint8_t { linear, log, symmetricLog, power };
 
-  /// Whether a row has every value that the element needs.
-  bool draws(std::size_t row) const;
-};
-
-/// One position scale of the plot.
+/// One position scale of a panel.
 struct Dimension {
   std::string_view role;                    ///< "x" or "y"
   std::vector<const Variable*> variables{}; ///< drawn along it, each once
   bool categorical = false;
   std::vector<Category> categories{}; ///< of a categorical dimension
+  bool isBanded = false;              ///< categories have a width that marks fill
   double low = 0;                     ///< of a continuous one, margins included
   double high = 1;
+  ScaleType type = ScaleType::linear;
+  double parameter = 10; ///< the base of a logarithm, or the exponent
+  bool isInverted = false;
+  double lowerMapping = 0; ///< where along the frame its ends stand, 0 to 1
+  double upperMapping = 1;
 
   /// That of the first of the variables that has one: a fitted value is shown as the
   /// values that it is fitted to.
   const Format& format() const;
+};
+
+/// One panel of the plot with what is drawn in it; the only one, or one of a facet.
+struct Panel {
+  std::size_t column = 0;
+  std::size_t row = 0;
+  Dimension x{.role = "x"};
+  Dimension y{.role = "y"};
+  std::vector<std::vector<Item>> items{}; ///< of each element
+
+  const Dimension& along(std::string_view role) const { return role == "x" ? x : y; }
 };
 
 /// A chart with every reference resolved. It borrows the folder.
@@ -46,13 +58,17 @@ struct Chart {
   const Node* plot = nullptr;         ///< the frame that is drawn; null when there is none
   std::vector<const Node*> leftOut{}; ///< further frames with a plot of their own
   std::deque<Element> elements{};     ///< those of the plot that can be drawn
-  Dimension x{.role = "x"};
-  Dimension y{.role = "y"};
+  bool isTransposed = false;          ///< x goes up, y goes across
+  bool isPolar = false;               ///< x goes around, y goes outward
+  Facets facets{};
+  std::vector<Panel> panels{}; ///< at least one
 
   /// The element of a node, or null when it cannot be drawn.
   const Element* find(const Node& node) const;
-  /// The dimension of a role, or null for a role that is not drawn.
-  const Dimension* dimension(std::string_view role) const;
+  /// The variable that a node names, or null.
+  const Variable* variableOf(const Node& aesthetic) const;
+  /// The dimension of the plot for a role, or null.
+  const Node* dimensionNode(std::string_view role) const;
 };
 
 /// Resolves a chart; what cannot be resolved is noted.

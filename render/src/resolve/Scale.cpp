@@ -1,97 +1,244 @@
 #include "resolve/Scale.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <span>
 #include <unordered_set>
 
 #include <fmt/format.h>
+
+#include "resolve/Domain.h"
+#include "resolve/ScaleMethod.h"
 
 namespace render {
 namespace {
 
 constexpr double usualMargin = 0.05;
 
-/// A margin as a share of the values' range, from "5%".
-double margin(const Node* node, std::string_view name, Notes& notes) {
+/// A share of a whole, from "5%".
+std::optional<double> percentage(const Node* node, std::string_view name, Notes& notes) {
   const std::string_view text = node ? node->attribute(name) : std::string_view();
-  if (text.empty()) return usualMargin;
-  double percent = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), percent);
-  const bool isPercent =
-      error == std::errc() && end + 1 == text.data() + text.size() && *end == '%';
-  if (isPercent && percent >= 0 && percent <= 1000) return percent / 100;
+  if (text.empty()) return std::nullopt;
+  const double percent = text.ends_with('%') ? numberOf(text.substr(0, text.size() - 1)) : NAN;
+  if (percent >= 0 && percent <= 1000) return percent / 100;
   notes.add(fmt::format("{}: {}=\"{}\" is not a percentage", node->name(), name, text));
-  return usualMargin;
+  return std::nullopt;
 }
 
-const Node* dimensionNode(const Node& plot, std::string_view role) {
-  const auto found = std::ranges::find_if(plot.children, [role](const Node& child) {
-    return child.kind == "dimension" && child.attribute("role") == role;
-  });
-  return found == plot.children.end() ? nullptr : &*found;
+/// Whether what an element draws along a role is a category; nothing when it fits both.
+std::optional<bool> isCategorical(const Element& element, std::string_view role) {
+  if (element.isSlice) return std::nullopt;
+  if (const Variable* variable = element.along(role)) return variable->categorical;
+  return !element.measuresAlong(role);
 }
 
-void fitCategories(Dimension& dimension) {
-  std::unordered_set<std::string_view> known;
-  for (const Variable* variable : dimension.variables)
-    for (const Category& category : variable->categories)
-      if (known.insert(category.key).second) dimension.categories.push_back(category);
-}
-
-void fitRange(Dimension& dimension, const Variable* Element::* position, const Chart& chart,
-              Notes& notes) {
+struct Extent {
   double low = std::numeric_limits<double>::infinity();
   double high = -low;
-  for (const Element& element : chart.elements) {
-    const std::vector<double>& numbers = (element.*position)->numbers;
-    for (std::size_t row = 0; row < numbers.size(); ++row) {
-      if (!element.draws(row)) continue;
-      low = std::min(low, numbers[row]);
-      high = std::max(high, numbers[row]);
+  bool hasBase = false;   ///< zero is where bars begin
+  bool leavesOut = false; ///< values that the scale does not take
+
+  void hold(double value) {
+    if (!std::isfinite(value)) return; // a sum can be too large for a number
+    low = std::min(low, value);
+    high = std::max(high, value);
+  }
+};
+
+bool hasBars(const Element& element) {
+  return element.type() == "interval" || element.type() == "schema" || element.type() == "tile";
+}
+
+/// Fits one dimension to what some panels draw along it.
+class Fit {
+public:
+  Fit(Dimension& dimension, std::span<const Panel> panels, const Chart& chart, Notes& notes)
+      : dimension_(dimension), panels_(panels), chart_(chart), notes_(notes),
+        node_(chart.dimensionNode(dimension.role)) {}
+
+  void fit() {
+    collect();
+    readScale(dimension_, node_, notes_);
+    const Domain domain = domainOf(dimension_, chart_, notes_);
+    if (dimension_.categorical)
+      fitCategories(domain);
+    else
+      fitRange(domain);
+    dimension_.lowerMapping = percentage(node_, "lowerMapping", notes_).value_or(0);
+    dimension_.upperMapping = percentage(node_, "upperMapping", notes_).value_or(1);
+  }
+
+private:
+  void collect() {
+    bool isFirst = true;
+    for (const Element& element : chart_.elements) {
+      const std::optional<bool> categorical = isCategorical(element, dimension_.role);
+      if (!categorical) continue;
+      if (isFirst) dimension_.categorical = *categorical;
+      isFirst = false;
+      if (*categorical && hasBars(element)) dimension_.isBanded = true;
+      const Variable* variable = element.along(dimension_.role);
+      if (variable == nullptr) continue;
+      const auto add = [this](const Variable* each) {
+        if (std::ranges::find(dimension_.variables, each) == dimension_.variables.end())
+          dimension_.variables.push_back(each);
+      };
+      if (variable->members.empty()) add(variable);
+      for (const Variable* member : variable->members)
+        add(member);
     }
   }
-  if (low > high) {
-    notes.add(fmt::format("there are no values to draw along {}", dimension.role));
+
+  /// All that the variables have; in a panel of its own scale those that it shows.
+  void fitCategories(const Domain& domain) {
+    std::unordered_set<std::string_view> known;
+    std::vector<const Variable*> variables = dimension_.variables;
+    variables.insert(variables.end(), domain.references.begin(), domain.references.end());
+    for (const Variable* variable : variables)
+      for (const Category& category : variable->categories)
+        if (isShown(category) && known.insert(category.key).second)
+          dimension_.categories.push_back(category);
+    if (variables.empty()) dimension_.categories.push_back({}); // of marks without a place
+    if (domain.sort != nullptr)
+      sortCategories(dimension_.categories, *domain.sort, dimension_, chart_, notes_);
+  }
+
+  bool isShown(const Category& category) const {
+    if (panels_.size() == chart_.panels.size()) return true;
+    for (const Element& element : chart_.elements) {
+      const Variable* variable = element.along(dimension_.role);
+      if (variable == nullptr || variable->texts == nullptr) continue;
+      for (const Item& item : panels_.front().items[element.index])
+        if ((*variable->texts)[item.row] == category.key) return true;
+    }
+    return false;
+  }
+
+  void fitRange(const Domain& domain) {
+    Extent extent;
+    for (const Panel& panel : panels_)
+      for (const Element& element : chart_.elements)
+        if (!element.isSlice) hold(element, panel.items[element.index], extent);
+    for (const Variable* variable : domain.references)
+      for (const double value : variable->numbers)
+        if (!std::isnan(value)) extent.hold(value);
+    if (extent.low > extent.high) {
+      extent.low = domain.min.value_or(dimension_.low);
+      extent.high = std::max(domain.max.value_or(dimension_.high), extent.low);
+      if (!domain.min || !domain.max || !chart_.elements.empty())
+        notes_.add(fmt::format("there are no values to draw along {}", dimension_.role));
+    }
+    chooseLogarithm(extent.low, dimension_);
+    if (extent.leavesOut)
+      notes_.add(fmt::format("values of zero and less are left out along {}: its scale does not "
+                             "take them",
+                             dimension_.role));
+    widen(extent);
+    addMargins(extent);
+    if (domain.min && takes(*domain.min, dimension_)) dimension_.low = *domain.min;
+    if (domain.max && takes(*domain.max, dimension_)) dimension_.high = *domain.max;
+    if (dimension_.low < dimension_.high) return;
+    notes_.add(fmt::format("the domain of {} holds none of its values", dimension_.role));
+    dimension_.high = dimension_.low + std::max(1.0, std::abs(dimension_.low));
+  }
+
+  void hold(const Element& element, const std::vector<Item>& items, Extent& extent) const {
+    const bool isMeasure = element.measuresAlong(dimension_.role);
+    const bool isLogarithm =
+        dimension_.type != ScaleType::linear && dimension_.type != ScaleType::power;
+    const auto take = [&](double value) {
+      if (takes(value, dimension_))
+        extent.hold(value);
+      else
+        extent.leavesOut = true;
+    };
+    for (const Item& item : items) {
+      take(isMeasure ? item.high : item.to);
+      const double start = isMeasure ? item.low : item.from;
+      // A logarithm has no zero: bars begin where the scale does.
+      const bool isBase = isMeasure && element.hasBase && start == 0;
+      if (!isBase || !isLogarithm) take(start);
+      if (isBase) extent.hasBase = true;
+    }
+  }
+
+  /// A range that numbers can still divide, also when all values are one.
+  static void widen(Extent& extent) {
+    const double least = std::max(std::abs(extent.low), std::abs(extent.high)) * 1e-9;
+    if (extent.high - extent.low > least) return;
+    const double half = least > 0 ? std::abs(extent.low) * usualMargin : 0.5;
+    extent.low -= half;
+    extent.high += half;
+  }
+
+  void addMargins(const Extent& extent) {
+    const auto margin = [&](std::string_view name, double end) {
+      if (extent.hasBase && end == 0) return 0.0;
+      return percentage(node_, name, notes_).value_or(usualMargin);
+    };
+    const double low = scaled(extent.low, dimension_);
+    const double high = scaled(extent.high, dimension_);
+    const double below = (high - low) * margin("lowerMargin", extent.low);
+    const double above = (high - low) * margin("upperMargin", extent.high);
+    // Without a margin the end is the value itself, to the last digit.
+    const auto moved = [this](double length, double by, double value) {
+      const double there = by != 0 ? unscaled(length + by, dimension_) : value;
+      return std::isfinite(there) ? there : value;
+    };
+    dimension_.low = moved(low, -below, extent.low);
+    dimension_.high = moved(high, above, extent.high);
+  }
+
+  Dimension& dimension_;
+  std::span<const Panel> panels_;
+  const Chart& chart_;
+  Notes& notes_;
+  const Node* node_;
+};
+
+void fitRole(Dimension Panel::* along, Chart& chart, Notes& notes) {
+  const std::string_view role = (chart.panels.front().*along).role;
+  const Node* node = chart.dimensionNode(role);
+  const bool isShared = node == nullptr || node->attribute("facetsShareScale") != "false";
+  if (isShared) {
+    Dimension& first = chart.panels.front().*along;
+    Fit(first, chart.panels, chart, notes).fit();
+    for (Panel& panel : chart.panels)
+      if (&(panel.*along) != &first) panel.*along = first;
     return;
   }
-  // A range that numbers can still divide, also when all values are one.
-  const double least = std::max(std::abs(low), std::abs(high)) * 1e-9;
-  if (high - low <= least) {
-    const double half = least > 0 ? std::abs(low) * usualMargin : 0.5;
-    low -= half;
-    high += half;
-  }
-  const Node* node = dimensionNode(*chart.plot, dimension.role);
-  const double range = high - low;
-  dimension.low = low - range * margin(node, "lowerMargin", notes);
-  dimension.high = high + range * margin(node, "upperMargin", notes);
+  for (Panel& panel : chart.panels)
+    Fit(panel.*along, std::span(&panel, 1), chart, notes).fit();
 }
 
 } // namespace
 
-void fitDimension(Dimension& dimension, const Variable* Element::* position, Chart& chart,
-                  Notes& notes) {
-  if (!chart.elements.empty())
-    dimension.categorical = (chart.elements.front().*position)->categorical;
-  std::erase_if(chart.elements, [&](const Element& element) {
-    const bool fits = (element.*position)->categorical == dimension.categorical;
-    if (!fits)
+void agreeOnKinds(Chart& chart, Notes& notes) {
+  for (const std::string_view role : {"x", "y"}) {
+    std::optional<bool> first;
+    std::erase_if(chart.elements, [&](const Element& element) {
+      const std::optional<bool> categorical = isCategorical(element, role);
+      if (!categorical) return false;
+      if (!first) first = categorical;
+      if (*categorical == *first) return false;
       notes.add(fmt::format("{} is not drawn: its {} is {}, that of the first element is not",
-                            element.node->name(), dimension.role,
-                            dimension.categorical ? "continuous" : "categorical"));
-    return !fits;
-  });
-  for (const Element& element : chart.elements) {
-    const Variable* variable = element.*position;
-    if (std::ranges::find(dimension.variables, variable) == dimension.variables.end())
-      dimension.variables.push_back(variable);
+                            element.node->name(), role, *first ? "continuous" : "categorical"));
+      return true;
+    });
   }
-  if (dimension.categorical)
-    fitCategories(dimension);
-  else
-    fitRange(dimension, position, chart, notes);
+  std::size_t index = 0;
+  for (Element& element : chart.elements)
+    element.index = index++;
+}
+
+void fitDimensions(Chart& chart, Notes& notes) {
+  const bool hasScales =
+      std::ranges::any_of(chart.elements, [](const Element& element) { return !element.isSlice; });
+  if (!chart.elements.empty() && !hasScales) return;
+  fitRole(&Panel::x, chart, notes);
+  fitRole(&Panel::y, chart, notes);
 }
 
 } // namespace render

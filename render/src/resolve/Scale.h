@@ -4,11 +4,13 @@
 
 namespace render {
 
-/// Gives a dimension the extent of what the chart's elements draw along it (the
-/// variable that `position` names), with the margins of its node. Elements of
-/// another kind of scale than the first cannot share it: they are noted and taken
-/// out of the chart.
-void fitDimension(Dimension& dimension, const Variable* Element::* position, Chart& chart,
-                  Notes& notes);
+/// Takes out of the chart what cannot share a dimension with its first element: a
+/// continuous scale with a categorical one. It is noted.
+void agreeOnKinds(Chart& chart, Notes& notes);
+
+/// Gives the dimensions of every panel the extent of what is drawn along them, with the
+/// domain, scale and margins of their nodes: that of all panels, or of each where a
+/// dimension's facets do not share it. A side where marks have their base gets no margin.
+void fitDimensions(Chart& chart, Notes& notes);
 
 } // namespace render

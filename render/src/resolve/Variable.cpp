@@ -21,19 +21,12 @@ constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 /// there too.
 constexpr double largest = 1e300;
 
-/// The number of a whole text, or NaN.
-double number(std::string_view text) {
-  double value = missing;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  return error == std::errc() && end == text.data() + text.size() ? value : missing;
-}
-
 std::vector<double> readNumbers(const Table::Column& texts, std::string_view title, Notes& notes) {
   std::vector<double> numbers;
   numbers.reserve(texts.size());
   std::size_t refused = 0;
   for (const std::string& text : texts) {
-    double value = number(text);
+    double value = numberOf(text);
     if (!(std::abs(value) <= largest)) {
       if (!text.empty()) ++refused;
       value = missing;
@@ -49,9 +42,9 @@ std::vector<double> readNumbers(const Table::Column& texts, std::string_view tit
 
 /// Ascending: by number when all keys are numbers, else as the language sorts.
 void sortKeys(std::vector<std::string>& keys, const std::string& language) {
-  const auto isNumber = [](const std::string& key) { return !std::isnan(number(key)); };
+  const auto isNumber = [](const std::string& key) { return !std::isnan(numberOf(key)); };
   if (std::ranges::all_of(keys, isNumber)) {
-    std::ranges::sort(keys, {}, [](const std::string& key) { return number(key); });
+    std::ranges::sort(keys, {}, [](const std::string& key) { return numberOf(key); });
     return;
   }
   UErrorCode status = U_ZERO_ERROR;
@@ -66,7 +59,7 @@ void sortKeys(std::vector<std::string>& keys, const std::string& language) {
 
 /// A value without a label of its own shows itself, in the variable's format.
 Category unlabelled(const std::string& key, const Format& format) {
-  const double value = number(key);
+  const double value = numberOf(key);
   const bool isFormatted = !std::holds_alternative<std::monostate>(format) && !std::isnan(value);
   return {.key = key,
           .label = key,
@@ -97,21 +90,64 @@ std::vector<Category> readCategories(const Node& node, const Table::Column& text
   return categories;
 }
 
-const Table::Column* findColumn(const Node& node, const ChartFolder& folder) {
-  const auto table = folder.tables.find(node.attribute("source"));
-  return table == folder.tables.end() ? nullptr : table->second.find(node.attribute("sourceName"));
+/// The id of the rows that a variable reads; it may name another variable that reads
+/// them.
+std::string rowsOf(const Node& node, const ChartFolder& folder) {
+  constexpr int deepest = 10; // variables may name each other in a circle
+  std::string_view id = node.attribute("source");
+  for (int i = 0; i < deepest; ++i) {
+    const Node* named = folder.document.find(id);
+    if (named == nullptr || named->kind != "variable") break;
+    id = named->attribute("source");
+  }
+  return std::string(id);
+}
+
+const Table::Column* findColumn(const Node& node, const Table* table) {
+  return table == nullptr ? nullptr : table->find(node.attribute("sourceName"));
+}
+
+/// "constant(label)" is the value label; any other text is a value itself.
+std::shared_ptr<const Table::Column> constantColumn(const Node& node, const Table* table) {
+  constexpr std::string_view begin = "constant(";
+  std::string_view value = node.attribute("value");
+  if (value.empty() || table == nullptr) return nullptr;
+  if (value.starts_with(begin) && value.ends_with(')'))
+    value = value.substr(begin.size(), value.size() - begin.size() - 1);
+  return std::make_shared<Table::Column>(table->rowCount, std::string(value));
+}
+
+std::vector<double> codesOf(const Table::Column& texts, const std::vector<Category>& categories) {
+  std::unordered_map<std::string_view, double> codeOfKey;
+  for (const Category& category : categories)
+    codeOfKey.try_emplace(category.key, static_cast<double>(codeOfKey.size()));
+  std::vector<double> codes;
+  codes.reserve(texts.size());
+  for (const std::string& text : texts)
+    codes.push_back(text.empty() ? missing : codeOfKey.at(text));
+  return codes;
 }
 
 } // namespace
 
+double numberOf(std::string_view text) {
+  double value = missing;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return error == std::errc() && end == text.data() + text.size() ? value : missing;
+}
+
 bool Variable::isMissing(std::size_t row) const {
+  if (!members.empty())
+    return std::ranges::all_of(members,
+                               [row](const Variable* member) { return member->isMissing(row); });
   return categorical ? (*texts)[row].empty() : std::isnan(numbers[row]);
 }
 
 Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes) {
   Variable variable;
   variable.id = node.id();
-  variable.source = node.attribute("source");
+  variable.source = rowsOf(node, folder);
+  variable.domain = node.attribute("domain");
   variable.categorical = node.attribute("categorical") == "true";
   for (const std::string_view name : {"label", "shortLabel", "id"})
     if (variable.title.empty()) variable.title = node.attribute(name);
@@ -121,13 +157,20 @@ Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes)
     notes.add(fmt::format("the value labels of {} are not drawn on its continuous scale",
                           variable.title));
 
-  variable.texts = findColumn(node, folder);
+  const Node* meta = node.child("meta");
+  variable.isWeight = meta != nullptr && meta->attribute("weight") == "true";
+  const auto table = folder.tables.find(variable.source);
+  const Table* rows = table == folder.tables.end() ? nullptr : &table->second;
+  variable.constants = constantColumn(node, rows);
+  variable.texts = variable.constants ? variable.constants.get() : findColumn(node, rows);
   if (variable.texts == nullptr) return variable;
-  if (variable.categorical)
+  if (variable.categorical) {
     variable.categories =
         readCategories(node, *variable.texts, variable.format, folder.manifest.language);
-  else
+    variable.codes = codesOf(*variable.texts, variable.categories);
+  } else {
     variable.numbers = readNumbers(*variable.texts, variable.title, notes);
+  }
   return variable;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,14 +21,19 @@ struct Category {
 /// A variable of the chart with its values. Its id names its field in Vega.
 struct Variable {
   std::string id;
-  std::string title; ///< its label, else its short label, else its id
-  std::string source;
+  std::string title;  ///< its label, else its short label, else its id
+  std::string source; ///< of rows, also where the node names another variable
+  std::string domain; ///< the id of a domain node; empty without one
   bool categorical = false;
+  bool isWeight = false; ///< tells how often each row counts
   Format format;
 
-  const Table::Column* texts = nullptr; ///< null when it has no data
-  std::vector<double> numbers;          ///< of a continuous variable; NaN is missing
-  std::vector<Category> categories{};   ///< of a categorical one, in drawing order
+  const Table::Column* texts = nullptr;   ///< null when it has no data
+  std::vector<double> numbers;            ///< of a continuous variable; NaN is missing
+  std::vector<Category> categories{};     ///< of a categorical one, in drawing order
+  std::vector<double> codes{};            ///< the index of each row's category; NaN is missing
+  std::vector<const Variable*> members{}; ///< of a variable that is composed of others
+  std::shared_ptr<const Table::Column> constants{}; ///< the values of a constant
 
   bool isMissing(std::size_t row) const;
 };
@@ -36,5 +42,8 @@ struct Variable {
 /// not numbers, or too large to draw, become missing values of a continuous
 /// variable and are noted.
 Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes);
+
+/// The number of a whole text, or NaN.
+double numberOf(std::string_view text);
 
 } // namespace render

@@ -13,11 +13,13 @@ namespace {
 using Used = std::unordered_set<const Variable*>;
 using Rows = std::vector<std::size_t>;
 
-/// The variables that an attribute below a node names.
+/// The variables that an attribute below a node names, and those that they are composed of.
 void collectUsed(const Node& node, const Chart& chart, Used& used) {
   for (const auto& [name, value] : node.attributes) {
     const auto variable = name == "id" ? chart.variableOfId.end() : chart.variableOfId.find(value);
-    if (variable != chart.variableOfId.end()) used.insert(variable->second);
+    if (variable == chart.variableOfId.end()) continue;
+    used.insert(variable->second);
+    used.insert(variable->second->members.begin(), variable->second->members.end());
   }
   for (const Node& child : node.children)
     collectUsed(child, chart, used);

@@ -7,6 +7,7 @@
 
 #include "text/Expression.h"
 #include "text/Wrap.h"
+#include "translate/Encode.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
 
@@ -16,7 +17,7 @@ namespace {
 constexpr double lineHeight = theme::labelSize + 2;
 constexpr std::size_t mostLines = 3;
 
-struct Layout {
+struct LabelLayout {
   int width; ///< of a label, in pixels
   std::size_t lines;
   bool slanted = false;
@@ -31,23 +32,24 @@ std::size_t linesIn(double room) {
   return std::clamp(static_cast<std::size_t>(room / lineHeight), std::size_t{1}, mostLines);
 }
 
-bool fits(const Category& category, const Layout& layout, double widthOfComputed) {
+bool fits(const Category& category, const LabelLayout& layout, double widthOfComputed) {
   if (!category.expression.empty()) return widthOfComputed <= layout.width;
   return wrapsWhole(category.label, layout.limits());
 }
 
-Layout layoutOf(const Dimension& dimension, const Manifest& manifest) {
+LabelLayout layoutOf(const Dimension& dimension, const Context& context) {
   constexpr int gap = 10;
   constexpr double slant = 1.42; // lines at 45 degrees lie that much farther apart
   const double count = std::max(1.0, static_cast<double>(dimension.categories.size()));
-  if (dimension.role == "y")
-    return {.width = theme::legendWidth, .lines = linesIn(theme::plotHeight / count)};
+  if (!isAcross(dimension.role, context.chart))
+    return {.width = theme::legendWidth, .lines = linesIn(context.layout.panelHeight / count)};
 
-  const double room = theme::plotWidth / count;
+  const double room = context.layout.panelWidth / count;
   const auto* date = std::get_if<DateFormat>(&dimension.format());
   const double widthOfComputed =
-      date != nullptr ? widestDate(*date, manifest.language, theme::labelSize) : 0;
-  const Layout upright{.width = static_cast<int>(room) - gap, .lines = mostLines};
+      date != nullptr ? widestDate(*date, context.chart.folder->manifest.language, theme::labelSize)
+                      : 0;
+  const LabelLayout upright{.width = static_cast<int>(room) - gap, .lines = mostLines};
   const bool allFit = std::ranges::all_of(dimension.categories, [&](const Category& category) {
     return fits(category, upright, widthOfComputed);
   });
@@ -64,8 +66,13 @@ Json middleOf(const std::string& labels) {
 } // namespace
 
 void labelCategories(Json& axis, const Dimension& dimension, Context& context) {
-  const Layout layout = layoutOf(dimension, context.chart.folder->manifest);
-  const std::string labels = scaleName("label", dimension.role);
+  const LabelLayout layout = layoutOf(dimension, context);
+  const bool across = isAcross(dimension.role, context.chart);
+  const bool isShared = !context.chart.facets.isSplit() ||
+                        dimension.categories.size() ==
+                            context.chart.panels.front().along(dimension.role).categories.size();
+  const std::string labels =
+      scaleName("label", isShared ? std::string(dimension.role) : context.inPanel(dimension.role));
   if (!context.parts.hasScale(labels))
     context.parts.scales.push_back(
         categoryScale(labels, dimension.categories,
@@ -74,7 +81,7 @@ void labelCategories(Json& axis, const Dimension& dimension, Context& context) {
                       })));
   axis["encode"]["labels"]["update"]["text"] = {{"scale", labels}, {"field", "value"}};
   axis["labelLimit"] = 0;
-  if (dimension.role == "y") axis["encode"]["labels"]["update"]["dy"] = middleOf(labels);
+  if (!across) axis["encode"]["labels"]["update"]["dy"] = middleOf(labels);
   if (!layout.slanted) return;
   axis["labelAngle"] = -45;
   axis["labelAlign"] = "right";

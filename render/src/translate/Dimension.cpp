@@ -5,8 +5,14 @@
 
 #include "resolve/DateTicks.h"
 #include "resolve/Ticks.h"
+#include "text/Expression.h"
+#include "text/Show.h"
 #include "text/Wrap.h"
 #include "translate/CategoryLabels.h"
+#include "translate/Encode.h"
+#include "translate/FacetLabels.h"
+#include "translate/MinorTicks.h"
+#include "translate/PolarAxis.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
@@ -42,50 +48,184 @@ std::vector<double> timeTicks(const Dimension& dimension, const DateFormat& form
   constexpr double gap = 16;
   constexpr int mostDates = 12;
   int most = ticksAlongY;
-  if (dimension.role == "x") {
+  if (isAcross(dimension.role, context.chart)) {
     const double width =
         gap + widestDate(format, context.chart.folder->manifest.language, theme::labelSize);
-    most = std::clamp(static_cast<int>(theme::plotWidth / width), 2, mostDates);
+    most = std::clamp(static_cast<int>(context.layout.panelWidth / width), 2, mostDates);
   }
   const auto ticks = format.isDuration() ? durationTicks : dateTicks;
   return ticks(dimension.low, dimension.high, format.resolution(), static_cast<std::size_t>(most));
 }
 
-void labelNumbers(Json& axis, const Dimension& dimension, const Context& context) {
+/// As many as the panel has room for.
+int tickCount(const Dimension& dimension, const Context& context) {
+  const bool across = isAcross(dimension.role, context.chart);
+  const double whole = across ? theme::plotWidth : theme::plotHeight;
+  const double length = across ? context.layout.panelWidth : context.layout.panelHeight;
+  return std::max(3, static_cast<int>((across ? ticksAlongX : ticksAlongY) * length / whole));
+}
+
+/// At multiples of "delta", at powers, or at round numbers.
+Ticks ticksOf(const Dimension& dimension, const Node* majorTicks, const Context& context) {
+  const std::string_view text = majorTicks ? majorTicks->attribute("delta") : std::string_view();
+  const double delta = numberOf(text);
+  constexpr double mostSteps = 100;
+  if (delta > 0 && (dimension.high - dimension.low) / delta <= mostSteps)
+    return ticksEvery(delta, dimension.low, dimension.high);
+  if (!text.empty())
+    context.notes.add(
+        fmt::format("{}: delta=\"{}\" is not drawn", majorTicks->name(), shown(text)));
+  if (dimension.type == ScaleType::log)
+    return ticksOfPowers(dimension.parameter, dimension.low, dimension.high);
+  if (dimension.type == ScaleType::symmetricLog)
+    return ticksOfLogarithm(dimension.parameter, dimension.low, dimension.high);
+  return ticksWithin(dimension.low, dimension.high, tickCount(dimension, context));
+}
+
+bool showsPercent(const Node& axis) {
+  const Node* transform = axis.child("transform");
+  return transform != nullptr && transform->attribute("method") == "percent";
+}
+
+/// The axis's own format, else that of the values along it.
+std::optional<NumberFormat> formatOf(const Node& axis, const Format& usual, Notes& notes) {
+  if (const Node* own = axis.child("numberFormat")) return NumberFormat::read(*own, notes);
+  const auto* number = std::get_if<NumberFormat>(&usual);
+  return number != nullptr ? std::optional(*number) : std::nullopt;
+}
+
+/// What a delta asks for and ticks at categories or dates do not have.
+void refuseDelta(const Node* majorTicks, Notes& notes) {
+  if (majorTicks == nullptr || majorTicks->attribute("delta").empty()) return;
+  notes.add(fmt::format("{}: delta=\"{}\" is not drawn", majorTicks->name(),
+                        shown(majorTicks->attribute("delta"))));
+}
+
+void labelNumbers(Json& json, const Dimension& dimension, const Node& axis,
+                  const Context& context) {
+  const Node* majorTicks = axis.child("majorTicks");
   const Format& format = dimension.format();
   if (const auto* date = std::get_if<DateFormat>(&format)) {
     const std::vector<double> values = timeTicks(dimension, *date, context);
-    if (!values.empty()) return setTicks(axis, values, dateText(*date, "datum.value"));
+    refuseDelta(majorTicks, context.notes);
+    if (!values.empty()) return setTicks(json, values, dateText(*date, "datum.value"));
   }
-  const auto* number = std::get_if<NumberFormat>(&format);
-  const Ticks ticks =
-      ticksWithin(dimension.low, dimension.high, dimension.role == "x" ? ticksAlongX : ticksAlongY);
+  const Ticks ticks = ticksOf(dimension, majorTicks, context);
+  const bool isPercent = showsPercent(axis);
   const double magnitude = std::max(std::abs(dimension.low), std::abs(dimension.high));
-  setTicks(axis, ticks.values,
-           tickText(number != nullptr ? std::optional(*number) : std::nullopt, "datum.value",
-                    ticks.decimals, magnitude));
+  setTicks(json, ticks.values,
+           tickText(formatOf(axis, format, context.notes),
+                    isPercent ? "(datum.value*100)" : "datum.value",
+                    isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
+                    isPercent ? 100 * magnitude : magnitude));
+}
+
+/// How long the ticks are, and on which side of the axis they stand.
+void setTickLength(Json& json, const Node& majorTicks, const Context& context) {
+  constexpr double usual = 5;
+  constexpr double most = 50;
+  const std::string_view text = majorTicks.attribute("length");
+  double length = numberOf(text);
+  if (!(length >= 0 && length <= most)) {
+    if (!text.empty())
+      context.notes.add(
+          fmt::format("{}: length=\"{}\" is not drawn", majorTicks.name(), shown(text)));
+    length = usual;
+  }
+  const bool isInside = majorTicks.attribute("position") == "inside";
+  if (length == usual && !isInside) return;
+  json["tickSize"] = jsonNumber(isInside ? -length : length);
+  if (isInside) json["labelPadding"] = jsonNumber(usual + length);
+}
+
+/// The angle of the labels that the document asks for.
+void setTickStyle(Json& json, const Node& majorTicks, const Context& context) {
+  setTickLength(json, majorTicks, context);
+  const std::string_view text = majorTicks.attribute("labelAngle");
+  const double angle = numberOf(text);
+  if (text.empty()) return;
+  if (!(angle >= -360 && angle <= 360)) {
+    context.notes.add(
+        fmt::format("{}: labelAngle=\"{}\" is not drawn", majorTicks.name(), shown(text)));
+    return;
+  }
+  json["labelAngle"] = jsonNumber(angle);
+  if (angle != 0 && json["orient"] == "bottom") json["labelAlign"] = angle < 0 ? "right" : "left";
+}
+
+/// The line of the other axis lies where the scale begins; a grid line would cover it.
+void hideGridOnBaseline(Json& json, const Dimension& dimension) {
+  const Json values = json.value("values", Json::array());
+  if (dimension.categorical || values.empty() || values[0] != jsonNumber(dimension.low)) return;
+  json["encode"]["grid"]["update"]["opacity"] = {
+      {"signal", fmt::format("datum.value==={}?0:1", literal(dimension.low))}};
+}
+
+/// Where the axis of a role stands among the panels: whether its ticks are labelled
+/// there, and whether its title is.
+struct Standing {
+  bool hasLabels = true;
+  bool hasTitle = true;
+};
+
+Standing standingOf(const Dimension& dimension, bool opposite, const Context& context) {
+  const Facets& facets = context.chart.facets;
+  if (!facets.isSplit()) return {};
+  const bool across = isAcross(dimension.role, context.chart);
+  const std::size_t place = across ? context.panel().row : context.panel().column;
+  const std::size_t last = (across ? facets.rows.size() : facets.columns.size()) - 1;
+  const bool isOuter = place == (across == opposite ? 0 : last);
+  const bool isFirst = (across ? context.panel().column : context.panel().row) == 0;
+  const Node* node = context.chart.dimensionNode(dimension.role);
+  const bool isShared = node->attribute("facetsShareScale") != "false";
+  return {.hasLabels = isOuter || !isShared, .hasTitle = isOuter && isFirst};
+}
+
+/// One title for all panels stands in the middle of them.
+void centreTitle(Json& json, bool across, const Context& context) {
+  const Layout& layout = context.layout;
+  if (across)
+    json["titleX"] = jsonNumber(layout.width / 2 - layout.left[context.panel().column]);
+  else
+    json["titleY"] = jsonNumber(layout.height / 2 - layout.top[context.panel().row]);
 }
 
 Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
-  const bool alongX = dimension.role == "x";
+  const bool across = isAcross(dimension.role, context.chart);
   const bool opposite = axis.attribute("opposite") == "true";
-  const char* nearSide = alongX ? "bottom" : "left";
-  const char* farSide = alongX ? "top" : "right";
+  const char* nearSide = across ? "bottom" : "left";
+  const char* farSide = across ? "top" : "right";
   const char* side = opposite ? farSide : nearSide;
   const Node* ticks = axis.child("majorTicks");
+  const Standing standing = standingOf(dimension, opposite, context);
+  const bool isUnlabelled = !standing.hasLabels || isRedundant(dimension, context.chart);
+  const bool isUntitled = !standing.hasTitle || (context.chart.facets.areAlongAxis && across &&
+                                                 !context.chart.facets.columns.front().empty());
+  const bool hasTicks = ticks != nullptr && !isUnlabelled;
+  const auto length = static_cast<int>(across ? context.layout.width : context.layout.height);
   Json json{{"scale", dimension.role},
             {"orient", side},
-            {"title",
-             wrap(titleOf(axis, dimension), {.width = alongX ? theme::plotWidth : theme::plotHeight,
-                                             .fontSize = theme::axisTitleSize,
-                                             .lines = 3})},
+            {"title", isUntitled
+                          ? std::vector<std::string>()
+                          : wrap(titleOf(axis, dimension),
+                                 {.width = length, .fontSize = theme::axisTitleSize, .lines = 3})},
             {"grid", ticks != nullptr && ticks->child("gridLines") != nullptr},
-            {"ticks", ticks != nullptr},
-            {"labels", ticks != nullptr}};
-  if (dimension.categorical)
+            {"ticks", hasTicks},
+            {"labels", hasTicks}};
+  if (context.chart.facets.isSplit()) {
+    json["domain"] = standing.hasLabels;
+    // By itself a grid is as long as the whole plot.
+    json["gridScale"] = dimension.role == "x" ? "y" : "x";
+    if (!isUntitled) centreTitle(json, across, context);
+  }
+  if (dimension.categorical) {
+    refuseDelta(ticks, context.notes);
     labelCategories(json, dimension, context);
-  else
-    labelNumbers(json, dimension, context);
+  } else {
+    labelNumbers(json, dimension, axis, context);
+  }
+  if (ticks != nullptr) setTickStyle(json, *ticks, context);
+  if (json["grid"] == true) hideGridOnBaseline(json, dimension);
   return json;
 }
 
@@ -93,10 +233,20 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
 
 /// The axes of a dimension; its scale is there whether it has a node or not.
 void translateDimension(const Node& node, Context& context) {
-  const Dimension* dimension = context.chart.dimension(node.attribute("role"));
-  if (dimension == nullptr) return;
-  for (const Node& child : node.children)
-    if (child.kind == "axis") context.parts.axes.push_back(axisOf(child, *dimension, context));
+  const std::string_view role = node.attribute("role");
+  if (role != "x" && role != "y") {
+    if (node.child("axis") != nullptr)
+      context.notes.add(fmt::format("the axis of {} is not drawn yet", shown(role)));
+    return;
+  }
+  if (context.chart.isPolar) return addPolarAxis(node, context);
+  for (const Node& child : node.children) {
+    if (child.kind != "axis") continue;
+    Json axis = axisOf(child, context.along(role), context);
+    if (const Node* minorTicks = child.child("minorTicks"))
+      addMinorTicks(axis, *minorTicks, context.along(role), context);
+    context.parts.axes.push_back(std::move(axis));
+  }
 }
 
 } // namespace render

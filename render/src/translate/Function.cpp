@@ -1,9 +1,12 @@
+#include <algorithm>
 #include <charconv>
 
 #include <fmt/format.h>
 
+#include "compute/Bins.h"
 #include "text/Expression.h"
 #include "text/Show.h"
+#include "translate/Encode.h"
 #include "translate/Formula.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
@@ -11,13 +14,6 @@
 
 namespace render {
 namespace {
-
-std::string_view parameter(const Node& guide, std::string_view name) {
-  for (const Node& child : guide.children)
-    if (child.kind == "parameter" && child.attribute("name") == name)
-      return child.attribute("value");
-  return {};
-}
 
 int pointCount(const Node& guide, Notes& notes) {
   constexpr int usual = 1000;
@@ -35,22 +31,31 @@ int pointCount(const Node& guide, Notes& notes) {
 
 /// Points over the whole x scale. A value far outside the plot is brought nearer,
 /// which keeps the line where it can be seen.
-Json functionData(const Node& guide, const std::string& formula, int points, const Chart& chart) {
-  const Dimension& x = chart.x;
-  const Dimension& y = chart.y;
+Json functionData(const Node& guide, const std::string& formula, int points,
+                  const Context& context) {
+  const Dimension& x = context.along("x");
+  const Dimension& y = context.along("y");
   const double reach = 10 * (y.high - y.low);
   const std::string atX =
       fmt::format("{} + datum.i * {}", literal(x.low), literal((x.high - x.low) / (points - 1)));
   const std::string nearer = fmt::format("isFinite(datum.y) ? clamp(datum.y, {}, {}) : null",
                                          literal(y.low - reach), literal(y.high + reach));
   return {
-      {"name", guide.id()},
+      {"name", context.inPanel(guide.id())},
       {"transform",
        {{{"type", "sequence"}, {"start", 0}, {"stop", points}, {"as", "i"}},
         {{"type", "formula"}, {"as", "x"}, {"expr", atX}},
         {{"type", "formula"}, {"as", "y"}, {"expr", formula}},
         {{"type", "formula"}, {"as", "y"}, {"expr", nearer}}}},
   };
+}
+
+/// Which of the functions it is; a new one is added.
+std::size_t indexOf(const Node& guide, std::vector<const Node*>& functions) {
+  const auto found = std::ranges::find(functions, &guide);
+  const auto index = static_cast<std::size_t>(found - functions.begin());
+  if (found == functions.end()) functions.push_back(&guide);
+  return index;
 }
 
 } // namespace
@@ -60,8 +65,9 @@ void translateFunction(const Node& guide, Context& context) {
   const auto refuse = [&](std::string_view why) {
     context.notes.add(fmt::format("{} is not drawn: {}", guide.name(), why));
   };
-  if (context.chart.x.categorical || context.chart.y.categorical)
+  if (context.along("x").categorical || context.along("y").categorical)
     return refuse("a function needs continuous scales");
+  if (context.chart.isPolar) return refuse("a function needs scales that are straight");
 
   const std::string_view text = parameter(guide, "y");
   std::string formula;
@@ -71,22 +77,22 @@ void translateFunction(const Node& guide, Context& context) {
     return refuse(fmt::format("its formula \"{}\": {}", shown(text), e.what()));
   }
   const int points = pointCount(guide, context.notes);
-  context.parts.data.push_back(functionData(guide, formula, points, context.chart));
+  context.parts.data.push_back(functionData(guide, formula, points, context));
 
-  Json update{{"x", {{"scale", "x"}, {"field", "x"}}},
-              {"y", {{"scale", "y"}, {"field", "y"}}},
+  const std::size_t index = indexOf(guide, context.parts.functions);
+  Json update{{channelsOf("x", context.chart).start, {{"scale", "x"}, {"field", "x"}}},
+              {channelsOf("y", context.chart).start, {{"scale", "y"}, {"field", "y"}}},
               {"defined", {{"signal", "isValid(datum.y)"}}},
               {"stroke", {{"signal", "ink"}}},
               {"strokeWidth", {{"value", theme::lineWidth}}},
-              {"strokeDash", {{"value", theme::functionDash(context.parts.functions.size())}}}};
+              {"strokeDash", {{"value", theme::functionDash(index)}}}};
   if (!guide.attribute("name").empty())
     update["tooltip"] = {
         {"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}};
   context.parts.marks.push_back({{"type", "line"},
-                                 {"from", {{"data", guide.id()}}},
+                                 {"from", {{"data", context.inPanel(guide.id())}}},
                                  {"clip", true},
                                  {"encode", {{"update", std::move(update)}}}});
-  context.parts.functions.push_back(&guide);
 }
 
 } // namespace render

@@ -4,6 +4,7 @@
 
 #include "text/Show.h"
 #include "text/Wrap.h"
+#include "translate/Encode.h"
 #include "translate/Groups.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
@@ -17,6 +18,7 @@ struct Entry {
   const Variable* group;
   bool points = false;
   bool lines = false;
+  bool bars = false;
   bool hollow = false;
 };
 
@@ -29,11 +31,50 @@ bool asksForGroups(const Node& target, const Node& element) {
   });
 }
 
-void addTarget(const Node& target, std::vector<Entry>& entries, Context& context) {
+std::vector<std::string> titleLines(const std::string& title) {
+  return wrap(
+      title,
+      {.width = theme::legendWidth, .fontSize = theme::labelSize + 1, .lines = 4, .bold = true});
+}
+
+/// A range of colors with the values at its ends.
+void addShadeLegend(const Element& element, const Node& legend, Context& context) {
+  const Variable& shade = *element.shade;
+  color(element, context); // adds the scale
+  const std::string name = scaleName("shade", shade.id);
+  const auto isOfShade = [&](const Json& each) {
+    return each.contains("fill") && each["fill"] == name;
+  };
+  if (std::ranges::any_of(context.parts.legends, isOfShade)) return;
+  const Node* label = legend.child("label");
+  context.parts.legends.push_back(
+      {{"fill", name},
+       {"type", "gradient"},
+       {"title", titleLines(label && !label->text.empty() ? label->text : shade.title)},
+       {"gradientLength", 160},
+       {"encode",
+        {{"labels",
+          {{"update", {{"text", {{"signal", valueText(shade.format, "datum.value")}}}}}}}}}});
+}
+
+void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entries,
+               Context& context) {
   const Node* node = context.chart.folder->document.find(target.attribute("element"));
+  if (node == nullptr) {
+    context.notes.add(fmt::format("{}: the element {} is not in the chart", target.name(),
+                                  shown(target.attribute("element"))));
+    return;
+  }
   // A function line has its entry by its name, an element that is not drawn none.
-  const Element* element = node ? context.chart.find(*node) : nullptr;
-  if (element == nullptr || element->group == nullptr) return;
+  const Element* element = context.chart.find(*node);
+  if (element == nullptr) return;
+  if (element->shade != nullptr) addShadeLegend(*element, legend, context);
+  if (element->group == nullptr) {
+    if (element->shade == nullptr)
+      context.notes.add(
+          fmt::format("{}: {} has no groups for a legend", target.name(), node->name()));
+    return;
+  }
   if (!asksForGroups(target, *node)) {
     context.notes.add(fmt::format("{}: a legend of {} is not drawn yet", target.name(),
                                   shown(target.attribute("aesthetic"))));
@@ -42,8 +83,11 @@ void addTarget(const Node& target, std::vector<Entry>& entries, Context& context
   auto entry = std::ranges::find(entries, element->group, &Entry::group);
   if (entry == entries.end()) entry = entries.insert(entry, {.group = element->group});
   const bool isPoint = node->attribute("type") == "point";
+  const bool isLine = node->attribute("type") == "line" || node->attribute("type") == "path" ||
+                      node->attribute("type") == "edge";
   entry->points = entry->points || isPoint;
-  entry->lines = entry->lines || !isPoint;
+  entry->lines = entry->lines || isLine;
+  entry->bars = entry->bars || (!isPoint && !isLine);
   entry->hollow = entry->hollow || (isPoint && isHollow(*node, context.chart));
 }
 
@@ -75,12 +119,12 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
   const Node* label = legend.child("label");
   const std::string& title = label && !label->text.empty() ? label->text : group.title;
 
-  Json json{{"title", wrap(title, {.width = theme::legendWidth,
-                                   .fontSize = theme::labelSize + 1,
-                                   .lines = 4,
-                                   .bold = true})},
-            {"stroke", scaleName("color", group.id)}};
-  if (entry.points) {
+  Json json{{"title", titleLines(title)}, {"stroke", scaleName("color", group.id)}};
+  if (entry.bars) {
+    json["symbolType"] = theme::barSymbol;
+    json["fill"] = scaleName("color", group.id);
+    json["encode"]["symbols"]["update"]["fillOpacity"] = {{"value", theme::barOpacity}};
+  } else if (entry.points) {
     json["shape"] =
         entry.lines ? addSymbolsOnLines(group, context.parts) : scaleName("symbol", group.id);
     if (entry.hollow)
@@ -103,7 +147,7 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
 void translateLegend(const Node& legend, Context& context) {
   std::vector<Entry> entries;
   for (const Node& child : legend.children)
-    if (child.kind == "legendTarget") addTarget(child, entries, context);
+    if (child.kind == "legendTarget") addTarget(child, legend, entries, context);
   for (const Entry& entry : entries) {
     context.parts.legends.push_back(legendOf(entry, legend, context));
     const std::size_t count = entry.group->categories.size();

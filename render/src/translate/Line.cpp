@@ -3,16 +3,21 @@
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
+#include "translate/Style.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
 namespace render {
 namespace {
 
-Json lineMark(const Element& element, const std::string& data, Context& context) {
-  Json update = positions(element);
-  update["stroke"] = color(element);
+Json lineMark(const Element& element, Context& context) {
+  Json update = positions(element, context);
+  // A curve over bars of the first color has to differ from them.
+  const bool isOverBars = element.method == Method::distribution && element.group == nullptr;
+  update["stroke"] = isOverBars ? Json{{"signal", "ink"}} : color(element, context);
   update["strokeWidth"] = {{"value", theme::lineWidth}};
+  if (const std::string_view steps = interpolationOf(*element.node); steps != "linear")
+    update["interpolate"] = {{"value", steps}};
   if (element.group != nullptr) {
     if (!hasPoints(*element.group, context.chart))
       update["strokeDash"] = {{"scale", scaleName("dash", element.group->id)},
@@ -21,40 +26,32 @@ Json lineMark(const Element& element, const std::string& data, Context& context)
         {"signal", fmt::format("[{}]", tooltipEntry(*element.group, context.parts))}};
   }
   return {{"type", "line"},
-          {"from", {{"data", data}}},
+          {"from", nullptr},
           {"clip", isClipped(context.chart)},
           {"encode", {{"update", std::move(update)}}}};
 }
 
+/// A line goes along its place; a path as its rows do.
+void sort(const Element& element, Json& data) {
+  const bool isPath = element.type() != "line";
+  const Variable* place = element.place();
+  if (isPath || place == nullptr) return;
+  if (!element.isPlain() && place->categorical) return; // in its order already
+  const std::string field = element.isPlain() ? fieldPath(place->id) : "place";
+  data["transform"].push_back({{"type", "collect"}, {"sort", {{"field", field}}}});
+}
+
 } // namespace
 
-/// A line through the rows in the order of x, one for each group.
+/// A line through the rows or items of each group.
 void translateLine(const Node& node, Context& context) {
   const Element* element = context.chart.find(node);
-  if (element == nullptr) return;
-
-  Json data = elementData(*element);
-  data["transform"].push_back(
-      {{"type", "collect"}, {"sort", {{"field", fieldPath(element->x->id)}}}});
+  if (element == nullptr || lookOf(node) == Look::hidden) return;
+  Json data = elementData(*element, context);
+  sort(*element, data);
   context.parts.data.push_back(std::move(data));
-
-  const std::string id(node.id());
-  if (element->group == nullptr) {
-    context.parts.marks.push_back(lineMark(*element, id, context));
-    return;
-  }
-  addGroupScales(*element->group, context.parts);
-  // Vega keeps groups in a plain object: a category must not be named like one
-  // of the properties that every object has.
-  const std::string key = scaleName("facet", element->group->id);
-  context.parts.data.back()["transform"].push_back(
-      {{"type", "formula"}, {"as", key}, {"expr", "\"=\" + " + datum(element->group->id)}});
-  const std::string group = id + "_group";
-  context.parts.marks.push_back(
-      {{"type", "group"},
-       {"from",
-        {{"facet", {{"name", group}, {"data", id}, {"groupby", Json::array({fieldPath(key)})}}}}},
-       {"marks", Json::array({lineMark(*element, group, context)})}});
+  addMark(*element, lineMark(*element, context), true, context);
+  addLabels(*element, context);
 }
 
 } // namespace render

@@ -1,5 +1,8 @@
+#include <cmath>
+
 #include <fmt/format.h>
 
+#include "compute/Hexagons.h"
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
@@ -8,37 +11,101 @@
 #include "translate/Translator.h"
 
 namespace render {
+namespace {
 
-/// A symbol for each row.
+std::string pointTooltip(const Element& element, Context& context) {
+  std::string tooltip;
+  for (const Variable* variable : {element.x, element.y}) {
+    if (!tooltip.empty()) tooltip += ',';
+    tooltip += tooltipEntry(*variable, context.parts);
+  }
+  if (element.group == nullptr) return tooltip;
+  addGroupScales(*element.group, context.parts);
+  return tooltipEntry(*element.group, context.parts) + "," + tooltip;
+}
+
+/// Symbols whose areas go with a variable, or with the counts of cells, from `low`.
+Json sizeScale(const std::string& name, double low, double high, double largest) {
+  return {{"name", name},
+          {"type", "linear"},
+          {"domain", {jsonNumber(low), jsonNumber(high)}},
+          {"range", {theme::smallestSize, largest}}};
+}
+
+Json sizeByVariable(const Element& element, Context& context) {
+  const std::string name = scaleName("size", element.node->id());
+  if (!context.parts.hasScale(name)) {
+    double low = INFINITY;
+    double high = -INFINITY;
+    for (const double value : element.size->numbers) {
+      low = std::fmin(low, value);
+      high = std::fmax(high, value);
+    }
+    context.parts.scales.push_back(sizeScale(name, low, std::fmax(high, low), theme::largestSize));
+  }
+  return {{"scale", name}, {"field", fieldPath(element.size->id)}};
+}
+
+/// The fullest cell is as large as its hexagon is wide.
+Json sizeByCount(const Element& element, Context& context) {
+  const std::string name = scaleName("size", element.node->id());
+  if (!context.parts.hasScale(name)) {
+    double most = 1;
+    for (const Panel& panel : context.chart.panels)
+      for (const Item& item : panel.items[element.index])
+        most = std::max(most, item.value);
+    const double across = std::min(context.layout.panelWidth, context.layout.panelHeight);
+    context.parts.scales.push_back(
+        sizeScale(name, 0, most, std::round(std::pow(across / hexagonsAcross, 2))));
+  }
+  return {{"scale", name}, {"field", "value"}};
+}
+
+Json sizeOf(const Element& element, Context& context) {
+  if (element.method == Method::hexagons) return sizeByCount(element, context);
+  if (element.size != nullptr && element.method == Method::none)
+    return sizeByVariable(element, context);
+  return {{"value", theme::pointSize}};
+}
+
+Json shapeOf(const Element& element) {
+  if (element.group == nullptr) return {{"value", theme::symbols.front().path}};
+  return {{"scale", scaleName("symbol", element.group->id)},
+          {"field", fieldPath(element.group->id)}};
+}
+
+} // namespace
+
+/// A symbol for each row or item.
 void translatePoint(const Node& node, Context& context) {
   const Element* element = context.chart.find(node);
-  if (element == nullptr) return;
+  if (element == nullptr || lookOf(node) == Look::hidden) return;
 
-  std::string tooltip =
-      tooltipEntry(*element->x, context.parts) + "," + tooltipEntry(*element->y, context.parts);
-  if (element->group != nullptr) {
-    addGroupScales(*element->group, context.parts);
-    tooltip = tooltipEntry(*element->group, context.parts) + "," + tooltip;
-  }
-  Json update = positions(*element);
-  update["size"] = {{"value", theme::pointSize}};
-  if (element->group == nullptr)
-    update["shape"] = {{"value", theme::symbols.front().path}};
-  else
-    update["shape"] = {{"scale", scaleName("symbol", element->group->id)},
-                       {"field", fieldPath(element->group->id)}};
-  update["stroke"] = color(*element);
-  update["strokeWidth"] = {{"value", 1.5}};
+  const std::string tooltip = element->isPlain() ? pointTooltip(*element, context) : "";
+  Json update = positions(*element, context);
+  if (element->modifier == Modifier::dodge)
+    addSlotOffset(update[channelsOf(placeRole(*element), context.chart).start], *element,
+                  theme::barBand, context);
+  update["size"] = sizeOf(*element, context);
+  if (element->group != nullptr) addGroupScales(*element->group, context.parts);
+  update["shape"] = shapeOf(*element);
+  update["stroke"] = color(*element, context);
+  update["strokeWidth"] = {{"value", theme::thinWidth}};
   // A transparent filling, unlike none, still takes the pointer.
-  update["fill"] = isHollow(node, context.chart) ? Json{{"value", "transparent"}} : color(*element);
+  update["fill"] =
+      isHollow(node, context.chart) ? Json{{"value", "transparent"}} : color(*element, context);
   update["fillOpacity"] = {{"value", theme::fillOpacity}};
-  update["tooltip"] = {{"signal", fmt::format("[{}]", tooltip)}};
+  update["tooltip"] = tooltip.empty() ? itemTooltip(*element, context)
+                                      : Json{{"signal", fmt::format("[{}]", tooltip)}};
 
-  context.parts.data.push_back(elementData(*element));
-  context.parts.marks.push_back({{"type", "symbol"},
-                                 {"from", {{"data", node.id()}}},
-                                 {"clip", isClipped(context.chart)},
-                                 {"encode", {{"update", std::move(update)}}}});
+  context.parts.data.push_back(elementData(*element, context));
+  addMark(*element,
+          {{"type", "symbol"},
+           {"from", nullptr},
+           {"clip", isClipped(context.chart)},
+           {"encode", {{"update", std::move(update)}}}},
+          false, context);
+  addLabels(*element, context);
 }
 
 } // namespace render

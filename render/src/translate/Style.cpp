@@ -9,6 +9,42 @@
 #include "translate/Translator.h"
 
 namespace render {
+namespace {
+
+/// What a word in the id of an element says of it; the first that is found counts.
+template <typename Value> struct Word {
+  std::string_view word;
+  Value value;
+};
+
+constexpr Word<Look> looks[] = {
+    {"hidden", Look::hidden},
+    {"errorbar", Look::capped},
+    {"differenceline", Look::thin},
+    {"dropdownline", Look::thin},
+};
+
+constexpr Word<std::string_view> interpolations[] = {
+    {"center_step", "step"},
+    {"Center_Step", "step"},
+    {"centerstep", "step"},
+    {"survival_line", "step-after"},
+};
+
+template <typename Value, std::size_t count>
+Value valueOf(const Node& element, const Word<Value> (&words)[count], Value otherwise) {
+  for (const auto& [word, value] : words)
+    if (element.id().find(word) != std::string_view::npos) return value;
+  return otherwise;
+}
+
+} // namespace
+
+Look lookOf(const Node& element) { return valueOf(element, looks, Look::usual); }
+
+std::string_view interpolationOf(const Node& element) {
+  return valueOf(element, interpolations, std::string_view("linear"));
+}
 
 void forEachProperty(std::string_view value,
                      const std::function<void(std::string_view, std::string_view)>& take) {

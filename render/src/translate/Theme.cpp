@@ -79,7 +79,7 @@ Json legends(const std::string& font) {
           {"labelFontSize", labelSize},
           {"labelLimit", 0},
           {"labelOffset", 12},
-          {"offset", 24},
+          {"offset", legendOffset},
           {"padding", 0},
           {"rowPadding", 7},
           {"symbolLimit", legendEntries},
@@ -133,6 +133,8 @@ Json signals() {
           {{"name", "faint"}, {"update", "dark ? '#34373b' : '#e4e4e4'"}},
           {{"name", "palette"}, {"update", palette}}};
 }
+
+std::string font(const Manifest& manifest) { return fontOf(manifest.language); }
 
 Json config(const Manifest& manifest) {
   const std::string font = fontOf(manifest.language);

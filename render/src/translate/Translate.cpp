@@ -1,10 +1,13 @@
 #include "translate/Translator.h"
 
 #include <algorithm>
+#include <array>
 
 #include <fmt/format.h>
 
 #include "text/Show.h"
+#include "translate/FacetLabels.h"
+#include "translate/PositionScale.h"
 #include "translate/Rules.h"
 
 namespace render {
@@ -22,6 +25,38 @@ std::string described(const Node& node) {
   return type.empty() ? node.kind : fmt::format("{} of type {}", node.kind, shown(type));
 }
 
+/// Whether each panel has its own of a part of the plot.
+bool isOfPanel(const Node& node) {
+  static constexpr std::array<std::string_view, 4> kinds{"dimension", "guide", "elementGroup",
+                                                         "element"};
+  return std::ranges::find(kinds, node.kind) != kinds.end();
+}
+
+void walk(const Node& node, const Node& parent, Context& context);
+
+/// The panels one after the other, each as a group of its own with its scales.
+void walkPanels(const Node& plot, Context& context) {
+  Json panels = Json::array();
+  for (std::size_t i = 0; i < context.chart.panels.size(); ++i) {
+    context.panelIndex = i;
+    context.parts.axes = Json::array();
+    context.parts.marks = Json::array();
+    for (const Node& child : plot.children)
+      if (isOfPanel(child)) walk(child, plot, context);
+    panels.push_back(panelGroup(context));
+  }
+  context.parts.axes = Json::array();
+  context.parts.marks = std::move(panels);
+  addFacetLabels(context);
+}
+
+void walkChildren(const Node& node, Context& context) {
+  const bool isSplit = &node == context.chart.plot && context.chart.facets.isSplit();
+  for (const Node& child : node.children)
+    if (!isSplit || !isOfPanel(child)) walk(child, node, context);
+  if (isSplit) walkPanels(node, context);
+}
+
 void walk(const Node& node, const Node& parent, Context& context) {
   if (std::ranges::find(context.chart.leftOut, &node) != context.chart.leftOut.end()) return;
   const Rule* rule = findRule(node, parent);
@@ -31,8 +66,7 @@ void walk(const Node& node, const Node& parent, Context& context) {
   }
   noteUnknownAttributes(node, *rule, context.notes);
   if (rule->translate != nullptr) rule->translate(node, context);
-  for (const Node& child : node.children)
-    walk(child, node, context);
+  walkChildren(node, context);
 }
 
 } // namespace
@@ -41,10 +75,16 @@ bool Parts::hasScale(std::string_view name) const {
   return std::ranges::any_of(scales, [name](const Json& scale) { return scale["name"] == name; });
 }
 
-Parts translate(const Chart& chart, Notes& notes) {
-  Context context{.chart = chart, .notes = notes, .parts = {}};
-  for (const Node& child : chart.folder->document.graph().children)
-    walk(child, chart.folder->document.graph(), context);
+std::string Context::inPanel(std::string_view name) const {
+  if (!chart.facets.isSplit()) return std::string(name);
+  return fmt::format("{}_{}", name, panelIndex + 1);
+}
+
+Parts translate(const Chart& chart, const Layout& layout, Notes& notes) {
+  Context context{.chart = chart, .layout = layout, .notes = notes, .parts = {}};
+  for (const std::string_view role : {"x", "y"})
+    context.parts.positionScales.push_back(positionScale(role, context));
+  walkChildren(chart.folder->document.graph(), context);
   return std::move(context.parts);
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "resolve/Chart.h"
 #include "text/Json.h"
+#include "translate/Layout.h"
 
 namespace render {
 
@@ -15,6 +17,7 @@ struct Parts {
   std::vector<std::string> footnotes;
 
   Json data = Json::array();
+  Json positionScales = Json::array(); ///< of the plot; panels have their own
   Json scales = Json::array();
   Json axes = Json::array();
   Json legends = Json::array();
@@ -28,23 +31,37 @@ struct Parts {
 /// What a translator works with.
 struct Context {
   const Chart& chart;
+  const Layout& layout;
   Notes& notes;
   Parts parts;
+  std::size_t panelIndex = 0; ///< of the panel that is drawn
+
+  const Panel& panel() const { return chart.panels[panelIndex]; }
+  const Dimension& along(std::string_view role) const { return panel().along(role); }
+  /// A name of what each panel has: with the panel's number, where there are several.
+  std::string inPanel(std::string_view name) const;
 };
 
 using Translator = void (*)(const Node& node, Context& context);
 
 // One translator a kind of node, each in a file of its own.
+void translateArea(const Node& node, Context& context);
+void translateBoxPlot(const Node& node, Context& context);
 void translateDimension(const Node& node, Context& context);
 void translateFunction(const Node& guide, Context& context);
+void translateInterval(const Node& node, Context& context);
 void translateLegend(const Node& legend, Context& context);
 void translateLine(const Node& node, Context& context);
 void translatePoint(const Node& node, Context& context);
+void translatePolygon(const Node& node, Context& context);
+void translateReferenceLine(const Node& guide, Context& context);
 void translateStyle(const Node& style, Context& context);
 void translateText(const Node& label, Context& context);
+void translateTile(const Node& node, Context& context);
 
-/// Walks the document in its order and calls each node's translator. A node or an
-/// attribute that no rule knows is noted, and nothing below such a node is drawn.
-Parts translate(const Chart& chart, Notes& notes);
+/// Walks the document in its order and calls each node's translator, below the plot once
+/// for each panel. A node or an attribute that no rule knows is noted, and nothing below
+/// such a node is drawn.
+Parts translate(const Chart& chart, const Layout& layout, Notes& notes);
 
 } // namespace render

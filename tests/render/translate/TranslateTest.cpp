@@ -218,18 +218,19 @@ TEST_F(TranslateTest, TextsGoWhereTheirIdsSay) {
 TEST_F(TranslateTest, WhatIsNotDrawnIsNoted) {
   const std::string unknown =
       std::string(point) +
-      R"xml(<dimension role="z"/><dimension role="x"><scale method="log"/><axis><majorTicks delta="5"/>
-      </axis></dimension><element type="interval"/><element type="point" id="e"><x variable="v1"/>
+      R"xml(<dimension role="z"/><dimension role="x"><scale method="logit"/><axis><majorTicks stagger="true"/>
+      </axis></dimension><element type="contour"/><element type="point" id="e"><x variable="v1"/>
       </element><guide id="g" type="function"><parameter name="y" value="sin(x)"/></guide>
       <wonder color="&#10;red"><inner/></wonder>)xml";
-  EXPECT_EQ(notes(unknown, R"(<style id="s" value="fill:red;fill-pattern:0"/>
+  EXPECT_EQ(
+      notes(unknown, R"(<style id="s" value="fill:red;fill-pattern:0"/>
                               <frame id="more"><element type="point"/></frame>)"),
-            json({"more is not drawn yet: a chart shows one plot",
-                  "e is not drawn: it has no y variable with data", missingRow,
-                  "dimension: role=\"z\" is not drawn yet", "scale in dimension is not drawn yet",
-                  "majorTicks: delta=\"5\" is not drawn yet",
-                  "element of type interval in data is not drawn yet", refusedFormula,
-                  "wonder in data is not drawn yet", "s: fill:red is not drawn yet"}));
+      json({"more is not drawn yet: a chart shows one plot",
+            "e is not drawn: it has no y variable with data", "the scale logit is not drawn yet",
+            missingRow, "dimension: role=\"z\" is not drawn yet",
+            "majorTicks: stagger=\"true\" is not drawn yet",
+            "element of type contour in data is not drawn yet", refusedFormula,
+            "wonder in data is not drawn yet", "s: fill:red is not drawn yet"}));
 }
 
 TEST_F(TranslateTest, ValuesThatCannotBeDrawnAreCounted) {

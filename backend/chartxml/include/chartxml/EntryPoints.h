@@ -93,7 +93,8 @@ CHARTXML_API int64_t cx_createchartdescription_(const int64_t* chart, const int6
 CHARTXML_API int64_t cx_setsplitcomposite_(const int64_t* chart, const void* splitCells,
                                            const int64_t* ignored1);
 
-/** Completes the chart, sends it and forgets it; it is gone also when sending failed. Returns 0. */
+/** Completes the chart, sends it and forgets it; it is gone also when sending failed. While
+ *  bootstrapping, nothing is sent and the result is -1. Returns 0. */
 CHARTXML_API int64_t cx_endchart_(const int64_t* chart);
 
 /** Discards a chart without sending it; a bad chart handle is ignored silently. Returns 0 in
@@ -413,8 +414,8 @@ CHARTXML_API int64_t cx_addframewithlabel_(const int64_t* chart, const int64_t* 
 CHARTXML_API int64_t cx_addsplitheaderex_(const int64_t* chart, const int64_t* parent,
                                           const void* splitCells, const int64_t* ignored1);
 
-/** Gives a frame its facet labeling, at most one. Returns the frame's facet labeling, new or
- *  known. Reports a node that is no frame. */
+/** Gives a frame its facet labeling, at most one; one anywhere below the frame counts. Returns
+ *  the frame's facet labeling, new or known. Reports a node that is no frame. */
 CHARTXML_API int64_t cx_addfacetlabeling_(const int64_t* chart, const int64_t* frame);
 
 /** Adds the labels of one facet level. Returns the new facet label. Reports a node that is no
@@ -749,7 +750,8 @@ CHARTXML_API int64_t cx_addstatisticsort_(const int64_t* chart, const int64_t* s
 CHARTXML_API int64_t cx_addaxis_(const int64_t* chart, const int64_t* parent, const int64_t* suffix,
                                  const int64_t* opposite);
 
-/** Adds the labelled ticks to an axis. Returns the new ticks. */
+/** Adds the labelled ticks to an axis. Returns the new ticks. Reports that a style is taken,
+ *  beside other ticks of the axis. */
 CHARTXML_API int64_t cx_addmajorticks_(const int64_t* chart, const int64_t* parent,
                                        const int64_t* position, const int64_t* gridLines,
                                        const int64_t* length, const int64_t* labelAngle,

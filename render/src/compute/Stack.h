@@ -1,0 +1,15 @@
+#pragma once
+
+#include <vector>
+
+#include "resolve/Element.h"
+
+namespace render {
+
+/// Puts what stands at one place on top of each other, in the order of the groups: what
+/// goes up on what goes up, what goes down under what goes down. Where an area has no
+/// value of a group that others have, it gets one: nothing, or what lies between its
+/// neighbours when the element's modifier interpolates.
+void stack(const Element& element, std::vector<Item>& items);
+
+} // namespace render

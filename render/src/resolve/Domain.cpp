@@ -1,0 +1,133 @@
+#include "resolve/Domain.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <string>
+
+#include <fmt/format.h>
+
+#include "text/Show.h"
+
+namespace render {
+namespace {
+
+/// Domains may refer to each other in a circle.
+constexpr int deepestReference = 10;
+
+/// The end of an interval; a text that is no number leaves it to the data.
+void widen(std::optional<double>& end, std::string_view text, bool isLower) {
+  const double value = numberOf(text);
+  if (std::isnan(value)) return;
+  if (!end)
+    end = value;
+  else
+    end = isLower ? std::min(*end, value) : std::max(*end, value);
+}
+
+void collect(const Node& node, Domain& domain, const Chart& chart, int depth) {
+  if (depth > deepestReference) return;
+  for (const Node& child : node.children) {
+    if (child.kind == "interval") {
+      widen(domain.min, child.attribute("min"), true);
+      widen(domain.max, child.attribute("max"), false);
+    } else if (child.kind == "sort" && depth == 0) {
+      domain.sort = &child;
+    } else if (child.kind == "domainReference") {
+      const std::string_view id = child.attribute("domain");
+      const auto variable = chart.variableOfId.find(id);
+      const Node* referred = chart.folder->document.find(id);
+      if (variable != chart.variableOfId.end())
+        domain.references.push_back(variable->second);
+      else if (referred != nullptr)
+        collect(*referred, domain, chart, depth + 1);
+    }
+  }
+}
+
+std::string_view domainId(const Dimension& dimension, const Chart& chart) {
+  const Node* node = chart.dimensionNode(dimension.role);
+  if (node != nullptr && !node->attribute("domain").empty()) return node->attribute("domain");
+  for (const Variable* variable : dimension.variables)
+    if (!variable->domain.empty()) return variable->domain;
+  return {};
+}
+
+using Ranks = std::map<std::string_view, double>;
+
+/// The row in which each category comes first.
+Ranks firstRows(const Dimension& dimension) {
+  Ranks ranks;
+  for (const Variable* variable : dimension.variables)
+    for (std::size_t row = 0; row < variable->texts->size(); ++row)
+      ranks.try_emplace((*variable->texts)[row], static_cast<double>(ranks.size()));
+  return ranks;
+}
+
+/// The sum of `statistic` over the rows of each category.
+Ranks sums(const Variable& source, const Variable& statistic) {
+  Ranks ranks;
+  for (std::size_t row = 0; row < source.texts->size(); ++row) {
+    const double value = statistic.numbers[row];
+    if (!std::isnan(value)) ranks[(*source.texts)[row]] += value;
+  }
+  return ranks;
+}
+
+void sortByRank(std::vector<Category>& categories, const Ranks& ranks) {
+  const auto rank = [&](const Category& category) {
+    const auto found = ranks.find(category.key);
+    return found == ranks.end() ? std::numeric_limits<double>::infinity() : found->second;
+  };
+  std::ranges::stable_sort(categories, {}, rank);
+}
+
+void sortByStatistic(std::vector<Category>& categories, const Node& node, const Chart& chart,
+                     Notes& notes) {
+  const auto variable = [&](std::string_view name) -> const Variable* {
+    const auto found = chart.variableOfId.find(node.attribute(name));
+    return found == chart.variableOfId.end() ? nullptr : found->second;
+  };
+  const Variable* source = variable("sourceVariable");
+  const Variable* statistic = variable("statVariable");
+  const bool isUsable = source != nullptr && source->texts != nullptr && statistic != nullptr &&
+                        !statistic->numbers.empty() && source->source == statistic->source;
+  if (isUsable) return sortByRank(categories, sums(*source, *statistic));
+  notes.add(fmt::format("{} by {} is not drawn: it has no values", node.name(),
+                        node.attribute("statVariable")));
+}
+
+} // namespace
+
+Domain domainOf(const Dimension& dimension, const Chart& chart, Notes& notes) {
+  Domain domain;
+  const std::string_view id = domainId(dimension, chart);
+  if (id.empty()) return domain;
+  const Node* node = chart.folder->document.find(id);
+  if (node == nullptr || node->kind != "domain") {
+    notes.add(fmt::format("the domain {} of {} is not in the chart", shown(id), dimension.role));
+    return domain;
+  }
+  collect(*node, domain, chart, 0);
+  if (domain.hasRange()) return domain;
+  notes.add(fmt::format("{} is not drawn: it ends before it begins", node->name()));
+  domain.min = domain.max = std::nullopt;
+  return domain;
+}
+
+void sortCategories(std::vector<Category>& categories, const Node& sort, const Dimension& dimension,
+                    const Chart& chart, Notes& notes) {
+  for (const Node& node : sort.children) {
+    if (node.kind == "statisticSort") sortByStatistic(categories, node, chart, notes);
+    if (node.kind != "simpleSort") continue;
+    const std::string_view method = node.attribute("method");
+    if (method == "data")
+      sortByRank(categories, firstRows(dimension));
+    else if (method != "natural" && !method.empty())
+      notes.add(fmt::format("{}: the order {} is not drawn yet", node.name(), shown(method)));
+  }
+  if (sort.attribute("descending") == "true") std::ranges::reverse(categories);
+}
+
+} // namespace render

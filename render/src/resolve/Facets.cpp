@@ -1,0 +1,133 @@
+#include "resolve/Facets.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+
+#include <fmt/format.h>
+
+#include "resolve/Chart.h"
+
+namespace render {
+namespace {
+
+constexpr std::size_t mostPanels = 20; ///< in a row or column
+constexpr std::size_t mostCells = 100; ///< that are tried: products grow fast
+
+/// The columns and rows that a node of the facets makes; empty for a direction that it
+/// does not split.
+struct Split {
+  std::vector<FacetCell> columns{};
+  std::vector<FacetCell> rows{};
+};
+
+bool occurs(const FacetCell& cell) {
+  const std::size_t rows = cell.front().variable->codes.size();
+  for (std::size_t row = 0; row < rows; ++row)
+    if (holds(cell, cell.front().variable->source, row)) return true;
+  return false;
+}
+
+/// Every cell of the one with every cell of the other, the first one outside.
+std::vector<FacetCell> product(const std::vector<FacetCell>& outer,
+                               const std::vector<FacetCell>& inner, bool onlyWhatOccurs) {
+  if (outer.empty()) return inner;
+  if (inner.empty()) return outer;
+  std::vector<FacetCell> cells;
+  for (const FacetCell& first : outer)
+    for (const FacetCell& second : inner) {
+      if (cells.size() == mostCells) return cells;
+      FacetCell cell = first;
+      cell.insert(cell.end(), second.begin(), second.end());
+      if (!onlyWhatOccurs || occurs(cell)) cells.push_back(std::move(cell));
+    }
+  return cells;
+}
+
+class Reader {
+public:
+  Reader(const Chart& chart, Notes& notes) : chart_(chart), notes_(notes) {}
+
+  /// A combinator, or the facets as a whole, which cross what they hold.
+  Split combined(const Node& node) const {
+    Split all;
+    for (const Node& child : node.children) {
+      const Split split = splitOf(child);
+      if (node.kind == "blend") {
+        all.columns.insert(all.columns.end(), split.columns.begin(), split.columns.end());
+        all.rows.insert(all.rows.end(), split.rows.begin(), split.rows.end());
+        continue;
+      }
+      const bool isNest = node.kind == "nest";
+      all.columns = product(all.columns, split.columns, isNest);
+      all.rows = product(all.rows, split.rows, isNest);
+    }
+    return all;
+  }
+
+private:
+  Split splitOf(const Node& node) const {
+    if (node.kind == "facetVariable") return ofVariable(node);
+    static constexpr std::array<std::string_view, 3> combinators{"nest", "cross", "blend"};
+    if (std::ranges::find(combinators, node.kind) == combinators.end()) return {};
+    return combined(node);
+  }
+
+  Split ofVariable(const Node& node) const {
+    const Variable* variable = chart_.variableOf(node);
+    const bool isUsable =
+        variable != nullptr && variable->texts != nullptr && variable->categorical;
+    if (!isUsable) {
+      notes_.add(fmt::format("{} by {} is not drawn: it has no categories", node.name(),
+                             node.attribute("variable")));
+      return {};
+    }
+    std::vector<FacetCell> cells;
+    for (std::size_t i = 0; i < std::min(mostCells, variable->categories.size()); ++i)
+      cells.push_back({{.node = &node, .variable = variable, .category = i}});
+    if (node.attribute("role") == "x") return {.columns = std::move(cells)};
+    if (node.attribute("role") == "y") return {.rows = std::move(cells)};
+    return {}; // noted with its role
+  }
+
+  const Chart& chart_;
+  Notes& notes_;
+};
+
+void limit(std::vector<FacetCell>& cells, std::string_view what, Notes& notes) {
+  if (cells.size() <= mostPanels) return;
+  notes.add(
+      fmt::format("the first {} of {} {} of panels are drawn", mostPanels, cells.size(), what));
+  cells.resize(mostPanels);
+}
+
+} // namespace
+
+Facets readFacets(const Chart& chart, Notes& notes) {
+  const Reader reader(chart, notes);
+  Split split;
+  bool isTable = false;
+  for (const Node& node : chart.plot->children) {
+    if (node.kind != "tableFacet" && node.kind != "coordinateFacet") continue;
+    const Split more = reader.combined(node);
+    split.columns = product(split.columns, more.columns, false);
+    split.rows = product(split.rows, more.rows, false);
+    isTable = isTable || node.kind == "tableFacet";
+  }
+  limit(split.columns, "columns", notes);
+  limit(split.rows, "rows", notes);
+  Facets facets;
+  if (!split.columns.empty()) facets.columns = std::move(split.columns);
+  if (!split.rows.empty()) facets.rows = std::move(split.rows);
+  facets.areAlongAxis = !isTable && !facets.areUnlabelled();
+  return facets;
+}
+
+bool holds(const FacetCell& cell, std::string_view source, std::size_t row) {
+  return std::ranges::all_of(cell, [=](const FacetValue& value) {
+    return value.variable->source != source ||
+           value.variable->codes[row] == static_cast<double>(value.category);
+  });
+}
+
+} // namespace render

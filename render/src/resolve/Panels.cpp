@@ -1,0 +1,90 @@
+#include "resolve/Panels.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "compute/Bins.h"
+#include "compute/Items.h"
+
+namespace render {
+namespace {
+
+std::string_view sourceOf(const Element& element) {
+  return (element.x != nullptr ? element.x : element.y)->source;
+}
+
+Rows rowsOf(const Element& element, const Panel& panel, const Chart& chart) {
+  const std::string_view source = sourceOf(element);
+  const std::size_t count = chart.folder->tables.find(source)->second.rowCount;
+  Rows rows;
+  for (std::size_t row = 0; row < count; ++row)
+    if (holds(chart.facets.columns[panel.column], source, row) &&
+        holds(chart.facets.rows[panel.row], source, row))
+      rows.push_back(row);
+  return rows;
+}
+
+bool sharesBins(const Element& element) {
+  return element.statistic == nullptr ||
+         parameter(*element.statistic, "facetsShareSpecification") != "false";
+}
+
+/// The bins of a histogram's rows; nothing without rows.
+std::optional<Bins> binsOf(const Element& element, const Rows& rows, Notes& notes) {
+  std::vector<Sample::Value> places;
+  for (const std::size_t row : rows)
+    if (element.draws(row))
+      places.push_back(
+          {.value = element.place()->numbers[row], .weight = element.weightOf(row), .row = row});
+  if (places.empty()) return std::nullopt;
+  return Bins::of(*element.statistic, Sample(std::move(places)), notes);
+}
+
+/// The histogram whose bins an element uses: itself, or the one that a normal curve of
+/// the same variable lies over.
+const Element* histogramOf(const Element& element, const Chart& chart) {
+  if (element.method == Method::histogram) return &element;
+  if (element.method != Method::distribution) return nullptr;
+  const auto found = std::ranges::find_if(chart.elements, [&](const Element& other) {
+    return other.method == Method::histogram && other.place() == element.place();
+  });
+  return found == chart.elements.end() ? nullptr : &*found;
+}
+
+/// The bins of an element in each panel, in their order; nothing where it has none.
+std::vector<std::optional<Bins>> binsOfPanels(const Element& element, const Chart& chart,
+                                              Notes& notes) {
+  std::vector<std::optional<Bins>> bins(chart.panels.size());
+  const Element* histogram = histogramOf(element, chart);
+  if (histogram == nullptr) return bins;
+  Rows all;
+  for (std::size_t i = 0; i < chart.panels.size(); ++i) {
+    const Rows rows = rowsOf(*histogram, chart.panels[i], chart);
+    if (sharesBins(*histogram))
+      all.insert(all.end(), rows.begin(), rows.end());
+    else
+      bins[i] = binsOf(*histogram, rows, notes);
+  }
+  if (sharesBins(*histogram)) bins.assign(bins.size(), binsOf(*histogram, all, notes));
+  return bins;
+}
+
+} // namespace
+
+void makePanels(Chart& chart, Notes& notes) {
+  chart.panels.clear();
+  for (std::size_t row = 0; row < chart.facets.rows.size(); ++row)
+    for (std::size_t column = 0; column < chart.facets.columns.size(); ++column)
+      chart.panels.push_back({.column = column, .row = row});
+  for (const Element& element : chart.elements) {
+    const std::vector<std::optional<Bins>> bins = binsOfPanels(element, chart, notes);
+    for (std::size_t i = 0; i < chart.panels.size(); ++i) {
+      Panel& panel = chart.panels[i];
+      const bool lacksBins = element.method == Method::histogram && !bins[i];
+      const Rows rows = lacksBins ? Rows() : rowsOf(element, panel, chart);
+      panel.items.push_back(itemsOf(element, rows, bins[i] ? &*bins[i] : nullptr));
+    }
+  }
+}
+
+} // namespace render

@@ -1,0 +1,257 @@
+#include "resolve/ReadElements.h"
+
+#include <algorithm>
+#include <array>
+
+#include <fmt/format.h>
+
+#include "compute/Bins.h"
+#include "compute/Sample.h"
+#include "text/Show.h"
+
+namespace render {
+namespace {
+
+struct Type {
+  std::string_view name;
+  bool hasBase = false;
+  bool needsMeasure = true; ///< categories on both scales have none
+};
+
+constexpr Type types[] = {
+    {"point", false, false},   {"line"},   {"path", false, false}, {"edge", false, false},
+    {"polygon", false, false}, {"schema"}, {"interval", true},     {"area", true},
+    {"tile", false, false},
+};
+
+const Type* typeOf(const Node& element) {
+  const auto* const found = std::ranges::find(types, element.attribute("type"), &Type::name);
+  return found == std::end(types) ? nullptr : found;
+}
+
+bool hasData(const Variable* variable) {
+  return variable != nullptr && (variable->texts != nullptr || !variable->members.empty());
+}
+
+/// The node of a position role, which stands in the element or its position.
+const Node* roleNode(const Node& element, std::string_view role) {
+  const Node* position = element.child("position");
+  const Node* node = position ? position->child(role) : nullptr;
+  return node != nullptr ? node : element.child(role);
+}
+
+const Node* statisticOf(const Node& element) {
+  const Node* position = element.child("position");
+  const Node* statistic = position ? position->child("statistic") : nullptr;
+  return statistic != nullptr ? statistic : element.child("statistic");
+}
+
+class Reader {
+public:
+  Reader(const Node& node, Chart& chart, Notes& notes)
+      : node_(node), chart_(chart), notes_(notes) {}
+
+  void read() {
+    Element element{.node = &node_};
+    const Type& type = *typeOf(node_);
+    element.x = position("x", "theta");
+    element.y = position("y", "r");
+    element.isSlice = roleNode(node_, "theta") != nullptr;
+    element.hasBase = type.hasBase;
+    readMethod(element);
+    readModifier(element);
+    // A pie measures the angle of what stands nowhere.
+    if (element.isSlice) std::swap(element.x, element.y);
+    element.measuresX = !element.isSlice && measuresAlongX(element);
+    if (const std::string_view why = lack(element, type); !why.empty()) return refuse(why);
+
+    readAesthetics(element);
+    std::vector<const Variable*> variables{element.y, element.group, element.shade, element.size,
+                                           element.labels};
+    variables.insert(variables.end(), element.splits.begin(), element.splits.end());
+    for (const Variable* variable : variables)
+      if (variable != nullptr && variable->source != sourceOf(element))
+        return refuse("its variables are of different data sources");
+    if (element.method != Method::none) element.weight = weightOf(sourceOf(element));
+    const bool standsAtNumber = element.place() != nullptr && !element.place()->categorical;
+    if (element.modifier == Modifier::dodge && standsAtNumber) {
+      notes_.add(fmt::format("{}: marks at numbers are not put side by side", node_.name()));
+      element.modifier = Modifier::none;
+    }
+    element.index = chart_.elements.size();
+    chart_.elements.push_back(std::move(element));
+  }
+
+private:
+  void refuse(std::string_view why) {
+    notes_.add(fmt::format("{} is not drawn: {}", node_.name(), why));
+  }
+
+  const Variable* position(std::string_view role, std::string_view polarRole) const {
+    const Node* node = roleNode(node_, role);
+    if (node == nullptr) node = roleNode(node_, polarRole);
+    return node != nullptr ? chart_.variableOf(*node) : nullptr;
+  }
+
+  static std::string_view sourceOf(const Element& element) {
+    return (element.x != nullptr ? element.x : element.y)->source;
+  }
+
+  const Variable* weightOf(std::string_view source) const {
+    const auto found = std::ranges::find_if(chart_.variables, [=](const Variable& variable) {
+      return variable.isWeight && variable.source == source && !variable.numbers.empty();
+    });
+    return found == chart_.variables.end() ? nullptr : &*found;
+  }
+
+  void readMethod(Element& element) {
+    element.statistic = statisticOf(node_);
+    if (node_.attribute("type") == "schema") {
+      element.method = Method::summary;
+      element.summary = &boxPlot();
+    }
+    if (element.statistic == nullptr) return;
+    const std::string_view name = element.statistic->attribute("method");
+    const std::string_view grid = parameter(*element.statistic, "grid");
+    if (name == "histogram" || (name == "bin" && grid.empty())) {
+      element.method = Method::histogram;
+    } else if (name == "bin") {
+      element.method = Method::hexagons;
+    } else if (name == "percent") {
+      element.method = Method::share;
+    } else if (isNormalCurve(name)) {
+      element.method = Method::distribution;
+    } else if (const Summary* summary = findSummary(name)) {
+      element.method = Method::summary;
+      element.summary = summary;
+    } else {
+      notes_.add(fmt::format("{}: the statistic {} is not drawn yet", node_.name(), shown(name)));
+    }
+  }
+
+  bool isNormalCurve(std::string_view name) const {
+    if (name == "normal") return true;
+    const std::string_view type = parameter(*statisticOf(node_), "type");
+    return name == "distribution" && (type.empty() || type == "normal");
+  }
+
+  void readModifier(Element& element) {
+    static constexpr std::pair<std::string_view, Modifier> modifiers[] = {
+        {"stack", Modifier::stack},
+        {"stackinterpolating", Modifier::stackInterpolating},
+        {"dodge", Modifier::dodge}};
+    const std::string_view name = node_.attribute("positionModifier");
+    const auto* const found =
+        std::ranges::find(modifiers, name, &std::pair<std::string_view, Modifier>::first);
+    if (found != std::end(modifiers)) element.modifier = found->second;
+  }
+
+  /// Along y, unless y has the categories and x the numbers.
+  static bool measuresAlongX(const Element& element) {
+    const bool yIsPlace = element.y != nullptr && element.y->categorical;
+    if (element.x == nullptr) return yIsPlace || element.method == Method::histogram;
+    const bool hasOnlyValues = element.y == nullptr && element.method == Method::summary &&
+                               element.summary->needsMeasure && !element.x->categorical;
+    if (hasOnlyValues) return true;
+    return yIsPlace && !element.x->categorical;
+  }
+
+  /// What keeps an element from being drawn, or nothing.
+  static std::string_view lack(const Element& element, const Type& type) {
+    const bool countsRows = element.method == Method::histogram ||
+                            element.method == Method::distribution ||
+                            element.method == Method::share ||
+                            (element.method == Method::summary && !element.summary->needsMeasure);
+    const Variable* place = element.place();
+    const Variable* measure = element.measure();
+    if (element.isSlice && !hasData(measure)) return "it has no theta variable with data";
+    const bool mayLackPlace = element.isSlice || element.method == Method::summary;
+    const bool mayLackMeasure = countsRows;
+    const auto lacks = [](const Variable* variable, bool may) {
+      return variable == nullptr ? !may : !hasData(variable);
+    };
+    const std::string_view noX = "it has no x variable with data";
+    const std::string_view noY = "it has no y variable with data";
+    if (lacks(place, mayLackPlace)) return element.measuresX ? noY : noX;
+    if (lacks(measure, mayLackMeasure)) return element.measuresX ? noX : noY;
+    if (place == nullptr && measure == nullptr) return "it has no variable";
+    if (place && measure && place->source != measure->source)
+      return "its variables are of different data sources";
+    if (type.needsMeasure && type.hasBase && measure != nullptr && measure->categorical)
+      return "it measures categories";
+    if (element.method != Method::none && measure != nullptr && measure->categorical)
+      return "it measures categories";
+    const bool needsNumbers = element.method == Method::histogram ||
+                              element.method == Method::distribution ||
+                              element.method == Method::hexagons;
+    if (needsNumbers && (place == nullptr || place->categorical || !place->members.empty()))
+      return "its statistic needs a continuous variable";
+    const bool isComposed = place != nullptr && !place->members.empty();
+    if (isComposed && element.method != Method::none)
+      return "its statistic needs places of one variable";
+    if (element.method == Method::hexagons && (measure == nullptr || !measure->members.empty()))
+      return "its statistic needs two variables";
+    return {};
+  }
+
+  /// What tells the element's rows apart, colors and sizes them; what it asks for beyond
+  /// that is noted.
+  void readAesthetics(Element& element) {
+    for (const Node& child : node_.children) {
+      static constexpr std::array<std::string_view, 5> kinds{"styleBy", "color", "split", "size",
+                                                             "labeling"};
+      if (std::ranges::find(kinds, child.kind) == kinds.end()) continue;
+      const Variable* variable = chart_.variableOf(child);
+      if (variable == nullptr || variable->texts == nullptr)
+        notes_.add(fmt::format("{}: the variable of its {} has no data", node_.name(), child.kind));
+      else
+        readAesthetic(element, child, *variable);
+    }
+  }
+
+  void readAesthetic(Element& element, const Node& child, const Variable& variable) {
+    const auto note = [&](std::string_view what) {
+      notes_.add(fmt::format("{}: {}", node_.name(), what));
+    };
+    if (child.kind == "labeling") {
+      element.labels = &variable;
+    } else if (child.kind == "split") {
+      if (!variable.categorical)
+        return note(fmt::format("a split by the values of {} is not drawn", variable.title));
+      element.splits.push_back(&variable);
+    } else if (child.kind == "size") {
+      if (element.method == Method::hexagons) return; // sized by its count
+      if (variable.categorical)
+        return note(fmt::format("a size by the categories of {} is not drawn", variable.title));
+      element.size = &variable;
+    } else if (!variable.categorical && child.kind == "color") {
+      element.shade = &variable;
+    } else if (!variable.categorical) {
+      note(fmt::format("a {} by the values of {} is not drawn yet", child.kind, variable.title));
+    } else if (element.group != nullptr && element.group != &variable) {
+      note(fmt::format("a second grouping, by {}, is not drawn yet", variable.title));
+    } else {
+      element.group = &variable;
+      if (child.attribute("styleCycle").find("Pattern") != std::string_view::npos)
+        note("patterns are drawn as colors, symbols and dashes");
+    }
+  }
+
+  const Node& node_;
+  Chart& chart_;
+  Notes& notes_;
+};
+
+} // namespace
+
+void readElements(Chart& chart, Notes& notes) {
+  const auto readAll = [&](const Node& parent, const auto& again) -> void {
+    for (const Node& node : parent.children) {
+      if (node.kind == "elementGroup") again(node, again);
+      if (node.kind == "element" && typeOf(node) != nullptr) Reader(node, chart, notes).read();
+    }
+  };
+  readAll(*chart.plot, readAll);
+}
+
+} // namespace render

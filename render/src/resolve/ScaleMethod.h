@@ -1,0 +1,21 @@
+#pragma once
+
+#include "resolve/Chart.h"
+
+namespace render {
+
+/// Reads how a dimension turns values into lengths, from the "scale" of its node.
+void readScale(Dimension& dimension, const Node* node, Notes& notes);
+
+/// A scale of logarithms that is safe is one as long as all values are above zero, as
+/// `low` tells. Otherwise it goes on through zero, evenly about it.
+void chooseLogarithm(double low, Dimension& dimension);
+
+/// Whether the scale has a place for a value.
+bool takes(double value, const Dimension& dimension);
+
+/// A value on an even scale, and back.
+double scaled(double value, const Dimension& dimension);
+double unscaled(double length, const Dimension& dimension);
+
+} // namespace render

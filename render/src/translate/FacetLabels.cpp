@@ -1,0 +1,194 @@
+#include "translate/FacetLabels.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "compute/Bins.h"
+#include "text/Wrap.h"
+#include "translate/Encode.h"
+#include "translate/Theme.h"
+
+namespace render {
+namespace {
+
+constexpr double lineHeight = theme::labelSize + 6;
+
+struct Text {
+  std::string text;
+  std::string expression{}; ///< of Vega, in its place
+  double x;
+  double y;
+  double limit;
+  bool isTitle = false;
+  double angle = 0;
+};
+
+void addText(const Text& text, Context& context) {
+  Json shown =
+      text.expression.empty() ? Json{{"value", text.text}} : Json{{"signal", text.expression}};
+  Json update{{"x", {{"value", text.x}}},
+              {"y", {{"value", text.y}}},
+              {"text", std::move(shown)},
+              {"align", {{"value", "center"}}},
+              {"baseline", {{"value", "middle"}}},
+              {"limit", {{"value", text.limit}}},
+              {"font", {{"value", theme::font(context.chart.folder->manifest)}}},
+              {"fontSize", {{"value", text.isTitle ? theme::axisTitleSize : theme::labelSize}}},
+              {"fill", {{"signal", "ink"}}}};
+  if (text.angle != 0) update["angle"] = {{"value", text.angle}};
+  context.parts.marks.push_back({{"type", "text"}, {"encode", {{"update", std::move(update)}}}});
+}
+
+/// Neighbouring cells that are alike down to a level, and where they stand.
+struct Run {
+  const FacetValue* value;
+  double middle;
+  double length;
+};
+
+std::vector<Run> runsOf(const std::vector<FacetCell>& cells, std::size_t level,
+                        const std::vector<double>& starts, double length) {
+  std::vector<Run> runs;
+  for (std::size_t first = 0; first < cells.size();) {
+    std::size_t next = first + 1;
+    const auto isAlike = [&](const FacetCell& cell) {
+      return cell.size() > level &&
+             std::equal(cell.begin(), cell.begin() + static_cast<std::ptrdiff_t>(level) + 1,
+                        cells[first].begin());
+    };
+    while (next < cells.size() && cells[first].size() > level && isAlike(cells[next]))
+      ++next;
+    const double end = starts[next - 1] + length;
+    if (cells[first].size() > level)
+      runs.push_back({.value = &cells[first][level],
+                      .middle = (starts[first] + end) / 2,
+                      .length = end - starts[first]});
+    first = next;
+  }
+  return runs;
+}
+
+std::size_t depthOf(const std::vector<FacetCell>& cells) {
+  std::size_t depth = 0;
+  for (const FacetCell& cell : cells)
+    depth = std::max(depth, cell.size());
+  return depth;
+}
+
+/// The titles of all levels, "Island, Sex".
+std::string titleOf(const std::vector<FacetCell>& cells, std::size_t firstLevel,
+                    const Chart& chart) {
+  std::string title;
+  for (const FacetCell& cell : cells)
+    for (std::size_t i = 0; i < cell.size(); ++i) {
+      const std::string each = facetTitle(cell[i], firstLevel + i, chart);
+      if (title.find(each) == std::string::npos) title += (title.empty() ? "" : ", ") + each;
+    }
+  return title;
+}
+
+const Category& categoryOf(const FacetValue& value) {
+  return value.variable->categories[value.category];
+}
+
+Text labelOf(const Run& run) {
+  const Category& category = categoryOf(*run.value);
+  return {.text = category.label,
+          .expression = category.expression,
+          .x = run.middle,
+          .y = run.middle,
+          .limit = run.length};
+}
+
+void labelColumns(Context& context) {
+  const auto& [columns, rows, alongAxis] = context.chart.facets;
+  const Layout& layout = context.layout;
+  const auto depth = static_cast<double>(depthOf(columns));
+  double y = alongAxis ? layout.height + axisRoom(context) + lineHeight * (depth - 0.5)
+                       : -lineHeight * (depth - 0.5);
+  for (std::size_t level = 0; level < depthOf(columns); ++level) {
+    for (const Run& run : runsOf(columns, level, layout.left, layout.panelWidth)) {
+      Text text = labelOf(run);
+      text.y = y;
+      addText(text, context);
+    }
+    y += alongAxis ? -lineHeight : lineHeight;
+  }
+  const double titleY = alongAxis ? layout.height + axisRoom(context) + lineHeight * (depth + 0.7)
+                                  : -lineHeight * (depth + 0.5) - 2;
+  addText({.text = titleOf(columns, 1, context.chart),
+           .x = layout.width / 2,
+           .y = titleY,
+           .limit = layout.width,
+           .isTitle = true},
+          context);
+}
+
+void labelRows(Context& context) {
+  const std::vector<FacetCell>& rows = context.chart.facets.rows;
+  const Layout& layout = context.layout;
+  const std::size_t depth = depthOf(rows);
+  constexpr double downwards = 90;
+  for (std::size_t level = 0; level < depth; ++level)
+    for (const Run& run : runsOf(rows, level, layout.top, layout.panelHeight)) {
+      Text text = labelOf(run);
+      text.x = layout.width + lineHeight * (static_cast<double>(depth - level) - 0.5) + 2;
+      text.angle = downwards;
+      addText(text, context);
+    }
+  const std::size_t firstLevel = 1 + depthOf(context.chart.facets.columns);
+  addText({.text = titleOf(rows, firstLevel, context.chart),
+           .x = layout.width + lineHeight * (static_cast<double>(depth) + 0.5) + 4,
+           .y = layout.height / 2,
+           .limit = layout.height,
+           .isTitle = true,
+           .angle = downwards},
+          context);
+}
+
+const Node* facetLabel(std::size_t level, const Chart& chart) {
+  const Node* labeling = chart.plot->child("facetLabeling");
+  if (labeling == nullptr) return nullptr;
+  const std::string wanted = std::to_string(level);
+  const auto found = std::ranges::find_if(labeling->children, [&](const Node& child) {
+    return child.kind == "facetLabel" && child.attribute("level") == wanted;
+  });
+  return found == labeling->children.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+void addFacetLabels(Context& context) {
+  if (!context.chart.facets.columns.front().empty()) labelColumns(context);
+  if (!context.chart.facets.rows.front().empty()) labelRows(context);
+}
+
+int rowLabelRoom(const Chart& chart) {
+  return static_cast<int>(lineHeight) * static_cast<int>(depthOf(chart.facets.rows) + 1) + 6;
+}
+
+bool isRedundant(const Dimension& dimension, const Chart& chart) {
+  return chart.facets.areAlongAxis && dimension.categorical && !chart.elements.empty() &&
+         std::ranges::all_of(chart.elements, [&](const Element& element) {
+           const Variable* place = element.along(dimension.role);
+           return element.group != nullptr && place != nullptr &&
+                  element.group->texts == place->texts;
+         });
+}
+
+double axisRoom(const Context& context) {
+  constexpr double ofLabels = 24;
+  const bool hasLabels = !isRedundant(context.along("x"), context.chart);
+  return hasLabels ? ofLabels + 6 : 6;
+}
+
+std::string facetTitle(const FacetValue& value, std::size_t level, const Chart& chart) {
+  const Node* label = facetLabel(level, chart);
+  const Node* axis = label != nullptr ? label->child("axis") : nullptr;
+  const Node* title = axis != nullptr ? axis->child("label") : nullptr;
+  if (title == nullptr && label != nullptr) title = label->child("label");
+  return title != nullptr && !title->text.empty() ? title->text : value.variable->title;
+}
+
+} // namespace render

@@ -1,0 +1,119 @@
+#include <algorithm>
+#include <array>
+#include <set>
+
+#include <fmt/format.h>
+
+#include "resolve/ScaleMethod.h"
+#include "text/Expression.h"
+#include "translate/Encode.h"
+
+namespace render {
+namespace {
+
+constexpr std::array<const char*, 6> partNames{"",       "whisker", "box",
+                                               "median", "outlier", "extreme"};
+
+Json valueOf(const Variable& variable, std::size_t row) {
+  if (variable.isMissing(row)) return nullptr;
+  if (variable.categorical) return (*variable.texts)[row];
+  return jsonNumber(variable.numbers[row]);
+}
+
+void addVariables(Json& fields, const Element& element, const Item& item) {
+  std::vector<const Variable*> variables{element.x,     element.y,    element.group,
+                                         element.shade, element.size, element.labels};
+  variables.insert(variables.end(), element.splits.begin(), element.splits.end());
+  for (const Variable* variable : variables) {
+    const bool isShown = variable != nullptr && variable->texts != nullptr &&
+                         (variable->categorical || element.method == Method::none);
+    if (isShown) fields[variable->id] = valueOf(*variable, item.row);
+  }
+}
+
+bool isDrawn(const Element& element, const Item& item, const Context& context) {
+  if (element.isSlice) {
+    if (item.high < item.low)
+      context.notes.add(fmt::format("values below zero have no piece of {}", element.node->name()));
+    return item.high > item.low;
+  }
+  const Dimension& place = context.along(placeRole(element));
+  const Dimension& measure = context.along(measureRole(element));
+  const bool hasPlace = place.categorical || takes(item.place(), place);
+  return hasPlace && (measure.categorical || takes(item.high, measure));
+}
+
+/// Where its base has no place, a bar begins where the scale does.
+double startOf(const Item& item, const Dimension& measure) {
+  return measure.categorical || takes(item.low, measure) ? item.low : measure.low;
+}
+
+Json fieldsOf(const Element& element, const Item& item, const std::set<double>& slots,
+              const Context& context) {
+  Json fields = Json::object();
+  addVariables(fields, element, item);
+  if (element.isPlain()) return fields;
+  if (element.place() != nullptr && !element.place()->categorical) {
+    fields["place"] = jsonNumber(item.place());
+    if (item.from != item.to) {
+      fields["from"] = jsonNumber(item.from);
+      fields["to"] = jsonNumber(item.to);
+    }
+  }
+  fields["low"] = jsonNumber(startOf(item, context.along(measureRole(element))));
+  fields["high"] = jsonNumber(item.high);
+  fields["value"] = jsonNumber(item.value);
+  if (item.part != BoxPart::none) fields["part"] = partNames[static_cast<std::size_t>(item.part)];
+  if (element.isComposed()) fields["member"] = item.member;
+  if (slots.size() > 1)
+    fields["slot"] = std::distance(slots.begin(), slots.find(element.group->codes[item.row]));
+  return fields;
+}
+
+/// The groups that stand side by side; all panels have the same.
+std::set<double> slotsOf(const Element& element, const Context& context) {
+  std::set<double> slots;
+  if (element.modifier != Modifier::dodge || element.group == nullptr) return slots;
+  for (const Panel& panel : context.chart.panels)
+    for (const Item& item : panel.items[element.index])
+      slots.insert(element.group->codes[item.row]);
+  return slots;
+}
+
+Json rowsOf(const Element& element, const Context& context) {
+  std::string filter;
+  const auto need = [&](const Variable* variable) {
+    if (variable == nullptr || variable->texts == nullptr) return;
+    filter += fmt::format("{}isValid({})", filter.empty() ? "" : " && ", datum(variable->id));
+  };
+  for (const Variable* variable :
+       {element.x, element.y, element.group, element.shade, element.size})
+    need(variable);
+  for (const Variable* split : element.splits)
+    need(split);
+  for (const std::string_view role : {"x", "y"})
+    if (context.along(role).type == ScaleType::log)
+      filter += fmt::format(" && {}>0", datum(element.along(role)->id));
+  return {{"name", element.node->id()},
+          {"source", element.x->source},
+          {"transform", Json::array({{{"type", "filter"}, {"expr", std::move(filter)}}})}};
+}
+
+} // namespace
+
+std::size_t slotCount(const Element& element, const Context& context) {
+  return std::max(std::size_t{1}, slotsOf(element, context).size());
+}
+
+Json elementData(const Element& element, const Context& context) {
+  if (element.isPlain() && !context.chart.facets.isSplit()) return rowsOf(element, context);
+  const std::set<double> slots = slotsOf(element, context);
+  Json values = Json::array();
+  for (const Item& item : context.panel().items[element.index])
+    if (isDrawn(element, item, context)) values.push_back(fieldsOf(element, item, slots, context));
+  return {{"name", context.inPanel(element.node->id())},
+          {"values", std::move(values)},
+          {"transform", Json::array()}};
+}
+
+} // namespace render

@@ -1,0 +1,127 @@
+#include "translate/Layout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+#include <fmt/format.h>
+
+#include "text/Show.h"
+#include "translate/Theme.h"
+
+namespace render {
+namespace {
+
+constexpr double tableGap = 14;
+constexpr double axisGap = 8;
+
+/// "5%" of the plot, or a number of pixels.
+double lengthOf(std::string_view text, double whole, double usual, const Node& node, Notes& notes) {
+  if (text.empty()) return usual;
+  const bool isPercent = text.ends_with('%');
+  std::string_view number = isPercent ? text.substr(0, text.size() - 1) : text;
+  if (number.ends_with("px")) number.remove_suffix(2);
+  const double value = numberOf(number);
+  if (value >= 0 && value <= 100) return isPercent ? whole * value / 100 : value;
+  notes.add(fmt::format("{}: gap=\"{}\" is not drawn", node.name(), shown(text)));
+  return usual;
+}
+
+/// The first level at which two neighbours differ decides how far they are apart.
+double gapBetween(const FacetCell& one, const FacetCell& next, double whole, double usual,
+                  Notes& notes) {
+  for (std::size_t level = 0; level < std::min(one.size(), next.size()); ++level) {
+    if (one[level] == next[level]) continue;
+    const double atLevel = level + 1 < one.size() ? 2 * usual : usual;
+    return lengthOf(one[level].node->attribute("gap"), whole, atLevel, *one[level].node, notes);
+  }
+  return usual;
+}
+
+std::vector<double> gapsBetween(const std::vector<FacetCell>& cells, double whole, double usual,
+                                Notes& notes) {
+  std::vector<double> gaps;
+  for (std::size_t i = 1; i < cells.size(); ++i)
+    gaps.push_back(gapBetween(cells[i - 1], cells[i], whole, usual, notes));
+  return gaps;
+}
+
+std::vector<double> placesOf(const std::vector<double>& gaps, double length) {
+  std::vector<double> places{0};
+  for (const double gap : gaps)
+    places.push_back(places.back() + length + gap);
+  return places;
+}
+
+/// The ratio of a panel's height to its width; 0 where it does not matter.
+double aspectOf(const Chart& chart, Notes& notes) {
+  const Node* labeling = chart.plot ? chart.plot->child("facetLabeling") : nullptr;
+  const std::string_view text = labeling ? labeling->attribute("cellAspect") : std::string_view();
+  const double aspect = numberOf(text);
+  if (aspect >= 0.05 && aspect <= 20) return aspect;
+  if (!text.empty())
+    notes.add(fmt::format("{}: cellAspect=\"{}\" is not drawn", labeling->name(), shown(text)));
+  return 0;
+}
+
+double sum(const std::vector<double>& values) {
+  return std::accumulate(values.begin(), values.end(), 0.0);
+}
+
+} // namespace
+
+Layout Layout::of(const Chart& chart, Notes& notes) {
+  constexpr double least = 20; // of a panel's side, however many there are
+  const double usual = chart.facets.areAlongAxis ? axisGap : tableGap;
+  const auto& [columns, rows, alongAxis] = chart.facets;
+  const std::vector<double> across = gapsBetween(columns, theme::plotWidth, usual, notes);
+  const std::vector<double> down = gapsBetween(rows, theme::plotHeight, usual, notes);
+  double width = std::max(
+      least, std::floor((theme::plotWidth - sum(across)) / static_cast<double>(columns.size())));
+  double height = std::max(
+      least, std::floor((theme::plotHeight - sum(down)) / static_cast<double>(rows.size())));
+  if (const double aspect = aspectOf(chart, notes); aspect > 0) {
+    const double narrower = std::floor(std::min(width, height / aspect));
+    height = std::floor(std::min(height, width * aspect));
+    width = narrower;
+  }
+  Layout layout{.width = 0,
+                .height = 0,
+                .panelWidth = width,
+                .panelHeight = height,
+                .left = placesOf(across, width),
+                .top = placesOf(down, height)};
+  layout.width = layout.left.back() + width;
+  layout.height = layout.top.back() + height;
+  return layout;
+}
+
+void makeUnitsEqual(Chart& chart, const Layout& layout, Notes& notes) {
+  const auto asks = [&](std::string_view role) {
+    const Node* node = chart.dimensionNode(role);
+    return node != nullptr && node->attribute("sameRatio") == "trueCentered";
+  };
+  if (!asks("x") && !asks("y")) return;
+  for (Panel& panel : chart.panels) {
+    const auto isEven = [](const Dimension& dimension) {
+      return !dimension.categorical && dimension.type == ScaleType::linear;
+    };
+    if (!isEven(panel.x) || !isEven(panel.y)) {
+      notes.add("a unit cannot be as long along x as along y: both need an even scale");
+      return;
+    }
+    const double alongX = chart.isTransposed ? layout.panelHeight : layout.panelWidth;
+    const double alongY = chart.isTransposed ? layout.panelWidth : layout.panelHeight;
+    const double unit =
+        std::max((panel.x.high - panel.x.low) / alongX, (panel.y.high - panel.y.low) / alongY);
+    const auto stretch = [unit](Dimension& dimension, double length) {
+      const double middle = dimension.low + (dimension.high - dimension.low) / 2;
+      dimension.low = middle - unit * length / 2;
+      dimension.high = middle + unit * length / 2;
+    };
+    stretch(panel.x, alongX);
+    stretch(panel.y, alongY);
+  }
+}
+
+} // namespace render

@@ -1,0 +1,57 @@
+#include <cmath>
+
+#include <fmt/format.h>
+
+#include "compute/Bins.h"
+#include "text/Expression.h"
+#include "text/Show.h"
+#include "translate/Encode.h"
+#include "translate/Theme.h"
+#include "translate/Translator.h"
+
+namespace render {
+namespace {
+
+/// The value of a category that a text names, by its key or its label.
+const Category* categoryOf(const Dimension& dimension, std::string_view text) {
+  for (const Category& category : dimension.categories)
+    if (category.key == text || category.label == text) return &category;
+  return nullptr;
+}
+
+} // namespace
+
+/// A line across the plot at a value of x or of y, its "x" or "y" parameter.
+void translateReferenceLine(const Node& guide, Context& context) {
+  for (const std::string_view role : {"x", "y"}) {
+    const std::string_view text = parameter(guide, role);
+    if (text.empty()) continue;
+    const Dimension& dimension = context.along(role);
+    const double value = numberOf(text);
+    const Category* category = dimension.categorical ? categoryOf(dimension, text) : nullptr;
+    const bool isWithin = dimension.categorical ? category != nullptr
+                                                : value >= dimension.low && value <= dimension.high;
+    if (!isWithin || context.chart.isPolar) {
+      context.notes.add(fmt::format("{} is not drawn: {}={} is outside the plot", guide.name(),
+                                    role, shown(text)));
+      continue;
+    }
+    const Channels at = channelsOf(role, context.chart);
+    const Channels along = channelsOf(role == "x" ? "y" : "x", context.chart);
+    const bool goesUp = isAcross(role, context.chart);
+    Json place{{"scale", role}, {"value", category ? Json(category->key) : jsonNumber(value)}};
+    if (dimension.isBanded) place["band"] = 0.5;
+    Json update{
+        {at.start, std::move(place)},
+        {along.start, {{"value", 0}}},
+        {along.end, {{"value", goesUp ? context.layout.panelHeight : context.layout.panelWidth}}},
+        {"stroke", {{"signal", "ink"}}},
+        {"strokeWidth", {{"value", theme::thinWidth}}},
+        {"strokeDash", {{"value", {6, 3}}}},
+        {"tooltip",
+         {{"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}}}};
+    context.parts.marks.push_back({{"type", "rule"}, {"encode", {{"update", std::move(update)}}}});
+  }
+}
+
+} // namespace render

@@ -1,0 +1,282 @@
+// What the elements draw, as numbers: the data of their marks.
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+
+#include "render/support/ChartFolder.h"
+
+namespace {
+
+using nlohmann::json;
+
+class ElementsTest : public testing::Test {
+protected:
+  json spec(std::string_view plot, std::string_view table, std::string_view rest = "") {
+    return folder_.write("chart.xml", document(plot, rest)).write("source0.csv", table).spec();
+  }
+
+  /// Of each row of an element's data these fields, in one array; absent ones are null.
+  json drawn(std::string_view plot, std::string_view table, const std::vector<std::string>& fields,
+             std::string_view rest = "") {
+    spec_ = spec(plot, table, rest);
+    json rows = json::array();
+    for (const json& data : spec_["data"]) {
+      if (data["name"] != "e") continue;
+      for (const json& values : data["values"]) {
+        json row = json::array();
+        for (const std::string& field : fields)
+          row.push_back(values.contains(field) ? values[field] : json());
+        rows.push_back(std::move(row));
+      }
+    }
+    return rows;
+  }
+
+  json scale(std::string_view name) const {
+    for (const json& each : spec_["marks"][0]["scales"])
+      if (each["name"] == name) return each;
+    return {};
+  }
+
+  TestFolder folder_;
+  json spec_;
+};
+
+std::string element(std::string_view type, std::string_view content,
+                    std::string_view modifier = "none") {
+  return fmt::format(R"(<element type="{}" id="e" positionModifier="{}">{}</element>)", type,
+                     modifier, content);
+}
+
+std::string statistic(std::string_view method, std::string_view parameters = "") {
+  return fmt::format(R"(<statistic method="{}">{}</statistic>)", method, parameters);
+}
+
+constexpr std::string_view weightVariable =
+    R"(<variable id="w" sourceName="W" source="source0" categorical="false"><meta weight="true"/>
+    </variable>)";
+constexpr std::string_view placed = R"(<x variable="v3"/><y variable="v2"/>)";
+constexpr std::string_view grouped =
+    R"(<styleBy variable="v4" id="by" styleCycle="styleCycleDefault"/>)";
+constexpr std::string_view groupVariable =
+    R"(<variable id="v4" sourceName="Kind" source="source0" categorical="true"/>)";
+
+constexpr std::string_view parts = "A,B,Group,Kind,W\n"
+                                   "1,10,a,p,2\n1,30,a,q,1\n1,-5,a,r,1\n"
+                                   "2,40,b,p,1\n3,20,b,q,1\n2,,b,q,1\n";
+
+TEST_F(ElementsTest, BarsReachFromZeroAndStackInTheOrderOfTheirGroups) {
+  const std::string content = fmt::format("{}{}", placed, grouped);
+  const std::vector<std::string> fields{"v3", "v4", "low", "high", "value"};
+  EXPECT_EQ(drawn(element("interval", placed), parts, {"v3", "low", "high"}),
+            json::parse(R"([["a",0,10],["a",0,30],["a",0,-5],["b",0,40],["b",0,20]])"));
+  EXPECT_EQ(drawn(element("interval", content, "stack"), parts, fields, groupVariable),
+            json::parse(R"([["a","p",0,10,10],["a","q",10,40,30],["a","r",0,-5,-5],
+                            ["b","p",0,40,40],["b","q",40,60,20]])"));
+  EXPECT_EQ(scale("y")["domain"], json({-8.25, 63.25}));
+  EXPECT_EQ(scale("x")["type"], "band");
+  EXPECT_EQ(
+      drawn(element("interval", content, "dodge"), parts, {"v3", "v4", "slot"}, groupVariable),
+      json::parse(R"([["a","p",0],["a","q",1],["a","r",2],["b","p",0],["b","q",1]])"));
+}
+
+TEST_F(ElementsTest, AnEndThatIsTheBaseOfBarsHasNoMargin) {
+  drawn(R"(<dimension role="y" lowerMargin="5%" upperMargin="10%"/>)" + element("interval", placed),
+        "A,B,Group\n1,10,a\n1,30,b\n", {});
+  EXPECT_EQ(scale("y")["domain"], json({0, 33}));
+}
+
+TEST_F(ElementsTest, AStatisticSumsUpTheRowsOfAPlaceWithTheirWeights) {
+  const std::string counted = R"(<x variable="v3"/>)";
+  const struct {
+    std::string content;
+    std::vector<std::pair<const char*, double>> values;
+  } cases[] = {
+      {counted + statistic("count"), {{"a", 4}, {"b", 3}}},
+      {std::string(placed) + statistic("sum"), {{"a", 45}, {"b", 60}}},
+      {std::string(placed) + statistic("mean"), {{"a", 11.25}, {"b", 30}}},
+      {std::string(placed) + statistic("median"), {{"a", 10}, {"b", 30}}},
+      {counted + statistic("cumulativeCount"), {{"a", 4}, {"b", 7}}},
+      {counted + statistic("percent"), {{"a", 400.0 / 7}, {"b", 300.0 / 7}}},
+  };
+  for (const auto& [content, values] : cases)
+    EXPECT_EQ(drawn(element("interval", content), parts, {"v3", "value"}, weightVariable), values)
+        << content;
+}
+
+TEST_F(ElementsTest, SharesOfEachPlaceStackToAHundred) {
+  const std::string share =
+      R"(<x variable="v3"/>)" + statistic("percent", R"(<parameter name="base" value="place"/>)");
+  EXPECT_EQ(drawn(element("interval", share + std::string(grouped), "stack"),
+                  "A,B,Group,Kind\n1,1,a,p\n1,1,a,q\n1,1,a,q\n1,1,a,q\n1,1,b,q\n",
+                  {"v3", "v4", "low", "high"}, groupVariable),
+            json::parse(R"([["a","p",0,25],["a","q",25,100],["b","q",0,100]])"));
+}
+
+TEST_F(ElementsTest, AHistogramCountsValuesFromTheLowerEndOfEachBin) {
+  const auto bins = [](std::string_view parameters) {
+    return element("interval", R"(<x variable="v1"/>)" + statistic("histogram", parameters));
+  };
+  // Eight values: Sturges' four bins, 2 wide.
+  constexpr std::string_view values = "A,B,Group\n0,,\n1.9,,\n2,,\n3,,\n5,,\n6,,\n6,,\n8,,\n";
+  const struct {
+    std::string parameters;
+    json counts;
+  } cases[] = {
+      {"", {{0, 2, 2}, {2, 4, 2}, {4, 6, 1}, {6, 8, 2}, {8, 10, 1}}},
+      {R"(<parameter name="bin-width" value="5"/>)", {{0, 5, 4}, {5, 10, 4}}},
+      {R"(<parameter name="bin-width" value="4"/><parameter name="bin-start" value="-1"/>)",
+       {{-1, 3, 3}, {3, 7, 4}, {7, 11, 1}}},
+      {R"(<parameter name="bins" value="2"/>)", {{0, 4, 4}, {4, 8, 4}}},
+  };
+  for (const auto& [parameters, counts] : cases)
+    EXPECT_EQ(drawn(bins(parameters), values, {"from", "to", "high"}), counts) << parameters;
+  drawn(bins(R"(<parameter name="bin-width" value="wide"/>)"), values, {});
+  EXPECT_EQ(spec_["usermeta"]["notes"],
+            json({"statistic: bin-width=\"wide\" is not a positive number"}));
+}
+
+TEST_F(ElementsTest, ANormalCurveHasTheAreaOfItsHistogram) {
+  const std::string histogram =
+      R"(<element type="interval" id="h"><x variable="v1"/>)" +
+      statistic("histogram", R"(<parameter name="bin-width" value="2"/>)") + "</element>";
+  const std::string curve = R"(<x variable="v1"/>)" +
+                            statistic("distribution", R"(<parameter name="type" value="normal"/>)");
+  const json rows = drawn(histogram + element("line", curve),
+                          "A,B,Group\n1,,\n3,,\n5,,\n5,,\n7,,\n9,,\n", {"place", "high"});
+  ASSERT_EQ(rows.size(), 201U);
+  EXPECT_EQ(rows.front()[0], 0);
+  EXPECT_EQ(rows.back()[0], 10);
+  // Six cases in bins of 2 about the mean 5, with a deviation of the square root of 8.
+  EXPECT_NEAR(rows[100][1].get<double>(), 12 * 0.3989422804 / 2.8284271247, 1e-9);
+}
+
+TEST_F(ElementsTest, ABoxPlotHasTheEndsOfItsPartsAndTheValuesBeyond) {
+  std::string table = "A,B,Group\n";
+  for (const double value : {1, 2, 3, 4, 5, 6, 7, 8, 9, 20})
+    table += fmt::format("1,{},a\n", value);
+  const json whole = json::parse(R"([["whisker",1,3],["whisker",8,9],["box",3,8],
+                                     ["median",5.5,5.5],["outlier",20,20]])");
+  EXPECT_EQ(drawn(element("schema", placed), table, {"part", "low", "high"}), whole);
+  EXPECT_EQ(drawn(element("interval", std::string(placed) + statistic("tukeyHinges")), table,
+                  {"part", "low", "high"}),
+            json::array({whole[2]}));
+  EXPECT_EQ(drawn(element("point", std::string(placed) + statistic("tukeyOutliers")), table,
+                  {"part", "low", "high"}),
+            json::array({whole[4]}));
+}
+
+TEST_F(ElementsTest, StackedAreasHaveEveryPlaceOfTheOthers) {
+  const std::string content = fmt::format(R"(<x variable="v1"/><y variable="v2"/>{})", grouped);
+  constexpr std::string_view table =
+      "A,B,Group,Kind\n0,10,a,p\n2,30,a,p\n0,1,a,q\n1,2,a,q\n2,3,a,q\n";
+  const std::vector<std::string> fields{"place", "v4", "low", "high"};
+  json expected = json::parse(R"([[0,"p",0,10],[0,"q",10,11],[1,"p",0,0],[1,"q",0,2],
+                                  [2,"p",0,30],[2,"q",30,33]])");
+  EXPECT_EQ(drawn(element("area", content, "stack"), table, fields, groupVariable), expected);
+  expected[2] = json::parse(R"([1,"p",0,20])");
+  expected[3] = json::parse(R"([1,"q",20,22])");
+  EXPECT_EQ(drawn(element("area", content, "stackinterpolating"), table, fields, groupVariable),
+            expected);
+}
+
+TEST_F(ElementsTest, AVariableOfSeveralOthersIsARange) {
+  const std::string range = R"(<x variable="v3"/><y variable="r"/>)";
+  constexpr std::string_view variable =
+      R"(<variable id="r" expression="v1 + v2" categorical="false"/>)";
+  constexpr std::string_view table = "A,B,Group\n4,2,a\n1,3,b\n,5,b\n";
+  EXPECT_EQ(drawn(element("interval", range), table, {"v3", "low", "high"}, variable),
+            json::parse(R"([["a",2,4],["b",1,3],["b",0,5]])"));
+  EXPECT_EQ(drawn(element("point", range), table, {"v3", "high", "member"}, variable),
+            json::parse(R"([["a",4,0],["a",2,1],["b",1,0],["b",3,1],["b",5,1]])"));
+}
+
+TEST_F(ElementsTest, CategoriesAlongYMakeBarsLieAcross) {
+  drawn(element("interval", R"(<y variable="v3"/>)" + statistic("count")), parts, {});
+  const json& update = spec_["marks"][0]["marks"][0]["encode"]["update"];
+  EXPECT_EQ(update["x"], json::parse(R"({"scale":"x","field":"high"})"));
+  EXPECT_EQ(update["height"], json::parse(R"({"scale":"y","band":0.8})"));
+  EXPECT_EQ(scale("x")["domain"][0], 0);
+}
+
+TEST_F(ElementsTest, HexagonsCountTheRowsOfTheirCells) {
+  const json cells = drawn(
+      element("polygon", R"(<x variable="v1"/><y variable="v2"/>)" +
+                             statistic("bin", R"(<parameter name="grid" value="hex"/>)")),
+      "A,B,Group\n0,0,a\n0.1,0.1,a\n20,0,a\n10,20,a\n10,20.1,a\n10.2,20,b\n", {"place", "value"});
+  EXPECT_EQ(cells, json::parse("[[0,2],[10.5,3],[20,1]]"));
+}
+
+TEST_F(ElementsTest, TheNameOfAStyleSaysWhatAnIntervalLooksLike) {
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
+      {"element_simplebar_1", {"rect"}},
+      {"element_dropdownline_1", {"rule"}},
+      {"element_errorbar_1", {"rule", "symbol", "symbol"}},
+      {"element_errorbarhidden_1", {}},
+  };
+  for (const auto& [id, marks] : cases) {
+    const json drawn = spec(fmt::format(R"(<element type="interval" id="{}">{}{}</element>)", id,
+                                        placed, statistic("range")),
+                            parts);
+    std::vector<std::string> types;
+    for (const json& mark : drawn["marks"][0]["marks"])
+      types.push_back(mark["type"].get<std::string>());
+    EXPECT_EQ(types, marks) << id;
+  }
+}
+
+TEST_F(ElementsTest, PiecesOfAPieAndBarsInPolarCoordinatesAreSectors) {
+  constexpr std::string_view polar = R"(<coordinateTransform method="polar"/>)";
+  EXPECT_EQ(drawn(fmt::format("{}{}", polar,
+                              element("interval",
+                                      fmt::format(R"(<theta variable="v2"/>{}{})", statistic("sum"),
+                                                  grouped),
+                                      "stack")),
+                  parts, {"v4", "low", "high"}, groupVariable),
+            json::parse(R"([["p",0,50],["q",50,100]])"));
+  EXPECT_THAT(spec_["usermeta"]["notes"],
+              testing::Contains("values below zero have no piece of e"));
+  EXPECT_EQ(spec_["marks"][0]["marks"][0]["type"], "arc");
+  drawn(fmt::format("{}{}", polar, element("interval", placed)), parts, {});
+  const json& update = spec_["marks"][0]["marks"][0]["encode"]["update"];
+  EXPECT_EQ(update["outerRadius"], json::parse(R"({"scale":"y","field":"high"})"));
+  EXPECT_EQ(scale("y")["range"], json({0, 240}));
+}
+
+TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
+  constexpr std::string_view range =
+      R"(<variable id="r" expression="v1 + v2" categorical="false"/>)";
+  const struct {
+    std::string plot;
+    std::string note;
+  } cases[] = {
+      {element("interval", R"(<x variable="v3"/>)"),
+       "e is not drawn: it has no y variable with data"},
+      {element("interval", R"(<x variable="v1"/><y variable="v1"/>)" + statistic("mode")),
+       "e: the statistic mode is not drawn yet"},
+      {element("interval", R"(<x variable="v3"/>)" + statistic("histogram")),
+       "e is not drawn: its statistic needs a continuous variable"},
+      {element("point", R"(<x variable="v1"/><y variable="v2"/>)", "jitter"),
+       "e: positionModifier=\"jitter\" is not drawn yet"},
+      {element("schema", R"(<x variable="r"/><y variable="v2"/>)"),
+       "e is not drawn: its statistic needs places of one variable"},
+      {element("point", R"(<x variable="v1"/><y variable="r"/>)" +
+                            statistic("bin", R"(<parameter name="grid" value="hex"/>)")),
+       "e is not drawn: its statistic needs two variables"},
+      {element("interval", R"(<x variable="v1"/><y variable="v2"/>)", "dodge"),
+       "e: marks at numbers are not put side by side"},
+      {element("area", R"(<x variable="v3"/><y variable="v3"/>)" + statistic("mean")),
+       "e is not drawn: it measures categories"},
+      {element("point", R"(<x variable="v1"/><y variable="v2"/><split variable="v9"/>)"),
+       "e: the variable of its split has no data"},
+  };
+  for (const auto& [plot, note] : cases)
+    EXPECT_THAT(spec(plot, parts, range)["usermeta"]["notes"], testing::Contains(note)) << plot;
+}
+
+} // namespace
