@@ -208,7 +208,8 @@ TEST_F(Command, SaysThatPicturesCannotBeDrawn) {
 TEST_F(Command, MakesTheGalleryAnew) {
   ASSERT_EQ(shell("rm -r charts/index.html charts/runtime; $chartxml gallery charts"),
             (Outcome{0, ""}));
-  EXPECT_THAT(scratch.read("charts/index.html"), HasSubstr("0001-small/chart.html"));
+  EXPECT_THAT(scratch.read("charts/index.html"), HasSubstr("gallery.js"));
+  EXPECT_THAT(scratch.read("charts/gallery.js"), HasSubstr("chart(\"0001-small\""));
   EXPECT_FALSE(scratch.read("charts/runtime/chartxml-page.js").empty());
 }
 
