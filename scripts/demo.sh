@@ -34,11 +34,7 @@ run_procedure() {
   before=$(chart_folders)
   say "running ${1##*/} in $2"
   CHARTXML_OUTPUT=$gallery CHARTXML_LANG=$2 "$1" || status=$?
-  local chart
-  while read -r chart; do
-    printf '%s\n' "$chart" >>"$made"
-    cp -- "procedures/${1##*/}.f90" "$gallery/$chart/procedure.f90"
-  done < <(comm -13 <(printf '%s\n' "$before") <(chart_folders))
+  comm -13 <(printf '%s\n' "$before") <(chart_folders) >>"$made"
   ((status == 0)) || fail "${1##*/} ended with status $status"
 }
 
@@ -54,6 +50,10 @@ for procedure in build/bin/procedures/*; do
     run_procedure "$procedure" "$language"
   done
 done
+
+# The gallery shows the source beside the pictures.
+mkdir -p -- "$gallery/procedures"
+cp -- procedures/*.f90 "$gallery/procedures"
 
 say "drawing the pictures"
 build/bin/chartxml render "$gallery" --svg --png

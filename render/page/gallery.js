@@ -10,11 +10,11 @@
     (all[language][key] ?? key).replace(/\^(\d)/g, (sign, number) => parameters[number - 1] ?? sign);
 
   const charts = [];
-  const sources = [];
+  const sources = new Map();
   const errors = [];
   window.chartxmlGallery = {
     chart: (folder, chart) => charts.push({folder, ...chart}),
-    source: (text) => sources.push(text),
+    source: (name, text) => sources.set(name, text),
     error: (text) => errors.push(text),
   };
 
@@ -26,11 +26,11 @@
 
   const urlOf = (folder, file) => `${encodeURIComponent(folder)}/${encodeURIComponent(file)}`;
 
-  function sourceOf({folder, source, sourceFile}) {
-    if (!sourceFile) return [];
-    const title = word('Source^1', sourceFile);
-    if (source === undefined) return [make('p', {}, make('a', {href: urlOf(folder, sourceFile)}, title))];
-    const text = make('pre', {tabIndex: 0}, sources[source]);
+  function sourceOf({source}) {
+    if (!source) return [];
+    const title = word('Source^1', source);
+    if (!sources.has(source)) return [make('p', {}, make('a', {href: urlOf('procedures', source)}, title))];
+    const text = make('pre', {tabIndex: 0}, sources.get(source));
     return [make('details', {}, make('summary', {}, title), text)];
   }
 

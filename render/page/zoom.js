@@ -150,6 +150,12 @@ function addDragging(zoom, container) {
     const at = place(event, container, zoom.page.view);
     if (event.button === 0 && !zoom.isWhole && isInside(at)) from = at;
   });
+  // Dragging selects no texts.
+  container.addEventListener('mousedown', (event) => {
+    if (!from) return;
+    event.preventDefault();
+    container.focus();
+  });
   container.addEventListener('pointermove', async (event) => {
     if (!from) return;
     const at = place(event, container, zoom.page.view);

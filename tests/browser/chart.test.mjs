@@ -108,6 +108,12 @@ test('a plot is zoomed, moved and reset', () =>
     await page.mouse.wheel(0, -100);
     await page.keyboard.up('Control');
     await until(page, "!document.querySelector('#chart').textContent.includes('170180190')");
+    const former = await axisLabels(page, 'Flipper');
+    await page.mouse.down();
+    await page.mouse.move(box.x + box.width / 4, box.y + box.height / 2, {steps: 3});
+    await page.mouse.up();
+    await until(page, `!document.querySelector('#chart').textContent.includes('${former.join('')}')`);
+    assert.ok(Number((await axisLabels(page, 'Flipper'))[0]) > Number(former[0]));
   }));
 
 test('dates keep places of the calendar, each told once, however near', () =>

@@ -2,9 +2,9 @@
 //
 // usage: node charts.mjs <build folder> <output folder>
 import {execFileSync} from 'node:child_process';
-import {copyFileSync, mkdirSync, readdirSync, rmSync, writeFileSync} from 'node:fs';
+import {copyFileSync, mkdirSync, rmSync, writeFileSync} from 'node:fs';
 import {join, resolve} from 'node:path';
-import {attack, folders, rowsOfBig} from './names.mjs';
+import {attack, folders, nameOfHostile, rowsOfBig} from './names.mjs';
 
 const [build, output] = process.argv.slice(2).map((path) => resolve(path));
 const root = resolve(import.meta.dirname, '../..');
@@ -45,9 +45,9 @@ function writeHostile() {
   const quoted = `"${attack.replaceAll('"', '""')}"`;
   const csv = `A,B,Group\n1,2,a\n2,3,${quoted}\n3,5,=1+1\n4,4,constructor\n5,3,__proto__\n`;
   writeChart(folders.hostile,
-    {name: attack, description: attack, splitHeader: attack, language: attack},
+    {name: nameOfHostile, description: attack, splitHeader: attack, language: attack},
     document({label: text, id: text, relabels, title: text, element: `e${text}`}), csv);
-  writeFileSync(join(output, folders.hostile, `procedure.<img src=x onerror=alert(1)>`), attack);
+  writeFileSync(join(output, 'procedures', `${nameOfHostile}.<img src=x onerror=alert(1)>`), attack);
 }
 
 function writeBig() {
@@ -61,8 +61,8 @@ rmSync(output, {recursive: true, force: true});
 mkdirSync(output, {recursive: true});
 runProcedure('penguins', 'en');
 runProcedure('economics', 'ja');
-for (const chart of readdirSync(output).filter((name) => /-penguins$/.test(name)))
-  copyFileSync(join(root, 'procedures/penguins.f90'), join(output, chart, 'procedure.f90'));
+mkdirSync(join(output, 'procedures'));
+copyFileSync(join(root, 'procedures/penguins.f90'), join(output, 'procedures/penguins.f90'));
 writeHostile();
 writeBig();
 execFileSync(join(build, 'bin/chartxml'), ['render', output, '--svg'], {stdio: 'inherit'});

@@ -1,7 +1,7 @@
 import assert from 'node:assert/strict';
 import {readFileSync} from 'node:fs';
 import {test} from 'node:test';
-import {attack, folders} from './names.mjs';
+import {attack, folders, nameOfHostile} from './names.mjs';
 import {assertAccessible, saved, until, urlOf, withChart, withPage} from './support.mjs';
 
 const index = urlOf('index.html');
@@ -45,7 +45,7 @@ test("the gallery speaks the reader's language", () =>
 
 test('hostile texts are texts on a chart page', () =>
   withChart(folders.hostile, async (page) => {
-    assert.equal(await page.textContent('h1'), attack);
+    assert.equal(await page.textContent('h1'), nameOfHostile);
     assert.equal(await page.textContent('figcaption'), attack);
     await page.locator('#data summary').click();
     await page.waitForSelector('#data tbody tr');
@@ -66,7 +66,8 @@ test('hostile texts are texts on a chart page', () =>
 test('hostile texts are texts in the gallery', () =>
   withPage(index, async (page) => {
     const card = page.locator('#charts > li').nth(3);
-    assert.equal(await card.locator('h2 a').textContent(), attack);
+    assert.equal(await card.locator('h2 a').textContent(), nameOfHostile);
+    assert.equal(await card.locator('p').first().textContent(), attack);
     await card.locator('summary').click();
     assert.equal(await card.locator('pre').textContent(), attack);
     assert.equal(await page.locator('#charts img:not([src$=".svg"])').count(), 0);

@@ -7,3 +7,6 @@ export const rowsOfBig = 250_000;
 
 export const attack = `</script><script>window.broken = 1</script><img src=x onerror="window.broken = 1">` +
   `'"\`\${window.broken = 1}&amp;\\ \u2028 ]]> --> {{x}}\n*/`;
+
+/** As hostile as the name of a file can be. */
+export const nameOfHostile = `"'<img src=x onerror=alert(1)>\u2028&amp;\n\\`;

@@ -206,11 +206,10 @@ TEST_F(Command, SaysThatPicturesCannotBeDrawn) {
 }
 
 TEST_F(Command, MakesTheGalleryAnew) {
-  ASSERT_EQ(
-      shell("rm -r charts/index.html charts/gallery.js charts/runtime; $chartxml gallery charts"),
-      (Outcome{0, ""}));
+  ASSERT_EQ(shell("rm -r charts/index.html charts/runtime; $chartxml gallery charts"),
+            (Outcome{0, ""}));
   EXPECT_THAT(scratch.read("charts/index.html"), HasSubstr("gallery.js"));
-  EXPECT_THAT(scratch.read("charts/gallery.js"), HasSubstr("0001-small"));
+  EXPECT_THAT(scratch.read("charts/gallery.js"), HasSubstr("chart(\"0001-small\""));
   EXPECT_FALSE(scratch.read("charts/runtime/chartxml-page.js").empty());
 }
 

@@ -24,9 +24,10 @@ void writeChart(const std::filesystem::path& chartFolder);
 
 /// Writes index.html, the gallery of the charts in an output folder in the order of
 /// their names, gallery.js, the list that it shows, and runtime/, the scripts that the
-/// pages share. A chart stands there with its picture, chart.svg or chart.png, and with
-/// the source of its procedure, a file "procedure" with any extension, where its folder
-/// has them. Throws RenderError when they cannot be written.
+/// pages share. A chart stands there with its picture, chart.svg or chart.png, where its
+/// folder has one, and with the source of its procedure, where the output folder has a
+/// file of the chart's name in procedures/. Throws RenderError when they cannot be
+/// written.
 void writeGallery(const std::filesystem::path& outputFolder);
 
 /// The same for a gallery that is there: adds the charts and errors that its list

@@ -1,10 +1,11 @@
 #include "page/GalleryList.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <initializer_list>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <set>
@@ -46,30 +47,31 @@ std::optional<std::string> firstOf(const fs::path& folder,
   return std::nullopt;
 }
 
-/// The source of the procedure that sent the chart: a file called "procedure".
-std::optional<std::string> sourceFile(const fs::path& folder) {
-  std::optional<std::string> found;
-  for (const auto& entry : fs::directory_iterator(folder))
-    if (entry.path().stem() == "procedure" && entry.is_regular_file())
-      if (const std::string name = entry.path().filename(); !found || name < *found) found = name;
-  return found;
+/// The files of the folder of sources, by their names without the extension.
+using Sources = std::map<std::string, fs::path>;
+
+Sources sourcesIn(const fs::path& outputFolder) {
+  Sources sources;
+  const fs::path folder = outputFolder / "procedures";
+  if (!is_directory(folder)) return sources;
+  for (const auto& entry : fs::directory_iterator(folder)) {
+    if (!entry.is_regular_file()) continue;
+    const auto [known, isNew] = sources.try_emplace(entry.path().stem(), entry.path());
+    if (!isNew) known->second = std::min(known->second, entry.path());
+  }
+  return sources;
 }
 
-/// Sources that were written already; charts of one procedure share theirs.
-using Sources = std::map<std::string, std::size_t>;
-
-/// A source as the page shows it. A longer one is linked only.
-std::string sourceLine(const fs::path& file, Sources& sources, Json& chart) {
+/// The line of a source; empty for one that is too long to show and only linked.
+std::string sourceLine(const fs::path& file) {
   constexpr std::uintmax_t longest = 200'000;
-  chart["sourceFile"] = file.filename().native();
   if (file_size(file) > longest) return {};
-  std::string text = readFile(file);
-  const auto [known, isNew] = sources.try_emplace(text, sources.size());
-  chart["source"] = known->second;
-  return isNew ? line(sourceCall, Json::array({std::move(text)})) : std::string();
+  return line(sourceCall, Json::array({file.filename().native(), readFile(file)}));
 }
 
-std::string chartLines(const fs::path& folder, Sources& sources) {
+/// The line of a chart, after that of its source when it is not among the known ones.
+std::string chartLines(const fs::path& folder, const Sources& sources,
+                       std::set<std::string>& knownSources) {
   Json chart = Json::object();
   try {
     const Manifest manifest = Manifest::read(folder);
@@ -81,7 +83,11 @@ std::string chartLines(const fs::path& folder, Sources& sources) {
   }
   if (const auto picture = firstOf(folder, {"chart.svg", "chart.png"})) chart["picture"] = *picture;
   std::string lines;
-  if (const auto source = sourceFile(folder)) lines = sourceLine(folder / *source, sources, chart);
+  if (const auto source = sources.find(chart["name"].get<std::string>()); source != sources.end()) {
+    const std::string name = source->second.filename();
+    chart["source"] = name;
+    if (knownSources.insert(name).second) lines = sourceLine(source->second);
+  }
   return lines + line(chartCall, Json::array({folder.filename().native(), std::move(chart)}));
 }
 
@@ -102,9 +108,20 @@ std::vector<std::string> errorTexts(const fs::path& outputFolder) {
 
 /// The list as it stands.
 struct Listed {
-  std::set<std::string> charts;
+  std::set<std::string> charts, sources;
   std::size_t errors = 0;
 };
+
+/// The first argument of a call, a JSON text; nothing when the line is damaged.
+std::optional<std::string> firstArgument(std::string_view line, std::string_view call) {
+  if (!line.starts_with(call)) return std::nullopt;
+  std::size_t end = call.size() + 1;
+  while (end < line.size() && line[end] != '"')
+    end += line[end] == '\\' ? 2 : 1;
+  const std::string_view text = line.substr(call.size(), end + 1 - call.size());
+  const auto name = Json::parse(text, nullptr, false);
+  return name.is_string() ? std::optional(name.get<std::string>()) : std::nullopt;
+}
 
 /// Nothing when the list is not there or a line of it was not written to its end.
 std::optional<Listed> readList(const fs::path& file) {
@@ -115,17 +132,13 @@ std::optional<Listed> readList(const fs::path& file) {
   for (std::string_view rest = list; !rest.empty();) {
     const std::string_view next = rest.substr(0, rest.find('\n'));
     rest.remove_prefix(next.size() + 1);
-    if (next.starts_with(errorCall)) ++listed.errors;
-    if (!next.starts_with(chartCall)) continue;
-    // The folder's name, in a JSON text that holds no quote unescaped.
-    std::size_t end = chartCall.size() + 1;
-    while (end < next.size() && next[end] != '"')
-      end += next[end] == '\\' ? 2 : 1;
-    const auto name = Json::parse(
-        next.substr(chartCall.size(), std::min(end + 1, next.size()) - chartCall.size()), nullptr,
-        false);
-    if (!name.is_string()) return std::nullopt;
-    listed.charts.insert(name.get<std::string>());
+    const bool isError = next.starts_with(errorCall);
+    const bool isSource = next.starts_with(sourceCall);
+    if (isError) ++listed.errors;
+    if (isError) continue;
+    auto name = firstArgument(next, isSource ? sourceCall : chartCall);
+    if (!name) return std::nullopt;
+    (isSource ? listed.sources : listed.charts).insert(std::move(*name));
   }
   return listed;
 }
@@ -155,16 +168,17 @@ void append(const fs::path& file, std::string_view lines) {
 
 void writeGalleryList(const fs::path& outputFolder) {
   std::string list;
-  Sources sources;
+  const Sources sources = sourcesIn(outputFolder);
+  std::set<std::string> known;
   for (const std::string& name : chartNames(outputFolder, {}))
-    list += chartLines(outputFolder / name, sources);
+    list += chartLines(outputFolder / name, sources, known);
   for (const std::string& error : errorTexts(outputFolder))
     list += line(errorCall, Json::array({error}));
   writeFile(outputFolder / galleryListName, list);
 }
 
 void updateGalleryList(const fs::path& outputFolder) {
-  const std::optional<Listed> listed = readList(outputFolder / galleryListName);
+  std::optional<Listed> listed = readList(outputFolder / galleryListName);
   if (!listed) return writeGalleryList(outputFolder);
   const std::vector<std::string> names = chartNames(outputFolder, *listed);
   std::vector<std::string> added;
@@ -175,12 +189,9 @@ void updateGalleryList(const fs::path& outputFolder) {
   if (isStale) return writeGalleryList(outputFolder);
 
   std::string lines;
-  for (const std::string& name : added) {
-    // Sources come with the whole list, where each stands once.
-    Sources none;
-    if (sourceFile(outputFolder / name)) return writeGalleryList(outputFolder);
-    lines += chartLines(outputFolder / name, none);
-  }
+  const Sources sources = sourcesIn(outputFolder);
+  for (const std::string& name : added)
+    lines += chartLines(outputFolder / name, sources, listed->sources);
   for (std::size_t i = listed->errors; i < errors.size(); ++i)
     lines += line(errorCall, Json::array({errors[i]}));
   if (!lines.empty()) append(outputFolder / galleryListName, lines);

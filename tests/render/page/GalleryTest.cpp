@@ -58,7 +58,7 @@ TEST_F(GalleryTest, IsMadeAnewWhenItsListIsDamagedOrStale) {
   const std::string whole = update();
   for (const std::string& damaged :
        {whole.substr(0, whole.size() - 5), std::string("chartxmlGallery.chart(\"x);\n"),
-        whole + "chartxmlGallery.chart(\"0003-gone\",{});\n",
+        whole + "x);\n", whole + "chartxmlGallery.chart(\"0003-gone\",{});\n",
         whole + "chartxmlGallery.error(\"old\");\n"}) {
     output.write("gallery.js", damaged);
     EXPECT_EQ(update(), whole) << damaged;
@@ -68,17 +68,31 @@ TEST_F(GalleryTest, IsMadeAnewWhenItsListIsDamagedOrStale) {
 }
 
 TEST_F(GalleryTest, ShowsPicturesSourcesAndTroubles) {
-  for (const char* name : {"1", "2"})
-    output.write(fmt::format("{}/chart.xml", name), "<graph/>")
-        .write(fmt::format("{}/chart.svg", name), "<svg/>")
-        .write(fmt::format("{}/procedure.f90", name), "end\n");
-  output.write("2/manifest.json", "[").write("2/procedure.f90", std::string(200'001, ' '));
-  const std::string list = renew();
-  EXPECT_THAT(list, HasSubstr("chartxmlGallery.source(\"end\\n\");\n"));
-  EXPECT_THAT(list,
-              HasSubstr(R"("picture":"chart.svg","sourceFile":"procedure.f90","source":0});)"));
-  EXPECT_THAT(list, HasSubstr(R"("2",{"name":"2","trouble":")"));
-  EXPECT_THAT(list, HasSubstr(R"("picture":"chart.svg","sourceFile":"procedure.f90"});)"));
+  output.write("procedures/n.f90", "end\n").write("procedures/n.g", "later");
+  output.write("procedures/long.c", std::string(200'001, ' '));
+  for (const char* folder : {"1", "2", "3", "4"})
+    output.write(fmt::format("{}/chart.xml", folder), "<graph/>")
+        .write(fmt::format("{}/manifest.json", folder), R"({"name": "n"})");
+  output.write("1/chart.svg", "<svg/>").write("3/manifest.json", R"({"name": "long"})");
+  output.write("4/manifest.json", "[");
+  const std::string list = update();
+  EXPECT_THAT(
+      list,
+      testing::StartsWith(
+          "chartxmlGallery.source(\"n.f90\",\"end\\n\");\n"
+          R"(chartxmlGallery.chart("1",{"name":"n","description":"","language":"en","picture":"chart.svg","source":"n.f90"});)"
+          "\n"
+          R"(chartxmlGallery.chart("2",{"name":"n","description":"","language":"en","source":"n.f90"});)"
+          "\n"
+          R"(chartxmlGallery.chart("3",{"name":"long","description":"","language":"en","source":"long.c"});)"
+          "\n"
+          R"(chartxmlGallery.chart("4",{"name":"4","trouble":")"));
+  output.write("5/chart.xml", "<graph/>").write("5/manifest.json", R"({"name": "n"})");
+  EXPECT_EQ(
+      update(),
+      list +
+          R"(chartxmlGallery.chart("5",{"name":"n","description":"","language":"en","source":"n.f90"});)"
+          "\n");
 }
 
 } // namespace

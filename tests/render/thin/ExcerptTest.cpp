@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <string>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
