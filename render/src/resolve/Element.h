@@ -50,7 +50,8 @@ struct Element {
   const Variable* x = nullptr;
   const Variable* y = nullptr;
   const Variable* group = nullptr;       ///< tells groups apart by color and shape
-  std::vector<const Variable*> splits{}; ///< tell rows apart without a sign of it
+  const Variable* shape = nullptr;       ///< tells them apart by shape, where color does not
+  std::vector<const Variable*> splits{}; ///< tell rows apart; that of the shape is one
   const Variable* shade = nullptr;       ///< colors marks along a range of colors
   const Variable* size = nullptr;        ///< sizes marks by its values
   const Variable* labels = nullptr;      ///< is written at the marks

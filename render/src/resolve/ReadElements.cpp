@@ -229,12 +229,26 @@ private:
     } else if (!variable.categorical) {
       note(fmt::format("a {} by the values of {} is not drawn yet", child.kind, variable.title));
     } else if (element.group != nullptr && element.group != &variable) {
-      note(fmt::format("a second grouping, by {}, is not drawn yet", variable.title));
+      readShape(element, variable);
     } else {
       element.group = &variable;
       if (child.attribute("styleCycle").find("Pattern") != std::string_view::npos)
         note("patterns are drawn as colors, symbols and dashes");
     }
+  }
+
+  /// Points and lines show a second grouping; others have nothing left to show it by.
+  void readShape(Element& element, const Variable& variable) {
+    static constexpr std::array<std::string_view, 4> shaped{"point", "line", "path", "edge"};
+    const bool hasShapes = std::ranges::find(shaped, element.type()) != shaped.end();
+    if (!hasShapes || (element.shape != nullptr && element.shape != &variable)) {
+      notes_.add(fmt::format("{}: a grouping by {} beside the others is not drawn", node_.name(),
+                             variable.title));
+      return;
+    }
+    if (element.shape == &variable) return;
+    element.shape = &variable;
+    element.splits.push_back(&variable);
   }
 
   const Node& node_;

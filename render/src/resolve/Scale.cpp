@@ -131,6 +131,10 @@ private:
         notes_.add(fmt::format("there are no values to draw along {}", dimension_.role));
     }
     chooseLogarithm(extent.low, dimension_);
+    if (!takes(extent.low, dimension_)) {
+      extent.low = 1;
+      extent.high = 10;
+    }
     if (extent.leavesOut)
       notes_.add(fmt::format("values of zero and less are left out along {}: its scale does not "
                              "take them",

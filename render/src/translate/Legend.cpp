@@ -20,14 +20,18 @@ struct Entry {
   bool lines = false;
   bool bars = false;
   bool hollow = false;
+  bool shapesOnly = false; ///< color tells other groups apart
 };
 
-/// Whether a target asks for the groups of its element.
-bool asksForGroups(const Node& target, const Node& element) {
+/// Whether a target asks for the groups that a variable makes of its element: all of them,
+/// those of a color, or those of one of its styleBys.
+bool asksFor(const Variable& variable, const Node& target, const Element& element) {
   const std::string_view aesthetic = target.attribute("aesthetic");
-  if (aesthetic.empty() || aesthetic == "color" || aesthetic == "styleBy") return true;
-  return std::ranges::any_of(element.children, [=](const Node& child) {
-    return (child.kind == "styleBy" || child.kind == "color") && child.id() == aesthetic;
+  if (aesthetic.empty() || aesthetic == "styleBy") return true;
+  if (aesthetic == "color") return &variable == element.group;
+  return std::ranges::any_of(element.node->children, [&](const Node& child) {
+    return (child.kind == "styleBy" || child.kind == "color") && child.id() == aesthetic &&
+           child.attribute("variable") == variable.id;
   });
 }
 
@@ -57,6 +61,20 @@ void addShadeLegend(const Element& element, const Node& legend, Context& context
           {{"update", {{"text", {{"signal", valueText(shade.format, "datum.value")}}}}}}}}}});
 }
 
+void addEntry(const Element& element, const Variable& group, std::vector<Entry>& entries,
+              const Context& context) {
+  auto entry = std::ranges::find(entries, &group, &Entry::group);
+  if (entry == entries.end()) entry = entries.insert(entry, {.group = &group});
+  const std::string_view type = element.type();
+  const bool isPoint = type == "point";
+  const bool isLine = type == "line" || type == "path" || type == "edge";
+  entry->points = entry->points || isPoint;
+  entry->lines = entry->lines || isLine;
+  entry->bars = entry->bars || (!isPoint && !isLine);
+  entry->hollow = entry->hollow || (isPoint && isHollow(*element.node, context.chart));
+  entry->shapesOnly = &group == element.shape;
+}
+
 void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entries,
                Context& context) {
   const Node* node = context.chart.folder->document.find(target.attribute("element"));
@@ -75,20 +93,13 @@ void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entri
           fmt::format("{}: {} has no groups for a legend", target.name(), node->name()));
     return;
   }
-  if (!asksForGroups(target, *node)) {
+  const bool asksForGroup = asksFor(*element->group, target, *element);
+  const bool asksForShape = element->shape != nullptr && asksFor(*element->shape, target, *element);
+  if (asksForGroup) addEntry(*element, *element->group, entries, context);
+  if (asksForShape) addEntry(*element, *element->shape, entries, context);
+  if (!asksForGroup && !asksForShape)
     context.notes.add(fmt::format("{}: a legend of {} is not drawn yet", target.name(),
                                   shown(target.attribute("aesthetic"))));
-    return;
-  }
-  auto entry = std::ranges::find(entries, element->group, &Entry::group);
-  if (entry == entries.end()) entry = entries.insert(entry, {.group = element->group});
-  const bool isPoint = node->attribute("type") == "point";
-  const bool isLine = node->attribute("type") == "line" || node->attribute("type") == "path" ||
-                      node->attribute("type") == "edge";
-  entry->points = entry->points || isPoint;
-  entry->lines = entry->lines || isLine;
-  entry->bars = entry->bars || (!isPoint && !isLine);
-  entry->hollow = entry->hollow || (isPoint && isHollow(*node, context.chart));
 }
 
 /// Labels wrapped to the legend's width.
@@ -113,12 +124,30 @@ std::string addSymbolsOnLines(const Variable& group, Parts& parts) {
   return name;
 }
 
+/// Symbols or dashes without a color of their own; the document's title is that of the
+/// colors.
+Json shapeLegend(const Entry& entry, Context& context) {
+  const Variable& group = *entry.group;
+  Json json{{"title", titleLines(group.title)},
+            {entry.points ? "shape" : "strokeDash",
+             scaleName(entry.points ? "symbol" : "dash", group.id)},
+            {"symbolStrokeColor", {{"signal", "ink"}}}};
+  if (entry.points)
+    json["symbolFillColor"] = "transparent";
+  else
+    json["symbolType"] = theme::lineSymbol;
+  json["encode"]["labels"]["update"]["text"] = {{"scale", addLegendLabels(group, context.parts)},
+                                                {"field", "value"}};
+  return json;
+}
+
 Json legendOf(const Entry& entry, const Node& legend, Context& context) {
   const Variable& group = *entry.group;
   addGroupScales(group, context.parts);
   const Node* label = legend.child("label");
   const std::string& title = label && !label->text.empty() ? label->text : group.title;
 
+  if (entry.shapesOnly) return shapeLegend(entry, context);
   Json json{{"title", titleLines(title)}, {"stroke", scaleName("color", group.id)}};
   if (entry.bars) {
     json["symbolType"] = theme::barSymbol;

@@ -19,9 +19,12 @@ Json lineMark(const Element& element, Context& context) {
   if (const std::string_view steps = interpolationOf(*element.node); steps != "linear")
     update["interpolate"] = {{"value", steps}};
   if (element.group != nullptr) {
-    if (!hasPoints(*element.group, context.chart))
-      update["strokeDash"] = {{"scale", scaleName("dash", element.group->id)},
-                              {"field", fieldPath(element.group->id)}};
+    const Variable& dashed = element.shape != nullptr ? *element.shape : *element.group;
+    if (element.shape != nullptr || !hasPoints(dashed, context.chart)) {
+      addGroupScales(dashed, context.parts);
+      update["strokeDash"] = {{"scale", scaleName("dash", dashed.id)},
+                              {"field", fieldPath(dashed.id)}};
+    }
     update["tooltip"] = {
         {"signal", fmt::format("[{}]", tooltipEntry(*element.group, context.parts))}};
   }

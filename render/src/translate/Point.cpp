@@ -21,7 +21,9 @@ std::string pointTooltip(const Element& element, Context& context) {
   }
   if (element.group == nullptr) return tooltip;
   addGroupScales(*element.group, context.parts);
-  return tooltipEntry(*element.group, context.parts) + "," + tooltip;
+  std::string groups = tooltipEntry(*element.group, context.parts) + ",";
+  if (element.shape != nullptr) groups += tooltipEntry(*element.shape, context.parts) + ",";
+  return groups + tooltip;
 }
 
 /// Symbols whose areas go with a variable, or with the counts of cells, from `low`.
@@ -68,10 +70,11 @@ Json sizeOf(const Element& element, Context& context) {
   return {{"value", theme::pointSize}};
 }
 
-Json shapeOf(const Element& element) {
-  if (element.group == nullptr) return {{"value", theme::symbols.front().path}};
-  return {{"scale", scaleName("symbol", element.group->id)},
-          {"field", fieldPath(element.group->id)}};
+Json shapeOf(const Element& element, Context& context) {
+  const Variable* shown = element.shape != nullptr ? element.shape : element.group;
+  if (shown == nullptr) return {{"value", theme::symbols.front().path}};
+  addGroupScales(*shown, context.parts);
+  return {{"scale", scaleName("symbol", shown->id)}, {"field", fieldPath(shown->id)}};
 }
 
 } // namespace
@@ -87,8 +90,7 @@ void translatePoint(const Node& node, Context& context) {
     addSlotOffset(update[channelsOf(placeRole(*element), context.chart).start], *element,
                   theme::barBand, context);
   update["size"] = sizeOf(*element, context);
-  if (element->group != nullptr) addGroupScales(*element->group, context.parts);
-  update["shape"] = shapeOf(*element);
+  update["shape"] = shapeOf(*element, context);
   update["stroke"] = color(*element, context);
   update["strokeWidth"] = {{"value", theme::thinWidth}};
   // A transparent filling, unlike none, still takes the pointer.

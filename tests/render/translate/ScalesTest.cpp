@@ -78,6 +78,13 @@ TEST_F(ScalesTest, ASafeLogarithmGoesThroughZeroAndAnUnsafeOneLeavesValuesOut) {
                                 "take them"));
 }
 
+TEST_F(ScalesTest, ALogarithmWithoutValuesStillHasAScale) {
+  for (const char* table : {"A,B,Group\n", "A,B,Group\n-1,2,a\n0,2,a\n"})
+    EXPECT_EQ(drawn("x", noMargins, scaleNode("log", base10), point, "", table)["domain"],
+              json({1, 10}))
+        << table;
+}
+
 TEST_F(ScalesTest, APowerIsDrawnAndAScaleInverted) {
   const json scale =
       drawn("x", noMargins,

@@ -193,6 +193,22 @@ TEST_F(TranslateTest, ALegendShowsTheSymbolsOfItsTargets) {
   EXPECT_EQ(lines[0]["strokeDash"], "dash_v3");
 }
 
+TEST_F(TranslateTest, ASecondGroupingIsShownByShapesWithALegendOfItsOwn) {
+  const std::string points = R"(<element type="point" id="points"><x variable="v1"/>
+    <y variable="v2"/><color variable="v3"/><styleBy variable="v4" id="by" styleCycle="c"/></element>)";
+  const std::string rest = R"(<variable id="v4" sourceName="B" source="source0" categorical="true"
+    shortLabel="kind"/><frame id="f"><legend id="l"><legendTarget element="points"/></legend></frame>)";
+  const json plot = plotOf(points, rest);
+  const json& update = plot["marks"][0]["encode"]["update"];
+  EXPECT_EQ(update["stroke"], json::parse(R"({"scale": "color_v3", "field": "v3"})"));
+  EXPECT_EQ(update["shape"], json::parse(R"({"scale": "symbol_v4", "field": "v4"})"));
+  ASSERT_EQ(plot["legends"].size(), 2U);
+  EXPECT_EQ(plot["legends"][0]["stroke"], "color_v3");
+  EXPECT_EQ(plot["legends"][1]["shape"], "symbol_v4");
+  EXPECT_EQ(plot["legends"][1]["title"], json({"kind"}));
+  EXPECT_FALSE(plot["legends"][1].contains("stroke"));
+}
+
 TEST_F(TranslateTest, AFunctionIsDrawnAcrossTheXScaleAndNamedInALegend) {
   const json drawn = spec(std::string(point) + R"(<guide id="g" type="function" name="Fit">
     <parameter name="y" value="2 * x"/><parameter name="numPoints" value="3"/></guide>)");
