@@ -197,16 +197,20 @@ private:
   /// What tells the element's rows apart, colors and sizes them; what it asks for beyond
   /// that is noted.
   void readAesthetics(Element& element) {
-    for (const Node& child : node_.children) {
-      static constexpr std::array<std::string_view, 5> kinds{"styleBy", "color", "split", "size",
-                                                             "labeling"};
-      if (std::ranges::find(kinds, child.kind) == kinds.end()) continue;
-      const Variable* variable = chart_.variableOf(child);
-      if (variable == nullptr || variable->texts == nullptr)
-        notes_.add(fmt::format("{}: the variable of its {} has no data", node_.name(), child.kind));
-      else
-        readAesthetic(element, child, *variable);
-    }
+    // Color first, so that a styleBy beside it is shown by shape.
+    static constexpr std::array<std::string_view, 5> kinds{"color", "styleBy", "split", "size",
+                                                           "labeling"};
+    for (const std::string_view kind : kinds)
+      for (const Node& child : node_.children)
+        if (child.kind == kind) findAesthetic(element, child);
+  }
+
+  void findAesthetic(Element& element, const Node& child) {
+    const Variable* variable = chart_.variableOf(child);
+    if (variable == nullptr || variable->texts == nullptr)
+      notes_.add(fmt::format("{}: the variable of its {} has no data", node_.name(), child.kind));
+    else
+      readAesthetic(element, child, *variable);
   }
 
   void readAesthetic(Element& element, const Node& child, const Variable& variable) {

@@ -147,6 +147,13 @@ void labelRows(Context& context) {
           context);
 }
 
+} // namespace
+
+void addFacetLabels(Context& context) {
+  if (!context.chart.facets.columns.front().empty()) labelColumns(context);
+  if (!context.chart.facets.rows.front().empty()) labelRows(context);
+}
+
 const Node* facetLabel(std::size_t level, const Chart& chart) {
   const Node* labeling = chart.plot->child("facetLabeling");
   if (labeling == nullptr) return nullptr;
@@ -155,13 +162,6 @@ const Node* facetLabel(std::size_t level, const Chart& chart) {
     return child.kind == "facetLabel" && child.attribute("level") == wanted;
   });
   return found == labeling->children.end() ? nullptr : &*found;
-}
-
-} // namespace
-
-void addFacetLabels(Context& context) {
-  if (!context.chart.facets.columns.front().empty()) labelColumns(context);
-  if (!context.chart.facets.rows.front().empty()) labelRows(context);
 }
 
 int rowLabelRoom(const Chart& chart) {

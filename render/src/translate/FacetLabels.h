@@ -8,6 +8,9 @@ namespace render {
 /// below the axis that panels share.
 void addFacetLabels(Context& context);
 
+/// The "facetLabel" of a level, counted from 1 with the columns first, or null.
+const Node* facetLabel(std::size_t level, const Chart& chart);
+
 /// How much room the labels of rows of panels take beside them.
 int rowLabelRoom(const Chart& chart);
 

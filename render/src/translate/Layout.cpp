@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "text/Show.h"
+#include "translate/FacetLabels.h"
 #include "translate/Theme.h"
 
 namespace render {
@@ -27,22 +28,38 @@ double lengthOf(std::string_view text, double whole, double usual, const Node& n
   return usual;
 }
 
-/// The first level at which two neighbours differ decides how far they are apart.
-double gapBetween(const FacetCell& one, const FacetCell& next, double whole, double usual,
-                  Notes& notes) {
-  for (std::size_t level = 0; level < std::min(one.size(), next.size()); ++level) {
-    if (one[level] == next[level]) continue;
-    const double atLevel = level + 1 < one.size() ? 2 * usual : usual;
-    return lengthOf(one[level].node->attribute("gap"), whole, atLevel, *one[level].node, notes);
-  }
-  return usual;
+/// The gap of a facet variable, or else of the label of its level.
+double gapOf(const FacetValue& value, std::size_t level, double whole, double usual,
+             const Chart& chart, Notes& notes) {
+  const Node* node = value.node;
+  const Node* label = facetLabel(level, chart);
+  if (node->attribute("gap").empty() && label != nullptr) node = label;
+  return lengthOf(node->attribute("gap"), whole, usual, *node, notes);
 }
 
-std::vector<double> gapsBetween(const std::vector<FacetCell>& cells, double whole, double usual,
-                                Notes& notes) {
+/// What all gaps of one direction have in common.
+struct Direction {
+  double whole;           ///< the length of the plot
+  double usual;           ///< between neighbours of the innermost level
+  std::size_t firstLevel; ///< of the labels
+};
+
+/// The first level at which two neighbours differ decides how far they are apart.
+double gapBetween(const FacetCell& one, const FacetCell& next, const Direction& direction,
+                  const Chart& chart, Notes& notes) {
+  for (std::size_t i = 0; i < std::min(one.size(), next.size()); ++i) {
+    if (one[i] == next[i]) continue;
+    const double atLevel = i + 1 < one.size() ? 2 * direction.usual : direction.usual;
+    return gapOf(one[i], direction.firstLevel + i, direction.whole, atLevel, chart, notes);
+  }
+  return direction.usual;
+}
+
+std::vector<double> gapsBetween(const std::vector<FacetCell>& cells, const Direction& direction,
+                                const Chart& chart, Notes& notes) {
   std::vector<double> gaps;
   for (std::size_t i = 1; i < cells.size(); ++i)
-    gaps.push_back(gapBetween(cells[i - 1], cells[i], whole, usual, notes));
+    gaps.push_back(gapBetween(cells[i - 1], cells[i], direction, chart, notes));
   return gaps;
 }
 
@@ -74,8 +91,12 @@ Layout Layout::of(const Chart& chart, Notes& notes) {
   constexpr double least = 20; // of a panel's side, however many there are
   const double usual = chart.facets.areAlongAxis ? axisGap : tableGap;
   const auto& [columns, rows, alongAxis] = chart.facets;
-  const std::vector<double> across = gapsBetween(columns, theme::plotWidth, usual, notes);
-  const std::vector<double> down = gapsBetween(rows, theme::plotHeight, usual, notes);
+  const std::size_t firstRowLevel = 1 + columns.front().size();
+  const std::vector<double> across = gapsBetween(
+      columns, {.whole = theme::plotWidth, .usual = usual, .firstLevel = 1}, chart, notes);
+  const std::vector<double> down =
+      gapsBetween(rows, {.whole = theme::plotHeight, .usual = usual, .firstLevel = firstRowLevel},
+                  chart, notes);
   double width = std::max(
       least, std::floor((theme::plotWidth - sum(across)) / static_cast<double>(columns.size())));
   double height = std::max(

@@ -21,6 +21,7 @@ struct Entry {
   bool bars = false;
   bool hollow = false;
   bool shapesOnly = false; ///< color tells other groups apart
+  bool colorsOnly = false; ///< shape does
 };
 
 /// Whether a target asks for the groups that a variable makes of its element: all of them,
@@ -73,6 +74,7 @@ void addEntry(const Element& element, const Variable& group, std::vector<Entry>&
   entry->bars = entry->bars || (!isPoint && !isLine);
   entry->hollow = entry->hollow || (isPoint && isHollow(*element.node, context.chart));
   entry->shapesOnly = &group == element.shape;
+  entry->colorsOnly = element.shape != nullptr && &group == element.group;
 }
 
 void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entries,
@@ -154,8 +156,11 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
     json["fill"] = scaleName("color", group.id);
     json["encode"]["symbols"]["update"]["fillOpacity"] = {{"value", theme::barOpacity}};
   } else if (entry.points) {
-    json["shape"] =
-        entry.lines ? addSymbolsOnLines(group, context.parts) : scaleName("symbol", group.id);
+    if (entry.colorsOnly)
+      json["symbolType"] = theme::symbols.front().path;
+    else
+      json["shape"] =
+          entry.lines ? addSymbolsOnLines(group, context.parts) : scaleName("symbol", group.id);
     if (entry.hollow)
       json["symbolFillColor"] = "transparent";
     else
@@ -163,7 +168,8 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
     json["encode"]["symbols"]["update"]["fillOpacity"] = {{"value", theme::fillOpacity}};
   } else {
     json["symbolType"] = theme::lineSymbol;
-    if (!hasPoints(group, context.chart)) json["strokeDash"] = scaleName("dash", group.id);
+    if (!entry.colorsOnly && !hasPoints(group, context.chart))
+      json["strokeDash"] = scaleName("dash", group.id);
   }
   json["encode"]["labels"]["update"]["text"] = {{"scale", addLegendLabels(group, context.parts)},
                                                 {"field", "value"}};

@@ -67,7 +67,7 @@ const Rule rules[] = {
      {"tableFacet", "coordinateFacet", "cross", "nest", "blend"},
      {"role=x", "role=y", "variable", "gap"}},
     {"facetLabeling", {"frame"}, {"id", "style", "cellAspect"}},
-    {"facetLabel", {"facetLabeling"}, {"id", "style", "level", "cellStyle"}},
+    {"facetLabel", {"facetLabeling"}, {"id", "style", "level", "gap", "cellStyle"}},
     {"axis", {"facetLabel"}, {"id", "style", "baselineStyle"}},
     {"label", {"facetLabel"}, {"id", "style"}},
     // scales and axes

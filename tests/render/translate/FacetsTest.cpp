@@ -145,6 +145,19 @@ TEST_F(FacetsTest, ACoordinateFacetPutsItsPanelsAlongOneAxis) {
   EXPECT_GT(spec_["marks"][0]["marks"][2]["encode"]["update"]["y"]["value"], 480);
 }
 
+TEST_F(FacetsTest, AFacetVariableOrTheLabelOfItsLevelTellsTheGapAndTheTitle) {
+  constexpr std::string_view labeling = R"(<facetLabeling><facetLabel id="f" level="2" gap="48px">
+    <axis id="fa"><label id="fl">Which kind</label></axis></facetLabel></facetLabeling>)";
+  draw(fmt::format(R"(<tableFacet><facetVariable role="x" variable="v3" gap="10%"/>
+    <facetVariable role="y" variable="v4"/></tableFacet>{})",
+                   labeling));
+  const json update = panels()[3]["encode"]["update"];
+  EXPECT_EQ(update["x"], json({{"value", 324 + 72}}));
+  EXPECT_EQ(update["y"], json({{"value", 216 + 48}}));
+  EXPECT_EQ(labels().back(), "Which kind");
+  EXPECT_EQ(spec_["usermeta"]["notes"], json::array());
+}
+
 TEST_F(FacetsTest, FacetsThatCannotBeDrawnAreNoted) {
   draw(R"(<tableFacet><facetVariable role="x" variable="v1"/></tableFacet>
     <facetLabeling id="l" cellAspect="none"/>)");

@@ -195,7 +195,7 @@ TEST_F(TranslateTest, ALegendShowsTheSymbolsOfItsTargets) {
 
 TEST_F(TranslateTest, ASecondGroupingIsShownByShapesWithALegendOfItsOwn) {
   const std::string points = R"(<element type="point" id="points"><x variable="v1"/>
-    <y variable="v2"/><color variable="v3"/><styleBy variable="v4" id="by" styleCycle="c"/></element>)";
+    <y variable="v2"/><styleBy variable="v4" id="by" styleCycle="c"/><color variable="v3"/></element>)";
   const std::string rest = R"(<variable id="v4" sourceName="B" source="source0" categorical="true"
     shortLabel="kind"/><frame id="f"><legend id="l"><legendTarget element="points"/></legend></frame>)";
   const json plot = plotOf(points, rest);
@@ -204,6 +204,7 @@ TEST_F(TranslateTest, ASecondGroupingIsShownByShapesWithALegendOfItsOwn) {
   EXPECT_EQ(update["shape"], json::parse(R"({"scale": "symbol_v4", "field": "v4"})"));
   ASSERT_EQ(plot["legends"].size(), 2U);
   EXPECT_EQ(plot["legends"][0]["stroke"], "color_v3");
+  EXPECT_FALSE(plot["legends"][0].contains("shape"));
   EXPECT_EQ(plot["legends"][1]["shape"], "symbol_v4");
   EXPECT_EQ(plot["legends"][1]["title"], json({"kind"}));
   EXPECT_FALSE(plot["legends"][1].contains("stroke"));
