@@ -60,8 +60,12 @@ public:
     element.hasBase = type.hasBase;
     readMethod(element);
     readModifier(element);
-    // A pie measures the angle of what stands nowhere.
-    if (element.isSlice) std::swap(element.x, element.y);
+    // A pie measures the angle of what stands nowhere; its pieces follow one another,
+    // whether the element says so or not.
+    if (element.isSlice) {
+      std::swap(element.x, element.y);
+      element.modifier = Modifier::stack;
+    }
     element.measuresX = !element.isSlice && measuresAlongX(element);
     if (const std::string_view why = lack(element, type); !why.empty()) return refuse(why);
 

@@ -232,13 +232,11 @@ TEST_F(ElementsTest, TheNameOfAStyleSaysWhatAnIntervalLooksLike) {
 
 TEST_F(ElementsTest, PiecesOfAPieAndBarsInPolarCoordinatesAreSectors) {
   constexpr std::string_view polar = R"(<coordinateTransform method="polar"/>)";
-  EXPECT_EQ(drawn(fmt::format("{}{}", polar,
-                              element("interval",
-                                      fmt::format(R"(<theta variable="v2"/>{}{})", statistic("sum"),
-                                                  grouped),
-                                      "stack")),
-                  parts, {"v4", "low", "high"}, groupVariable),
-            json::parse(R"([["p",0,50],["q",50,100]])"));
+  const std::string pie = fmt::format(R"(<theta variable="v2"/>{}{})", statistic("sum"), grouped);
+  for (const char* modifier : {"stack", "none"})
+    EXPECT_EQ(drawn(fmt::format("{}{}", polar, element("interval", pie, modifier)), parts,
+                    {"v4", "low", "high"}, groupVariable),
+              json::parse(R"([["p",0,50],["q",50,100]])"));
   EXPECT_THAT(spec_["usermeta"]["notes"],
               testing::Contains("values below zero have no piece of e"));
   EXPECT_EQ(spec_["marks"][0]["marks"][0]["type"], "arc");
