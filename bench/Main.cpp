@@ -16,6 +16,8 @@ struct Comparison {
 };
 
 constexpr Comparison comparisons[] = {
+    {"call/entry", "call/direct", "entry point that forwards, against the chart's operation"},
+    {"call/fortran_text", "call/fortran_raw", "Fortran call with a text, against two entry points"},
     {"node/entry/1000", "node/bare/1000", "entry point to node added, against xerces bare"},
     {"node/entry/100000", "node/bare/100000", "the same in a chart of 100 000 nodes"},
     {"node/entry/100000", "node/entry/1000", "a node at 100 000, against one at 1000"},
