@@ -77,13 +77,14 @@ contains
   end subroutine
 
   subroutine test_arrays
-    integer(cx) :: variables(4), i, element
+    integer(cx) :: variables(4), i, element, made
 
     do i = 1, size(variables)
-      variables(i) = cx_addaggregate(chart, source, absent, false, absent, absent, absent)
+      variables(i) = cx_addaggregate(chart, source, absent, false, absent, absent, absent) &
+        + beyond_32_bits
     end do
-    call expect('a strided array crosses', cx_addsplomelement(chart, data, &
-      variables(4:1:-2) + beyond_32_bits, 2_cx, element), element)
+    made = cx_addsplomelement(chart, data, variables(4:1:-2), 2_cx, element)
+    call expect('a strided array crosses', made > 0 .and. made == element)
   end subroutine
 
   subroutine test_what_was_sent

@@ -151,7 +151,7 @@ TEST_F(Command, TellsWhatAChartIs) {
 TEST_F(Command, MakesTheSameBytesAgain) {
   const auto sent = files();
   const Outcome opened{0, "open /charts/index.html\n"};
-  ASSERT_EQ(shell("rm charts/0001-small/chart.html && $chartxml render charts"), opened);
+  ASSERT_EQ(shell("rm charts/0001-small/chart.html && chartxml render charts"), opened);
   EXPECT_EQ(files(), sent);
   ASSERT_EQ(chartxml("render charts/0001-small --svg --png"), opened);
   EXPECT_EQ(chartxml("verify charts"), (Outcome{0, "1 chart, 0 findings\n"}));
@@ -188,7 +188,7 @@ TEST_F(Command, NamesChartsThatCannotBeDrawnAndDrawsTheOthers) {
   EXPECT_EQ(errors(), R"(["chart.xml:2:1: unexpected end of input"])");
   EXPECT_THAT(scratch.read("charts/0002-good/chart.svg"), HasSubstr("<svg"));
   ASSERT_EQ(shell("mv charts/0001-small/kept charts/0001-small/chart.xml; "
-                  "$chartxml render charts/0001-small && $chartxml verify charts"),
+                  "chartxml render charts/0001-small && chartxml verify charts"),
             (Outcome{0, "open /charts/index.html\n2 charts, 0 findings\n"}));
   EXPECT_EQ(errors(), "[]");
 }
@@ -206,7 +206,7 @@ TEST_F(Command, SaysThatPicturesCannotBeDrawn) {
 }
 
 TEST_F(Command, MakesTheGalleryAnew) {
-  ASSERT_EQ(shell("rm -r charts/index.html charts/runtime; $chartxml gallery charts"),
+  ASSERT_EQ(shell("rm -r charts/index.html charts/runtime; chartxml gallery charts"),
             (Outcome{0, ""}));
   EXPECT_THAT(scratch.read("charts/index.html"), HasSubstr("gallery.js"));
   EXPECT_THAT(scratch.read("charts/gallery.js"), HasSubstr("chart(\"0001-small\""));
@@ -215,7 +215,7 @@ TEST_F(Command, MakesTheGalleryAnew) {
 
 TEST_F(Command, IsCompletedByTheShellWithItsOwnVerbsAndOptions) {
   const auto completed = [&](const std::string& words, int at) {
-    return shell(fmt::format("bash -c 'source <($chartxml completion bash); compopt() {{ :; }}; "
+    return shell(fmt::format("bash -c 'source <(chartxml completion bash); compopt() {{ :; }}; "
                              "COMP_WORDS=({}); COMP_CWORD={}; _chartxml; echo ${{COMPREPLY[@]}}'",
                              words, at))
         .text;

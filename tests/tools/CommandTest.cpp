@@ -31,9 +31,9 @@ CommandTest::CommandTest() {
 }
 
 Outcome CommandTest::shell(const std::string& line) const {
-  const std::string command =
-      fmt::format("cd '{}' && export chartxml='{}' LC_ALL=C && {{ {}\n}} 2>&1",
-                  scratch.path().native(), COMMAND, line);
+  const std::string command = fmt::format(
+      "cd '{}' && export PATH='{}':\"$PATH\" LC_ALL=C && {{ {}\n}} 2>&1", scratch.path().native(),
+      std::filesystem::path(COMMAND).parent_path().native(), line);
   FILE* const output = popen(command.c_str(), "r");
   std::string text;
   for (int c = std::fgetc(output); c != EOF; c = std::fgetc(output))

@@ -27,9 +27,9 @@ class CommandTest : public testing::Test {
 protected:
   CommandTest();
 
-  /// Runs a shell command in which $chartxml is the command.
+  /// Runs a shell command that finds chartxml on its path.
   Outcome shell(const std::string& line) const;
-  Outcome chartxml(const std::string& arguments) const { return shell("$chartxml " + arguments); }
+  Outcome chartxml(const std::string& arguments) const { return shell("chartxml " + arguments); }
 
   /// The bytes of all files in the chart folder by name.
   std::map<std::string, std::string> files() const;

@@ -1,19 +1,16 @@
 #pragma once
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace tools {
 
-/// How a command ended; the larger the worse.
+/// How a command ended.
 enum Status : int {
   good = 0,
   findings = 1, ///< a chart is not as it should be, or cannot be drawn
   usage = 2,    ///< the command line is not understood, or names what is no chart
   failed = 3    ///< the work could not be done: a file cannot be read or written, ...
 };
-
-inline Status worse(Status a, Status b) { return std::max(a, b); }
 
 /// A command line that cannot be followed.
 class UsageError : public std::runtime_error {

@@ -66,6 +66,25 @@ TEST_F(EntryPoints, BuildDimensionsWithAxes) {
   EXPECT_THAT(takeReports(), ElementsAre("frame handle (77) out of range (0-9)"));
 }
 
+// The margins of both dimensions come before the mappings of both.
+TEST_F(EntryPoints, BuildTwoDimensionsWithMarginsAndMappings) {
+  create();
+  std::int64_t xs = 0, xa = 0, ys = 0, ya = 0;
+  const std::int64_t x =
+      cx_addxydimension_(Int(0), Int(data), Int(-1), Int(-1), Int(0), Int(1), &xs, &xa, &ys, &ya,
+                         Int(text("1%")), Int(text("2%")), Int(text("3%")), Int(text("4%")),
+                         Int(text("5")), Int(text("6")), Int(text("7")), Int(text("8")));
+  EXPECT_THAT(fragment(0, static_cast<int>(x)),
+              HasSubstr(R"(<dimension facetsShareScale="true" lowerMapping="6" lowerMargin="2%" )"
+                        R"(role="x" upperMapping="5" upperMargin="1%"><axis )"));
+  EXPECT_THAT(fragment(0, static_cast<int>(data)),
+              HasSubstr(R"(<dimension facetsShareScale="true" lowerMapping="8" lowerMargin="4%" )"
+                        R"(role="y" upperMapping="7" upperMargin="3%"><axis )"));
+  EXPECT_THAT(fragment(0, static_cast<int>(ya)), HasSubstr(R"(opposite="true")"));
+  EXPECT_EQ(registry().getUTF8String(static_cast<int>(xs)), "axisx_1");
+  EXPECT_EQ(registry().getUTF8String(static_cast<int>(ys)), "axisy_1");
+}
+
 TEST_F(EntryPoints, BuildElementsLegendsAndTitles) {
   create();
   std::int64_t style = 0, legend = 0, element = 0;
@@ -182,8 +201,7 @@ TEST_F(EntryTexts, PassTheirArgumentsInOrder) {
   EXPECT_EQ(cx_addparameter_(none, list, first), 0);
   EXPECT_EQ(cx_beginrepeat_(none, list), 0);
   for (const Int handle :
-       {cx_variablename_(none, none, Int(2)), cx_variablelabel_(none, none, Int(1)),
-        cx_value_(Int(2), isle), cx_objectlabel_(Int(1), row)}) {
+       {first, first, Int(cx_value_(Int(2), isle)), Int(cx_objectlabel_(Int(1), row))}) {
     EXPECT_EQ(cx_addparameter_(none, list, handle), 0);
   }
   EXPECT_EQ(cx_endrepeat_(none, list), 0);
@@ -193,6 +211,8 @@ TEST_F(EntryTexts, PassTheirArgumentsInOrder) {
 
   const std::pair<std::int64_t, const char*> texts[] = {
       {cx_stylestring_(none, Int(17), Int(2)), "title_2"},
+      {cx_variablename_(none, none, Int(2)), "isle"},
+      {cx_variablelabel_(none, none, Int(1)), "Sex"},
       {cx_meanvalue_(Int(1), row), "2.00"},
       {cx_valuelabel_(none, Int(2), isle), "Torgersen"},
       {cx_valuelabelshort_(Int(2), isle, Int(3)), "Tor"},

@@ -80,7 +80,9 @@ TEST_F(MatrixEntryPoints, BuildScatterplotMatrices) {
 
 TEST_F(MatrixEntryPoints, GiveScatterplotMatricesMargins) {
   const std::int64_t variables[] = {variable(), variable()};
-  EXPECT_EQ(cx_addsplomelement_(c, frame, variables, Int(2), &element), element);
+  const std::int64_t made = cx_addsplomelement_(c, frame, variables, Int(2), &element);
+  EXPECT_GT(made, 0);
+  EXPECT_EQ(element, made);
   for (const char* dimension : {R"(domain="variable4" facetsShareScale="true" lowerMargin="15%" )"
                                 R"(role="x" upperMargin="15%">)",
                                 R"(domain="variable5" facetsShareScale="true" lowerMargin="15%" )"

@@ -54,7 +54,9 @@ TEST_F(Registry, AnswersSomeCallsForABadChartInTheirOwnWay) {
   EXPECT_EQ(registry().SetAxisPercent(4, 77, 0), 77);
   EXPECT_EQ(registry().CreateLogVar(4, 1), 4);
   EXPECT_EQ(registry().AllDataDoubles(4), 4);
-  EXPECT_THAT(takeReports(), testing::Each("chart handle (4) out of range (0-0)"));
+  EXPECT_THAT(takeReports(), ElementsAre("chart handle (4) out of range (0-0)",
+                                         "chart handle (4) out of range (0-0)",
+                                         "chart handle (4) out of range (0-0)"));
   EXPECT_EQ(registry().KillChart(4), 0);
   EXPECT_EQ(registry().AddRow(4, 0), -1);
   EXPECT_EQ(registry().AddDataValue(4, 0, 0, 5), -1);

@@ -111,7 +111,8 @@ public:
   int VariableLabel(int variable);
   int Value(int variable, const OBS& value);
   int MeanValue(int variable, const OBS& value);
-  /// The value's label or text, at most `maxLength` bytes unless that is -1.
+  /// The value's label or text, at most `maxLength` bytes; all of it when that is 0
+  /// or less.
   int ValueLabel(int variable, const OBS& value, int maxLength);
   /// The value's label or text in the translated pattern of objects.
   int ObjectLabel(int variable, const OBS& value);

@@ -14,8 +14,8 @@ int64_t cx_setcharttype_(const int64_t* chart, const int64_t* type) {
 int64_t cx_setcharttemplate_(const int64_t* chart, const char* name, const int64_t* nameLength) {
   return call(__func__, &ChartXml::SetChartTemplate, chart, Text{name, nameLength});
 }
-int64_t cx_setsplitcomposite_(const int64_t* chart, const void* values, const int64_t* unused) {
-  return call(__func__, &ChartXml::SetSplitComposite, chart, values, unused);
+int64_t cx_setsplitcomposite_(const int64_t* chart, const void* values, const int64_t*) {
+  return call(__func__, &ChartXml::SetSplitComposite, chart, values, nullptr);
 }
 int64_t cx_createchartdescription_(const int64_t* chart, const int64_t* string) {
   return call(__func__, &ChartXml::CreateChartDescription, chart, string);

@@ -247,8 +247,8 @@ int64_t cx_addframewithlabel_(const int64_t* chart, const int64_t* parent, const
 }
 
 int64_t cx_addsplitheaderex_(const int64_t* chart, const int64_t* parent, const void* values,
-                             const int64_t* unused) {
-  const int64_t header = cx_splitheader_(values, unused);
+                             const int64_t*) {
+  const int64_t header = cx_splitheader_(values, nullptr);
   if (header < 0) return header;
   const int64_t kind = strings::subtitle;
   const int64_t number = 1;

@@ -74,8 +74,8 @@ int64_t cx_splitlist_(const int64_t*, const void* values, const int64_t*, const 
                       const int64_t* label, const int64_t* value, const int64_t* valueLabel) {
   return call(__func__, &ChartXml::SplitList, values, name, label, value, valueLabel);
 }
-int64_t cx_splitheader_(const void* values, const int64_t* unused) {
-  return call(__func__, &ChartXml::SplitHeader, values, unused);
+int64_t cx_splitheader_(const void* values, const int64_t*) {
+  return call(__func__, &ChartXml::SplitHeader, values, nullptr);
 }
 int64_t cx_double_(const double* number) { return call(__func__, &ChartXml::Double, number); }
 int64_t cx_lrvalue_(const int64_t*, const double* number, const int64_t* format) {
