@@ -2,10 +2,11 @@
 import { kinds, madeFrom } from './list.mjs';
 import { conventions, sentences, wrap, wrapList } from './text.mjs';
 
-export function header({ groups }) {
+export function header({ groups, meanings }) {
   const lines = [
     '#ifndef CHARTXML_ENTRYPOINTS_H', '#define CHARTXML_ENTRYPOINTS_H', '',
     ...comment([madeFrom, 'The entry points for procedures, in C and C++.', ...conventions]), '',
+    ...glossary(meanings), '',
     '#include <stdint.h>', '', '#include <chartxml/Export.h>', '',
     '/* clang-format off */',
     '#ifdef __cplusplus', 'extern "C" {', '#endif', '',
@@ -16,6 +17,13 @@ export function header({ groups }) {
   }
   lines.push('#ifdef __cplusplus', '}', '#endif', '', '#endif');
   return lines;
+}
+
+/** What the arguments are, by their names. */
+function glossary(meanings) {
+  const lines = Object.entries(meanings).flatMap(([name, meaning]) =>
+    wrap(`${name}: ${meaning}`, 92).map((line, index) => (index === 0 ? line : `    ${line}`)));
+  return ['/* Arguments, by their names:', ' *', ...lines.map(line => ` * ${line}`), ' */'];
 }
 
 function comment(paragraphs) {

@@ -34,6 +34,191 @@
  * told with each. "Silently" means without a report. Call from one thread.
  */
 
+/* Arguments, by their names:
+ *
+ * procedureHandle: the procedure's handle, an opaque address; null when there is none
+ * dictionary: the procedure's data dictionary, by the address of its pointer; a null pointer
+ *     means that there are no data
+ * procedureName: the procedure's name; it names the chart and picks the procedure's own string
+ *     table
+ * chart: a chart handle
+ * source: node handle of a data source, as cx_addsource_ gave it
+ * graph: node handle of the outer frame, which holds titles and legends
+ * data: node handle of the inner frame, which holds the elements
+ * pie: node handle of the inner frame, which holds the elements
+ * parent: node handle of the node that takes the new one
+ * node: node handle
+ * frame: node handle of a frame
+ * element: node handle of an element
+ * dimension: node handle of a dimension
+ * facetLabeling: node handle of a facet labeling
+ * facetLabel: node handle of a facet label
+ * facetLabelOrVariable: node handle of a facet label or facet variable
+ * facet: node handle of a table or coordinate facet, or of a nest, blend or cross in it
+ * elementOrGridLines: node handle of an element, or of grid lines: the one before their ticks
+ * styleByNode: node handle of the styleBy that the legend explains, or -1
+ * styleBy: node handle of the styleBy that the legend explains
+ * target: node handle of the element or guide that the legend explains
+ * variable: node handle of a variable
+ * variableNumber: number of a variable of the procedure, from 1
+ * x: node handle of the variable at x
+ * y: node handle of the variable at y
+ * variables: node handles of the variables
+ * variableCount: how many variables there are
+ * domain: node handle of a domain; for a new dimension or variable also -1: none
+ * domainOrVariable: node handle of a domain or variable
+ * sort: node handle of a domain's sort
+ * simpleSort: node handle of a simple sort
+ * sourceVariable: node handle of the variable that is sorted
+ * statVariable: node handle of the variable whose values give the order
+ * xDomain: node handle of the x dimension's domain, or -1
+ * yDomain: node handle of the y dimension's domain, or -1
+ * formatParent: node handle of the node that takes the number format
+ * categorical: whether the values are categories
+ * label: string handle of a label, or -1
+ * shortLabel: string handle of a short label, or -1
+ * from: string handle of a value as text
+ * to: string handle of the text to show instead
+ * rowSource: not read: rows are counted for the whole chart
+ * value: the value
+ * valueString: string handle of the value
+ * cells: the value's cells, eight bytes each, as a data set gives them
+ * splitCells: the cells of the split variables' values, one after the other
+ * splitCount: how many split variables there are
+ * showSplits: whether to show the split variables
+ * keyed: whether to introduce them by words of the string table, else by a semicolon
+ * weightNumber: number of the weight variable, from 1; 0 or less: there is none
+ * tellsCases: whether the text says that cases are weighted, else only by what
+ * maxLength: the most bytes to show, or 0 or less for all
+ * showName: whether to show names
+ * showLabel: whether to show labels
+ * showValue: whether to show values
+ * showValueLabel: whether to show value labels
+ * number: the number
+ * format: display format packed as type * 65536 + width * 256 + decimals, or -1: as for
+ *     machines
+ * packedFormat: display format packed as type * 65536 + width * 256 + decimals
+ * text: the text
+ * key: a key of the string table, or any text
+ * pattern: a key of the string table, or the pattern itself; "^1" is the first parameter
+ * templateName: the name of a chart template
+ * composite: string handle of an open composite
+ * parameter: string handle of the parameter's text
+ * string: string handle
+ * description: string handle of the description
+ * type: string handle of the kind, such as 23 "point" or 21 "line"
+ * chartType: 1 or 2
+ * method: string handle of the method's name
+ * name: string handle of a name
+ * display: whether labels are shown that would cover others
+ * handling: string handle of what happens to labels that would cover others
+ * content: string handle of the text to show, or -1; backslash and "n" become a line feed
+ * suffix: string handle that names the node and its style, or -1: it gets a number
+ * level: the level's number
+ * levelText: string handle of the level's number
+ * gap: string handle of the gap between panels
+ * aspect: height of a panel over its width
+ * when: string handle that tells which panels, such as 136 "matrixscatterdiagonal"
+ * reverse: whether the order is turned round
+ * clip: whether elements end at the frame
+ * role: 1 x, 2 y, 3 z, 4 r, 5 theta, 6 phi, 7 position
+ * axisRole: 1 x, 2 y, 3 z
+ * min: string handle of the interval's lower end
+ * max: string handle of the interval's upper end
+ * extent: the largest distance from 0; nothing happens unless it is positive
+ * binWidth: the width of a bin; nothing happens unless it is positive
+ * scaleMethod: 116 log, 118 exponent, 124 natural logarithm, or string handle of another
+ *     method
+ * scaleValue: string handle of the base or exponent; not read for 124
+ * invert: whether the scale runs the other way
+ * sameRatio: whether a unit has the same length in all such dimensions
+ * sortMethod: string handle of the method, such as 93 "natural", or -1: no sort
+ * descending: whether the largest comes first
+ * margin: string handle of the margin, such as "5%"
+ * mapping: string handle of the mapping
+ * upperMargin: string handle of the margin, or -1
+ * lowerMargin: string handle of the margin, or -1
+ * upperMapping: string handle of the mapping, or -1
+ * lowerMapping: string handle of the mapping, or -1
+ * xUpperMargin: string handle of the margin, or -1
+ * xLowerMargin: string handle of the margin, or -1
+ * yUpperMargin: string handle of the margin, or -1
+ * yLowerMargin: string handle of the margin, or -1
+ * xUpperMapping: string handle of the mapping, or -1
+ * xLowerMapping: string handle of the mapping, or -1
+ * yUpperMapping: string handle of the mapping, or -1
+ * yLowerMapping: string handle of the mapping, or -1
+ * opposite: whether the axis stands at the far side
+ * xOpposite: whether the x axis stands at the far side
+ * yOpposite: whether the y axis stands at the far side
+ * position: string handle of the ticks' position, or -1
+ * gridLines: whether grid lines go with the ticks
+ * length: string handle of the ticks' length, or -1
+ * labelAngle: string handle of the tick labels' angle in degrees, or -1
+ * stagger: whether tick labels stand at two heights by turns
+ * tickCount: string handle of the number of minor ticks between two major ones, or -1
+ * delta: string handle of the distance between ticks, or -1
+ * styleKind: string handle of the style's name, such as 17 "title"
+ * styleIndex: the style's number
+ * guideStyle: the style's number, or -1: no style of its own
+ * function: string handle of the function's formula in x
+ * aesthetic: string handle of the aesthetic shown, such as 36 "styleBy", or -1
+ * intercept: the intercept
+ * slope: the slope
+ * b1: the formula's first coefficient
+ * b2: the formula's second coefficient
+ * b3: the formula's third coefficient
+ * b4: the formula's fourth coefficient
+ * dateScale: whether x counts from the first day of the date scale
+ * style: string handle of the style's name
+ * axis: node handle of the axis
+ * xStyle: string handle of the x axis's style
+ * xAxis: node handle of the x axis
+ * yStyle: string handle of the y axis's style
+ * yAxis: node handle of the y axis
+ * legend: node handle of the legend
+ * list: handle of a list of variables, as cx_beginvariablelist_ gave it
+ * caption: string handle of the text to show
+ * dot: string handle of the way of stacking
+ * modifier: string handle of the way, such as 87 "stack" or 88 "dodge"
+ * labelStyle: string handle that names the style, or -1
+ * summary: code of the summary, -1 to 26, such as 8 for the mean
+ * firstValue: the first value, where the summary has one
+ * secondValue: the second value, where the summary has two
+ * statistic: node handle of a statistic, transform or guide
+ * elementOrLabeling: node handle of an element or labeling
+ * size: node handle of a size
+ * low: string handle of the lowest size
+ * high: string handle of the highest size
+ * positionNode: node handle of a position
+ * stack: whether the element is stacked
+ * lineRole: 1 x, 2 y
+ * legendNode: node handle of a legend
+ * meta: node handle of a meta
+ * weight: whether the variable weights cases
+ * column: number of a column of the data, from 0
+ * formatType: type code of a display format, such as 5 for plain numbers
+ * formatWidth: how many characters are shown at most
+ * decimals: how many decimals are shown
+ * numberFormat: node handle of a number format
+ * fractionDigits: the digits after the decimal sign at least
+ * fractionDigitsString: string handle of the number of digits after the decimal sign at most
+ * prefix: string handle of what stands before the number
+ * unitSuffix: string handle of what stands behind the number
+ * scientific: whether an exponent is shown
+ * firstRow: the row of the first value, from 1
+ * numbers: the numbers
+ * numberCount: how many numbers there are
+ * texts: the texts, one behind the other, each filled up with blanks to the length
+ * textCount: how many texts there are
+ * buffer: room for a text, and how many bytes that is
+ * path: the path of a folder
+ * callName: the name of the call, for messages
+ * failed: whether the call gave no result, or none that tells
+ * mayBeSilent: whether that is in order unless something was reported
+ * wanted: whether the caller takes the messages
+ */
+
 #include <stdint.h>
 
 #include <chartxml/Export.h>
