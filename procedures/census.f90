@@ -17,7 +17,7 @@ program census
   character(*), parameter :: procedure_name = 'census'
 
   ! The variables of this run, in the order in which they are opened.
-  integer(cx), parameter :: number = 1, day = 2, population = 3
+  integer, parameter :: number = 1, day = 2, population = 3
 
   !> What a logistic curve approaches, in millions: least squares takes it as given.
   real(dp), parameter :: population_limit = 250
@@ -35,7 +35,7 @@ program census
     integer :: model
     real(dp) :: b(4)
     real(dp) :: r_squared
-    integer(cx) :: name  !< a string handle
+    integer :: name  !< a string handle
   end type
 
   !> What one of the charts shows.
@@ -46,12 +46,13 @@ program census
 
   !> The chart and the nodes that several steps refer to.
   type :: drawing
-    integer(cx) :: chart, source, graph, data
-    integer(cx) :: x, y    !< variables
-    integer(cx) :: points  !< an element
-    integer(cx), allocatable :: curves(:)
+    integer :: chart, source, graph, data
+    integer :: x, y    !< variables
+    integer :: points  !< an element
+    integer, allocatable :: curves(:)
   end type
 
+  call stop_when_refused(.true.)
   call run
 
 contains
@@ -63,7 +64,7 @@ contains
     integer :: i
 
     call open_observations(observations, procedure_name, otherwise='data/census', &
-      names=[character(10) :: 'census', 'day', 'population'], numbers=1_cx)
+      names=[character(10) :: 'census', 'day', 'population'], numbers=1)
     call load_cases(observations, cases)
 
     ! Compound, growth and exponential are one curve written in three ways: each chart has
@@ -74,7 +75,7 @@ contains
       call draw(observations, cases, view([power, exponential, logistic], axes(i)))
     end do
 
-    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call end_library
     call observations%close()
   end subroutine
 
@@ -194,14 +195,12 @@ contains
 
     x = merge(cases%day, cases%number, shown%over_days)
     curves = [(fit(shown%models(i), x, cases%population), i=1, size(curves))]
-    plot%chart = made('a chart', create_chart(observations%dictionary, procedure_name, &
-      plot%source, plot%graph, plot%data))
-    plot%x = declared_variable(plot%chart, plot%source, merge(day, number, shown%over_days), false)
-    plot%y = declared_variable(plot%chart, plot%source, population, false)
-    do i = 1, size(x)
-      call start_row(plot%chart, plot%source)
-      call store_numbers(plot%chart, plot%source, [plot%x, plot%y], [x(i), cases%population(i)])
-    end do
+    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
+      source=plot%source, graph=plot%graph, data=plot%data)
+    call add_variable(plot%chart, plot%source, merge(day, number, shown%over_days), handle=plot%x)
+    call add_variable(plot%chart, plot%source, population, handle=plot%y)
+    call load(plot%chart, plot%x, x)
+    call load(plot%chart, plot%y, cases%population)
     call draw_axes(plot, shown)
     call draw_points_and_curves(plot, shown, curves)
     call draw_legends(plot)
@@ -211,13 +210,13 @@ contains
   subroutine draw_axes(plot, shown)
     type(drawing), intent(in) :: plot
     type(view), intent(in) :: shown
-    integer(cx) :: x_style, x_axis, y_style, y_axis
+    integer :: x_style, x_axis, y_style, y_axis
 
-    call make('the axes', cx_addxydimensionwithaxis(plot%chart, plot%data, absent, absent, &
-      false, false, x_style, x_axis, y_style, y_axis))
-    call title_axis(plot%chart, x_axis, x_style, &
-      variable_label(merge(day, number, shown%over_days)))
-    call title_axis(plot%chart, y_axis, y_style, variable_label(population))
+    call add_xy_dimensions_with_axes(plot%chart, plot%data, x_style=x_style, x_axis=x_axis, &
+      y_style=y_style, y_axis=y_axis)
+    call add_label(plot%chart, x_axis, x_style, &
+      label_of_variable(merge(day, number, shown%over_days)))
+    call add_label(plot%chart, y_axis, y_style, label_of_variable(population))
   end subroutine
 
   !> The curves go by the names that the library gives their models.
@@ -228,49 +227,48 @@ contains
     character(6) :: key
     integer :: i
 
-    call make('the points', cx_addxyelementex(plot%chart, plot%data, 1_cx, word_point, &
-      plot%x, plot%y, word_scatter, plot%points))
-    call make('the name of the points', &
-      cx_setelementname(plot%chart, plot%points, made('a text', translated('Censuses'))))
+    call add_xy_element(plot%chart, plot%data, 1, string_point, plot%x, plot%y, string_scatter, &
+      plot%points)
+    call set_element_name(plot%chart, plot%points, translation('Censuses'))
     allocate (plot%curves(size(curves)))
     do i = 1, size(curves)
-      plot%curves(i) = made('a curve', curve_node(plot, curves(i), int(i, cx), &
-        merge(true, false, shown%over_days)))
+      plot%curves(i) = curve_node(plot, curves(i), i, shown%over_days)
       write (key, '(a, i5)') 'E', 60550 + curves(i)%model
-      curves(i)%name = made('the name of a model', translated(key))
+      curves(i)%name = translation(key)
     end do
   end subroutine
 
   function curve_node(plot, line, style, over_days) result(node)
     type(drawing), intent(in) :: plot
     type(curve), intent(in) :: line
-    integer(cx), intent(in) :: style, over_days
-    integer(cx) :: node
+    integer, intent(in) :: style
+    logical, intent(in) :: over_days
+    integer :: node
 
     associate (chart => plot%chart, frame => plot%data, b => line%b)
       select case (line%model)
       case (linear)
-        node = cx_addyofxlinear(chart, frame, style, b(1), b(2), over_days)
+        call add_linear_fit(chart, frame, b(1), b(2), style, over_days, node)
       case (logarithmic)
-        node = cx_addyofxlogarithmic(chart, frame, style, b(1), b(2), over_days)
+        call add_logarithmic_fit(chart, frame, b(1), b(2), style, over_days, node)
       case (inverse)
-        node = cx_addyofxinverse(chart, frame, style, b(1), b(2), over_days)
+        call add_inverse_fit(chart, frame, b(1), b(2), style, over_days, node)
       case (quadratic)
-        node = cx_addyofxquadratic(chart, frame, style, b(1), b(2), b(3), over_days)
+        call add_quadratic_fit(chart, frame, b(1), b(2), b(3), style, over_days, node)
       case (cubic)
-        node = cx_addyofxcubic(chart, frame, style, b(1), b(2), b(3), b(4), over_days)
+        call add_cubic_fit(chart, frame, b(1), b(2), b(3), b(4), style, over_days, node)
       case (compound)
-        node = cx_addyofxcompound(chart, frame, style, b(1), b(2), over_days)
+        call add_compound_fit(chart, frame, b(1), b(2), style, over_days, node)
       case (power)
-        node = cx_addyofxpower(chart, frame, style, b(1), b(2), over_days)
+        call add_power_fit(chart, frame, b(1), b(2), style, over_days, node)
       case (s_curve)
-        node = cx_addyofxs(chart, frame, style, b(1), b(2), over_days)
+        call add_s_fit(chart, frame, b(1), b(2), style, over_days, node)
       case (growth)
-        node = cx_addyofxgrowth(chart, frame, style, b(1), b(2), over_days)
+        call add_growth_fit(chart, frame, b(1), b(2), style, over_days, node)
       case (exponential)
-        node = cx_addyofxexponential(chart, frame, style, b(1), b(2), over_days)
+        call add_exponential_fit(chart, frame, b(1), b(2), style, over_days, node)
       case default
-        node = cx_addyofxlogistic(chart, frame, style, b(1), b(2), b(3), over_days)
+        call add_logistic_fit(chart, frame, b(1), b(2), b(3), style, over_days, node)
       end select
     end associate
   end function
@@ -278,14 +276,11 @@ contains
   !> One for the points and, below it, one for each curve.
   subroutine draw_legends(plot)
     type(drawing), intent(in) :: plot
-    integer(cx) :: legend, style
     integer :: i
 
-    call make('the legend of the points', cx_addlegendframe(plot%chart, plot%graph, plot%points, &
-      1_cx, absent, ignored, style, legend))
+    call add_legend_frame(plot%chart, plot%graph, plot%points, 1)
     do i = 1, size(plot%curves)
-      call make('the legend of a curve', cx_addlegendframeex(plot%chart, plot%graph, &
-        plot%curves(i), int(i + 1, cx), absent, style, legend))
+      call add_legend_frame_of(plot%chart, plot%graph, plot%curves(i), i + 1)
     end do
   end subroutine
 
@@ -296,23 +291,26 @@ contains
     type(view), intent(in) :: shown
     type(curve), intent(in) :: curves(:)
     character(*), parameter :: commas = '[%1:, ^1:]1'
-    integer(cx) :: lines(size(curves))
-    integer :: i
+    integer :: lines(size(curves)), i
 
-    call write_text(plot%chart, plot%graph, word_title, &
-      translated('Population of the United States'))
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, &
+      translation('Population of the United States'))
     if (shown%over_days) then
-      call write_text(plot%chart, plot%graph, word_subtitle, translated('Curves over days'))
+      call add_frame_with_label(plot%chart, plot%graph, string_subtitle, 1, &
+        translation('Curves over days'))
     else
-      call write_text(plot%chart, plot%graph, word_subtitle, translated('Curves over numbers'))
+      call add_frame_with_label(plot%chart, plot%graph, string_subtitle, 1, &
+        translation('Curves over numbers'))
     end if
     do i = 1, size(curves)
-      lines(i) = composed('Fit of a curve^3', &
-        [curves(i)%name, number_text(curves(i)%r_squared, 4), text('R²')])
+      lines(i) = composite_of('Fit of a curve^3', [curves(i)%name, &
+        number_string(curves(i)%r_squared, 4), string_of('R²')])
     end do
-    call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
-    call send_chart(plot%chart, composed('Chart description^1', &
-      [listed(commas, curves%name)]))
+    call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, &
+      list_of(one_a_line, lines))
+    call set_chart_description(plot%chart, composite_of('Chart description^1', &
+      [list_of(commas, [curves%name])]))
+    call end_chart(plot%chart)
   end subroutine
 
 end program

@@ -19,7 +19,7 @@ program components
   integer, parameter :: measures = 4, shown = 3
 
   ! The variables of this run: the species, then the measures.
-  integer(cx), parameter :: species = 1
+  integer, parameter :: species = 1
 
   !> The principal components, the largest first.
   type :: analysis
@@ -29,8 +29,8 @@ program components
 
   !> The chart and the nodes that several steps refer to.
   type :: drawing
-    integer(cx) :: chart, source, graph, data
-    integer(cx) :: species  !< a variable
+    integer :: chart, source, graph, data
+    integer :: species  !< a variable
   end type
 
   ! Eigenvalues, in ascending order, and eigenvectors of a symmetric matrix (LAPACK).
@@ -45,6 +45,7 @@ program components
     end subroutine
   end interface
 
+  call stop_when_refused(.true.)
   call run
 
 contains
@@ -57,8 +58,8 @@ contains
 
     ! All charts come first: as long as one is open, the library keeps the groups' names.
     call open_observations(observations, procedure_name, otherwise='data/penguins', &
-      names=[character(17) :: 'species', 'bill_length_mm', 'bill_depth_mm', &
-      'flipper_length_mm', 'body_mass_g'], numbers=2_cx)
+      names=[character(17) :: 'species', 'bill_length_mm', 'bill_depth_mm', 'flipper_length_mm', &
+      'body_mass_g'], numbers=2)
     first = new_drawing(observations)
     second = new_drawing(observations)
     third = new_drawing(observations)
@@ -68,7 +69,7 @@ contains
     call draw_measures(first, cases)
     call draw_scores(second, cases, found)
     call draw_plane(third, cases, found)
-    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call end_library
     call observations%close()
   end subroutine
 
@@ -104,16 +105,18 @@ contains
   subroutine draw_measures(plot, cases)
     type(drawing), intent(inout) :: plot
     type(sample), intent(in) :: cases
-    integer(cx) :: variables(measures), points
-    integer :: m
+    integer :: variables(measures), points, m
 
-    variables = [(declared_variable(plot%chart, plot%source, species + m, false), m=1, measures)]
-    call fill_rows(plot, cases, variables, cases%values)
-    call make('the matrix', cx_addsplomelement(plot%chart, plot%data, variables, &
-      size(variables, kind=cx), points))
+    do m = 1, measures
+      call add_variable(plot%chart, plot%source, species + m, handle=variables(m))
+    end do
+    call load_columns(plot, cases, variables, cases%values)
+    call add_splom_element(plot%chart, plot%data, variables, points)
     call color_by_species(plot, points)
-    call write_text(plot%chart, plot%graph, word_title, translated('Measures of penguins'))
-    call send_chart(plot%chart, translated('Description of measures'))
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, &
+      translation('Measures of penguins'))
+    call set_chart_description(plot%chart, translation('Description of measures'))
+    call end_chart(plot%chart)
   end subroutine
 
   !> Scores crowd less than measures do: they get less room around them.
@@ -121,18 +124,19 @@ contains
     type(drawing), intent(inout) :: plot
     type(sample), intent(in) :: cases
     type(analysis), intent(in) :: found
-    integer(cx) :: variables(shown), points, margin
+    character(*), parameter :: margin = '8%'
+    integer :: variables(shown), points
 
     variables = score_variables(plot, shown)
-    call fill_rows(plot, cases, variables, found%scores(:, :shown))
-    margin = made('a margin', text('8%'))
-    call make('the matrix', cx_addsplomelementex(plot%chart, plot%data, variables, &
-      size(variables, kind=cx), points, margin, margin, margin, margin, absent, absent, absent, &
-      absent))
+    call load_columns(plot, cases, variables, found%scores(:, :shown))
+    call add_splom_element_with_margins(plot%chart, plot%data, variables, points, &
+      x_upper_margin=margin, x_lower_margin=margin, y_upper_margin=margin, y_lower_margin=margin)
     call color_by_species(plot, points)
-    call write_text(plot%chart, plot%graph, word_title, translated('Principal components'))
-    call write_text(plot%chart, plot%graph, word_footnote, shares_text(found))
-    call send_chart(plot%chart, translated('Description of scores'))
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, &
+      translation('Principal components'))
+    call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, shares_text(found))
+    call set_chart_description(plot%chart, translation('Description of scores'))
+    call end_chart(plot%chart)
   end subroutine
 
   !> The first two components on scales from -m to m, with lines at 0.
@@ -140,32 +144,33 @@ contains
     type(drawing), intent(inout) :: plot
     type(sample), intent(in) :: cases
     type(analysis), intent(in) :: found
-    integer(cx) :: variables(2), points, domain, zero, x_style, x_axis, y_style, y_axis
+    integer :: variables(2), points, domain, zero, x_style, x_axis, y_style, y_axis
     real(dp) :: reach
 
     variables = score_variables(plot, 2)
-    call fill_rows(plot, cases, variables, found%scores(:, :2))
+    call load_columns(plot, cases, variables, found%scores(:, :2))
 
     reach = ceiling(maxval(abs(found%scores(:, :2))))
-    domain = made('a domain', cx_adddomain(plot%chart, ignored, ignored, false, absent))
-    call make('its range', &
-      cx_addintervalex(plot%chart, domain, cx_double(-reach), cx_double(reach)))
-    call make('its values', cx_adddomainreference(plot%chart, domain, variables(1)))
-    call make('its values', cx_adddomainreference(plot%chart, domain, variables(2)))
-    call make('the axes', cx_addxydimaxiswithsameratio(plot%chart, plot%data, domain, domain, &
-      false, false, true, x_style, x_axis, y_style, y_axis))
-    call title_axis(plot%chart, x_axis, x_style, component_name(1))
-    call title_axis(plot%chart, y_axis, y_style, component_name(2))
+    call add_domain(plot%chart, handle=domain)
+    call add_interval_ex(plot%chart, real_string(-reach), real_string(reach), domain)
+    call add_domain_reference(plot%chart, variables(1), domain)
+    call add_domain_reference(plot%chart, variables(2), domain)
+    call add_xy_dimensions_with_same_ratio(plot%chart, plot%data, domain, domain, &
+      same_ratio=.true., x_style=x_style, x_axis=x_axis, y_style=y_style, y_axis=y_axis)
+    call add_label(plot%chart, x_axis, x_style, component_name(1))
+    call add_label(plot%chart, y_axis, y_style, component_name(2))
 
-    call make('the points', cx_addxyelementex(plot%chart, plot%data, 1_cx, word_point, &
-      variables(1), variables(2), word_scatter, points))
+    call add_xy_element(plot%chart, plot%data, 1, string_point, variables(1), variables(2), &
+      string_scatter, points)
     call color_by_species(plot, points)
-    zero = made('a text', cx_double(0.0_dp))
-    call make('a line', cx_addxreferenceline(plot%chart, plot%data, zero, 1_cx))
-    call make('a line', cx_addyreferenceline(plot%chart, plot%data, zero, 1_cx))
-    call write_text(plot%chart, plot%graph, word_title, translated('Principal components'))
-    call write_text(plot%chart, plot%graph, word_footnote, shares_text(found))
-    call send_chart(plot%chart, translated('Description of plane'))
+    zero = real_string(0.0_dp)
+    call add_x_reference_line(plot%chart, plot%data, zero, guide_style=1)
+    call add_y_reference_line(plot%chart, plot%data, zero, guide_style=1)
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, &
+      translation('Principal components'))
+    call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, shares_text(found))
+    call set_chart_description(plot%chart, translation('Description of plane'))
+    call end_chart(plot%chart)
   end subroutine
 
   ! What the charts have in common
@@ -173,66 +178,62 @@ contains
   type(drawing) function new_drawing(observations) result(plot)
     type(data_set), intent(in) :: observations
 
-    plot%chart = made('a chart', create_chart(observations%dictionary, procedure_name, &
-      plot%source, plot%graph, plot%data))
-    plot%species = declared_variable(plot%chart, plot%source, species, true)
-    call make('the names of the species', cx_addrelabels(plot%chart, plot%species, species))
+    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
+      source=plot%source, graph=plot%graph, data=plot%data)
+    call add_variable(plot%chart, plot%source, species, categorical=.true., handle=plot%species)
+    call add_relabels(plot%chart, plot%species, species)
   end function
 
   function score_variables(plot, count) result(variables)
     type(drawing), intent(in) :: plot
     integer, intent(in) :: count
-    integer(cx) :: variables(count)
-    integer :: i
+    integer :: variables(count), i
 
-    variables = [(computed_variable(plot%chart, plot%source, component_name(i), &
-      display_format(plain_format, 6, 1)), i=1, count)]
+    do i = 1, count
+      call add_aggregate(plot%chart, plot%source, label=component_name(i), handle=variables(i))
+      call set_variable_format(plot%chart, variables(i), packed_format(format_plain, 6, 1))
+    end do
   end function
 
-  subroutine fill_rows(plot, cases, variables, numbers)
+  subroutine load_columns(plot, cases, variables, numbers)
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
-    integer(cx), intent(in) :: variables(:)
+    integer, intent(in) :: variables(:)
     real(dp), intent(in) :: numbers(:, :)
-    integer :: i
 
-    do i = 1, size(cases%group)
-      call store_group(plot%chart, plot%source, plot%species, cases, i)
-      call store_numbers(plot%chart, plot%source, variables, numbers(i, :))
-    end do
+    call load_groups(plot%chart, plot%species, cases)
+    call load(plot%chart, variables, numbers)
   end subroutine
 
   subroutine color_by_species(plot, points)
     type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: points
-    integer(cx) :: colors, legend, style
+    integer, intent(in) :: points
+    integer :: colors, legend, style
 
-    colors = made('the colors of the points', &
-      cx_addstylebycolor(plot%chart, points, plot%species))
-    call make('the legend', cx_addlegendframeex(plot%chart, plot%graph, points, 1_cx, colors, &
-      style, legend))
-    call title_axis(plot%chart, legend, style, variable_label(species))
+    call add_style_by_color(plot%chart, points, plot%species, handle=colors)
+    call add_legend_frame_of(plot%chart, plot%graph, points, 1, style_by_node=colors, &
+      style=style, legend=legend)
+    call add_label(plot%chart, legend, style, label_of_variable(species))
   end subroutine
 
   ! Texts
 
   function component_name(i) result(string)
     integer, intent(in) :: i
-    integer(cx) :: string
+    integer :: string
 
-    string = composed('Component^1', [number_text(real(i, dp), 0)])
+    string = composite_of('Component^1', [number_string(i, 0)])
   end function
 
   function shares_text(found) result(string)
     type(analysis), intent(in) :: found
-    integer(cx) :: string, lines(shown)
-    integer :: i
+    integer :: string, lines(shown), i
 
     do i = 1, shown
-      lines(i) = composed('Share of a component^2', &
-        [component_name(i), number_text(100*found%share(i), 1, percent_format)])
+      lines(i) = composite_of('Share of a component^2', [component_name(i), &
+        number_string(100*found%share(i), 1, format_percent)])
     end do
-    string = listed(one_a_line, lines)
+    string = list_of(one_a_line, lines)
   end function
 
 end program

@@ -19,8 +19,7 @@ program economics
   real(dp), parameter :: seconds_per_year = 365.2425_dp*86400
 
   ! The variables of this run, in the order in which they are opened.
-  integer(cx), parameter :: date = 1, decade = 2, consumption = 3, population = 4, &
-    savings_rate = 5
+  integer, parameter :: date = 1, decade = 2, consumption = 3, population = 4, savings_rate = 5
 
   !> The cases without missing values; case i belongs to decades(group(i)).
   type :: sample
@@ -45,11 +44,12 @@ program economics
 
   !> The chart and the nodes that several steps refer to.
   type :: drawing
-    integer(cx) :: chart, source, graph, data
-    integer(cx) :: decade, date, value, trend  !< variables
-    integer(cx) :: points                      !< the element that the legend explains
+    integer :: chart, source, graph, data
+    integer :: decade, date, value, trend  !< variables
+    integer :: points                      !< the element that the legend explains
   end type
 
+  call stop_when_refused(.true.)
   call run
 
 contains
@@ -59,8 +59,8 @@ contains
     type(sample) :: cases
 
     call open_observations(observations, procedure_name, otherwise='data/economics', &
-      names=[character(12) :: 'date', 'decade', 'consumption', 'population', &
-      'savings_rate'], numbers=1_cx)
+      names=[character(12) :: 'date', 'decade', 'consumption', 'population', 'savings_rate'], &
+      numbers=1)
     call require(observations%split_by([observations%find_column('decade')]), &
       'cannot split by decade')
     call load_cases(observations, cases)
@@ -76,7 +76,7 @@ contains
       trend_line='Trend of a decade^4', description='Description of savings', &
       grows=.false., value=cases%savings))
 
-    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call end_library
     call observations%close()
   end subroutine
 
@@ -155,10 +155,10 @@ contains
     integer :: i
 
     trends = [(fit(cases, shown, i), i=1, size(trends))]
-    plot%chart = made('a chart', create_chart(observations%dictionary, procedure_name, &
-      plot%source, plot%graph, plot%data))
+    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
+      source=plot%source, graph=plot%graph, data=plot%data)
     call declare_variables(plot, shown)
-    call fill_rows(plot, cases, shown, trends)
+    call load_columns(plot, cases, shown, trends)
     call draw_axes(plot, shown)
     call draw_elements(plot)
     call draw_legend(plot)
@@ -168,79 +168,74 @@ contains
   subroutine declare_variables(plot, shown)
     type(drawing), intent(inout) :: plot
     type(series), intent(in) :: shown
+    integer :: format
 
-    integer(cx) :: format
-
-    plot%decade = declared_variable(plot%chart, plot%source, decade, true)
-    call make('the names of the decades', cx_addrelabels(plot%chart, plot%decade, decade))
-    plot%date = declared_variable(plot%chart, plot%source, date, false)
+    call add_variable(plot%chart, plot%source, decade, categorical=.true., handle=plot%decade)
+    call add_relabels(plot%chart, plot%decade, decade)
+    call add_variable(plot%chart, plot%source, date, handle=plot%date)
     if (shown%grows) then
-      format = display_format(dollar_format, 8, 0)
-      plot%value = computed_variable(plot%chart, plot%source, &
-        translated('Spending per person (dollars a year)'), format)
+      format = packed_format(format_dollar, 8, 0)
+      call add_aggregate(plot%chart, plot%source, &
+        label=translation('Spending per person (dollars a year)'), handle=plot%value)
+      call set_variable_format(plot%chart, plot%value, format)
     else
-      format = made('a display format', cx_getvariableformat(plot%chart, savings_rate))
-      plot%value = declared_variable(plot%chart, plot%source, savings_rate, false)
+      format = get_variable_format(plot%chart, savings_rate)
+      call add_variable(plot%chart, plot%source, savings_rate, handle=plot%value)
     end if
-    plot%trend = computed_variable(plot%chart, plot%source, &
-      translated(shown%trend_label), format)
+    call add_aggregate(plot%chart, plot%source, label=translation(shown%trend_label), &
+      handle=plot%trend)
+    call set_variable_format(plot%chart, plot%trend, format)
   end subroutine
 
-  subroutine fill_rows(plot, cases, shown, trends)
+  subroutine load_columns(plot, cases, shown, trends)
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(series), intent(in) :: shown
     type(trend), intent(in) :: trends(:)
-    integer :: i, g
 
-    do i = 1, size(cases%date)
-      g = cases%group(i)
-      call start_row(plot%chart, plot%source)
-      call store_numbers(plot%chart, plot%source, &
-        [plot%decade, plot%date, plot%value, plot%trend], &
-        [real(cases%decades(g), dp), cases%date(i), shown%value(i), &
-         predicted(trends(g), years(cases, cases%date(i)))])
-    end do
+    call load(plot%chart, plot%decade, cases%decades(cases%group))
+    call load(plot%chart, plot%date, cases%date)
+    call load(plot%chart, plot%value, shown%value)
+    call load(plot%chart, plot%trend, predicted(trends(cases%group), years(cases, cases%date)))
   end subroutine
 
   !> x and y with 5% of room at either end.
   subroutine draw_axes(plot, shown)
     type(drawing), intent(in) :: plot
     type(series), intent(in) :: shown
-    integer(cx) :: x_style, x_axis, y_style, y_axis, y_title
+    integer :: x_style, x_axis, y_style, y_axis, y_title
 
-    call make('the axes', cx_addxydimensionwithaxis(plot%chart, plot%data, absent, absent, &
-      false, false, x_style, x_axis, y_style, y_axis))
+    call add_xy_dimensions_with_axes(plot%chart, plot%data, x_style=x_style, x_axis=x_axis, &
+      y_style=y_style, y_axis=y_axis)
     if (shown%grows) then
-      y_title = translated('Spending per person (dollars a year)')
+      y_title = translation('Spending per person (dollars a year)')
     else
-      y_title = variable_label(savings_rate)
+      y_title = label_of_variable(savings_rate)
     end if
-    call title_axis(plot%chart, x_axis, x_style, variable_label(date))
-    call title_axis(plot%chart, y_axis, y_style, y_title)
+    call add_label(plot%chart, x_axis, x_style, label_of_variable(date))
+    call add_label(plot%chart, y_axis, y_style, y_title)
   end subroutine
 
   !> A point for each case and a line for each decade.
   subroutine draw_elements(plot)
     type(drawing), intent(inout) :: plot
-    integer(cx) :: lines
+    integer :: lines
 
-    call make('the points', cx_addxyelementex(plot%chart, plot%data, 1_cx, word_point, &
-      plot%date, plot%value, word_scatter, plot%points))
-    call make('the colors of the points', &
-      cx_addstylebycolor(plot%chart, plot%points, plot%decade))
-    call make('the trends', cx_addxyelementex(plot%chart, plot%data, 1_cx, &
-      word_line, plot%date, plot%trend, word_simple_line, lines))
-    call make('the colors of the trends', cx_addstylebycolor(plot%chart, lines, plot%decade))
+    call add_xy_element(plot%chart, plot%data, 1, string_point, plot%date, plot%value, &
+      string_scatter, plot%points)
+    call add_style_by_color(plot%chart, plot%points, plot%decade)
+    call add_xy_element(plot%chart, plot%data, 1, string_line, plot%date, plot%trend, &
+      string_simpleline, lines)
+    call add_style_by_color(plot%chart, lines, plot%decade)
   end subroutine
 
   subroutine draw_legend(plot)
     type(drawing), intent(in) :: plot
-    integer(cx) :: legend, style
+    integer :: legend, style
 
-    call make('the legend', cx_addlegendframe(plot%chart, plot%graph, plot%points, 1_cx, &
-      word_style_by, ignored, style, legend))
-    call title_axis(plot%chart, legend, style, variable_label(decade))
+    call add_legend_frame(plot%chart, plot%graph, plot%points, 1, aesthetic=string_style_by, &
+      style=style, legend=legend)
+    call add_label(plot%chart, legend, style, label_of_variable(decade))
   end subroutine
 
   ! Texts
@@ -250,48 +245,50 @@ contains
     type(sample), intent(in) :: cases
     type(series), intent(in) :: shown
     type(trend), intent(in) :: trends(:)
-    integer(cx) :: lines(size(trends))
-    integer :: i
+    integer :: lines(size(trends)), i
 
-    call write_text(plot%chart, plot%graph, word_title, translated(shown%title))
-    call write_text(plot%chart, plot%graph, word_subtitle, composed(shown%subtitle, &
-      [cx_value(date, [minval(cases%date)]), cx_value(date, [maxval(cases%date)])]))
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, translation(shown%title))
+    call add_frame_with_label(plot%chart, plot%graph, string_subtitle, 1, &
+      composite_of(shown%subtitle, [value_string(date, [minval(cases%date)]), &
+      value_string(date, [maxval(cases%date)])]))
     do i = 1, size(trends)
-      lines(i) = composed(shown%trend_line, [header_of(cases%decades(i)), &
-        slope_of(trends(i)), mean_of(trends(i)), number_text(real(trends(i)%cases, dp), 0)])
+      lines(i) = composite_of(shown%trend_line, [header_of(cases%decades(i)), &
+        slope_of(trends(i)), mean_of(trends(i)), number_string(trends(i)%cases, 0)])
     end do
-    call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
-    call send_chart(plot%chart, translated(shown%description))
+    call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, &
+      list_of(one_a_line, lines))
+    call set_chart_description(plot%chart, translation(shown%description))
+    call end_chart(plot%chart)
   end subroutine
 
   !> "Decade: 1970s"
   function header_of(code) result(string)
     integer, intent(in) :: code
-    integer(cx) :: string
+    integer :: string
 
-    string = cx_splitheader([real(code, dp)], ignored)
+    string = split_header([real(code, dp)])
   end function
 
   !> Growth in percent a year, or percentage points a year.
   function slope_of(line) result(string)
     type(trend), intent(in) :: line
-    integer(cx) :: string
+    integer :: string
 
     if (line%grows) then
-      string = number_text(100*(exp(line%slope) - 1), 1, percent_format)
+      string = number_string(100*(exp(line%slope) - 1), 1, format_percent)
     else
-      string = number_text(line%slope, 2)
+      string = number_string(line%slope, 2)
     end if
   end function
 
   function mean_of(line) result(string)
     type(trend), intent(in) :: line
-    integer(cx) :: string
+    integer :: string
 
     if (line%grows) then
-      string = number_text(line%mean, 0, dollar_format)
+      string = number_string(line%mean, 0, format_dollar)
     else
-      string = cx_meanvalue(savings_rate, [line%mean])
+      string = mean_string(savings_rate, [line%mean])
     end if
   end function
 

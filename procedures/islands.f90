@@ -8,24 +8,25 @@
 ! working directory when none is named.
 program islands
   use, intrinsic :: iso_c_binding, only: dp => c_double
-  use charts
   use chartxml
   use drawings
   use korva
+  use least_squares, only: mean
   use penguin_cases
   implicit none
 
   character(*), parameter :: procedure_name = 'islands'
 
   type(data_set) :: observations
-  type(sample) :: cases
+  type(penguin_sample) :: cases
 
+  call stop_when_refused(.true.)
   call open_penguins(observations, procedure_name)
   call load_cases(observations, cases)
   call draw_means
   call draw_shares
   call draw_panels
-  call require(cx_terminate() >= 0, 'cannot end the chart library')
+  call end_library
   call observations%close()
 
 contains
@@ -33,7 +34,7 @@ contains
   !> Bars of the mean of each island's species, with 1.96 standard errors to either side.
   subroutine draw_means
     type(drawing) :: plot
-    integer(cx) :: island, species, height, lower, upper, range, bars, errors
+    integer :: island, species, height, lower, upper, range, bars, errors
     real(dp), allocatable :: values(:)
     real(dp) :: error
     integer :: i, s
@@ -51,28 +52,32 @@ contains
         values = pack(cases%mass, cases%island%code == i .and. cases%species%code == s)
         if (size(values) < 2) cycle
         error = 1.96_dp*deviation(values)/sqrt(real(size(values), dp))
-        call begin_row(plot)
-        call store_name(plot, island, cases%island%levels(i))
-        call store_name(plot, species, cases%species%levels(s))
-        call store_numbers(plot%chart, plot%source, [height, lower, upper], &
-          [mean(values), mean(values) - error, mean(values) + error])
+        call add_row(plot%chart)
+        call add_data_value(plot%chart, island, trim(cases%island%levels(i)))
+        call add_data_value(plot%chart, species, trim(cases%species%levels(s)))
+        call add_double_data_value(plot%chart, height, mean(values))
+        call add_double_data_value(plot%chart, lower, mean(values) - error)
+        call add_double_data_value(plot%chart, upper, mean(values) + error)
       end do
     end do
 
-    call draw_axes(plot, variable_label(island_number), translated('Mean body mass (g)'))
-    bars = element(plot, word_interval, island, height, word_clustered_bar)
-    call group(plot, bars, species, word_dodge)
-    errors = element(plot, word_interval, island, range, word_error_bar)
-    call group(plot, errors, species, word_dodge)
+    call draw_axes(plot, label_of_variable(island_number), translation('Mean body mass (g)'))
+    call add_xy_element(plot%chart, plot%data, 1, string_interval, island, height, &
+      string_clusteredbar, bars)
+    call group(plot, bars, species, string_dodge)
+    call add_xy_element(plot%chart, plot%data, 1, string_interval, island, range, &
+      string_errorbar, errors)
+    call group(plot, errors, species, string_dodge)
     call draw_legend(plot, bars, species_number)
-    call write_text(plot%chart, plot%graph, word_footnote, translated('About error bars'))
-    call send(plot)
+    call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, &
+      translation('About error bars'))
+    call end_chart(plot%chart)
   end subroutine
 
   !> Bars of one length, divided by the share of each species.
   subroutine draw_shares
     type(drawing) :: plot
-    integer(cx) :: island, species, share, bars
+    integer :: island, species, share, bars
     integer :: i, s, all_of_island
 
     plot = new_drawing(observations, procedure_name, &
@@ -83,46 +88,50 @@ contains
     do i = 1, size(cases%island%levels)
       all_of_island = count(cases%island%code == i)
       do s = 1, size(cases%species%levels)
-        call begin_row(plot)
-        call store_name(plot, island, cases%island%levels(i))
-        call store_name(plot, species, cases%species%levels(s))
-        call store_numbers(plot%chart, plot%source, [share], [100*real(count( &
-          cases%island%code == i .and. cases%species%code == s), dp)/all_of_island])
+        call add_row(plot%chart)
+        call add_data_value(plot%chart, island, trim(cases%island%levels(i)))
+        call add_data_value(plot%chart, species, trim(cases%species%levels(s)))
+        call add_double_data_value(plot%chart, share, 100*real(count( &
+          cases%island%code == i .and. cases%species%code == s), dp)/all_of_island)
       end do
     end do
 
-    call draw_axes(plot, variable_label(island_number), translated('Share of penguins (%)'))
-    bars = element(plot, word_interval, island, share, word_stacked_bar)
-    call group(plot, bars, species, word_stack)
+    call draw_axes(plot, label_of_variable(island_number), translation('Share of penguins (%)'))
+    call add_xy_element(plot%chart, plot%data, 1, string_interval, island, share, &
+      string_stackedbar, bars)
+    call group(plot, bars, species, string_stack)
     call draw_legend(plot, bars, species_number)
-    call send(plot)
+    call end_chart(plot%chart)
   end subroutine
 
   !> A panel for each island and sex, all with the same scales.
   subroutine draw_panels
     type(drawing) :: plot
-    integer(cx) :: species, island, sex, flipper, mass, points, facet, cross
+    integer :: species, island, sex, flipper, mass, points, facet, cross
 
     plot = new_drawing(observations, procedure_name, &
       'Body mass and flipper length by island and sex', 'Description of panels')
     species = factor_variable(plot, cases%species)
     island = factor_variable(plot, cases%island)
     sex = factor_variable(plot, cases%sex)
-    flipper = variable(plot, flipper_number, false)
-    mass = variable(plot, mass_number, false)
-    call store_cases(plot, [flipper, mass], &
-      reshape([cases%flipper, cases%mass], [size(cases%mass), 2]), &
-      [species, island, sex], [cases%species, cases%island, cases%sex])
+    call add_variable(plot%chart, plot%source, flipper_number, handle=flipper)
+    call add_variable(plot%chart, plot%source, mass_number, handle=mass)
+    call load(plot%chart, flipper, cases%flipper)
+    call load(plot%chart, mass, cases%mass)
+    call load(plot%chart, species, cases%species%levels(cases%species%code))
+    call load(plot%chart, island, cases%island%levels(cases%island%code))
+    call load(plot%chart, sex, cases%sex%levels(cases%sex%code))
 
-    facet = made('the panels', cx_addtablefacet(plot%chart, plot%data))
-    cross = made('the panels', cx_addcross(plot%chart, facet))
-    call make('the columns', cx_addfacetvariable(plot%chart, cross, int(role_x, cx), island))
-    call make('the rows', cx_addfacetvariable(plot%chart, cross, int(role_y, cx), sex))
-    call draw_axes(plot, variable_label(flipper_number), variable_label(mass_number))
-    points = element(plot, word_point, flipper, mass, word_scatter)
-    call make('the colors', cx_addstylebycolor(plot%chart, points, species))
+    call add_table_facet(plot%chart, plot%data, handle=facet)
+    call add_cross(plot%chart, facet, handle=cross)
+    call add_facet_variable(plot%chart, cross, role_x, island)
+    call add_facet_variable(plot%chart, cross, role_y, sex)
+    call draw_axes(plot, label_of_variable(flipper_number), label_of_variable(mass_number))
+    call add_xy_element(plot%chart, plot%data, 1, string_point, flipper, mass, string_scatter, &
+      points)
+    call add_style_by_color(plot%chart, points, species)
     call draw_legend(plot, points, species_number)
-    call send(plot)
+    call end_chart(plot%chart)
   end subroutine
 
 end program

@@ -18,7 +18,7 @@ program penguins
   character(*), parameter :: procedure_name = 'penguins'
 
   ! The variables of this run, in the order in which they are opened.
-  integer(cx), parameter :: species = 1, flipper_length = 2, body_mass = 3
+  integer, parameter :: species = 1, flipper_length = 2, body_mass = 3
 
   !> The least-squares line y = intercept + slope*x.
   type :: line_fit
@@ -28,11 +28,12 @@ program penguins
 
   !> The chart and the nodes that several steps refer to.
   type :: drawing
-    integer(cx) :: chart, source, graph, data
-    integer(cx) :: species, x, y, fitted  !< variables
-    integer(cx) :: points                 !< the element that the legend explains
+    integer :: chart, source, graph, data
+    integer :: species, x, y, fitted  !< variables
+    integer :: points                 !< the element that the legend explains
   end type
 
+  call stop_when_refused(.true.)
   call run
 
 contains
@@ -47,7 +48,7 @@ contains
 
     ! The chart comes first: with it the library learns of the data.
     call open_observations(observations, procedure_name, otherwise='data/penguins', &
-      names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g'], numbers=2_cx)
+      names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g'], numbers=2)
     plot = new_drawing(observations)
     call load_sample(observations, measures=2, cases=cases)
 
@@ -59,12 +60,12 @@ contains
     end do
 
     call declare_variables(plot)
-    call fill_rows(plot, cases, within)
+    call load_columns(plot, cases, within)
     call draw_axes(plot)
     call draw_elements(plot, overall)
     call draw_legend(plot)
     call write_texts_and_send(plot, cases, overall, within)
-    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call end_library
     call observations%close()
   end subroutine
 
@@ -100,74 +101,68 @@ contains
   type(drawing) function new_drawing(observations) result(plot)
     type(data_set), intent(in) :: observations
 
-    plot%chart = made('a chart', create_chart(observations%dictionary, procedure_name, &
-      plot%source, plot%graph, plot%data))
+    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
+      source=plot%source, graph=plot%graph, data=plot%data)
   end function
 
   subroutine declare_variables(plot)
     type(drawing), intent(inout) :: plot
 
-    plot%species = declared_variable(plot%chart, plot%source, species, true)
-    plot%x = declared_variable(plot%chart, plot%source, flipper_length, false)
-    plot%y = declared_variable(plot%chart, plot%source, body_mass, false)
-    plot%fitted = computed_variable(plot%chart, plot%source, &
-      translated('Fitted body mass (g)'), format=absent)
-    call make('the names of the species', cx_addrelabels(plot%chart, plot%species, species))
+    call add_variable(plot%chart, plot%source, species, categorical=.true., handle=plot%species)
+    call add_variable(plot%chart, plot%source, flipper_length, handle=plot%x)
+    call add_variable(plot%chart, plot%source, body_mass, handle=plot%y)
+    call add_aggregate(plot%chart, plot%source, label=translation('Fitted body mass (g)'), &
+      handle=plot%fitted)
+    call add_relabels(plot%chart, plot%species, species)
   end subroutine
 
-  subroutine fill_rows(plot, cases, within)
+  subroutine load_columns(plot, cases, within)
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(line_fit), intent(in) :: within(:)
-    integer :: i
 
-    do i = 1, size(cases%group)
-      call store_group(plot%chart, plot%source, plot%species, cases, i)
-      call store_numbers(plot%chart, plot%source, [plot%x, plot%y, plot%fitted], &
-        [cases%values(i, :), predicted(within(cases%group(i)), cases%values(i, 1))])
-    end do
+    call load_groups(plot%chart, plot%species, cases)
+    call load(plot%chart, [plot%x, plot%y], cases%values)
+    call load(plot%chart, plot%fitted, predicted(within(cases%group), cases%values(:, 1)))
   end subroutine
 
   !> x and y with 5% of room at either end; a variable's label is its axis's title.
   subroutine draw_axes(plot)
     type(drawing), intent(in) :: plot
-    integer(cx) :: x_style, x_axis, y_style, y_axis
+    integer :: x_style, x_axis, y_style, y_axis
 
-    call make('the axes', cx_addxydimensionwithaxis(plot%chart, plot%data, absent, absent, &
-      false, false, x_style, x_axis, y_style, y_axis))
-    call title_axis(plot%chart, x_axis, x_style, variable_label(flipper_length))
-    call title_axis(plot%chart, y_axis, y_style, variable_label(body_mass))
+    call add_xy_dimensions_with_axes(plot%chart, plot%data, x_style=x_style, x_axis=x_axis, &
+      y_style=y_style, y_axis=y_axis)
+    call add_label(plot%chart, x_axis, x_style, label_of_variable(flipper_length))
+    call add_label(plot%chart, y_axis, y_style, label_of_variable(body_mass))
   end subroutine
 
   !> A point for each penguin, a line for each species and one over all.
   subroutine draw_elements(plot, overall)
     type(drawing), intent(inout) :: plot
     type(line_fit), intent(in) :: overall
-    integer(cx) :: lines, overall_line
+    integer :: lines, overall_line
 
-    call make('the points', cx_addxyelementex(plot%chart, plot%data, 1_cx, word_point, &
-      plot%x, plot%y, word_scatter, plot%points))
-    call make('the colors of the points', &
-      cx_addstylebycolor(plot%chart, plot%points, plot%species))
+    call add_xy_element(plot%chart, plot%data, 1, string_point, plot%x, plot%y, string_scatter, &
+      plot%points)
+    call add_style_by_color(plot%chart, plot%points, plot%species)
 
-    call make('the lines of the species', cx_addxyelementex(plot%chart, plot%data, 1_cx, &
-      word_line, plot%x, plot%fitted, word_simple_line, lines))
-    call make('the colors of the lines', &
-      cx_addstylebycolor(plot%chart, lines, plot%species))
+    call add_xy_element(plot%chart, plot%data, 1, string_line, plot%x, plot%fitted, &
+      string_simpleline, lines)
+    call add_style_by_color(plot%chart, lines, plot%species)
 
-    overall_line = made('the overall line', cx_addyofxlinear(plot%chart, plot%data, 1_cx, &
-      overall%intercept, overall%slope, false))
-    call make('the name of the overall line', &
-      cx_setelementname(plot%chart, overall_line, made('a text', translated('All penguins'))))
+    call add_linear_fit(plot%chart, plot%data, overall%intercept, overall%slope, guide_style=1, &
+      handle=overall_line)
+    call set_element_name(plot%chart, overall_line, translation('All penguins'))
   end subroutine
 
   subroutine draw_legend(plot)
     type(drawing), intent(in) :: plot
-    integer(cx) :: legend, style
+    integer :: legend, style
 
-    call make('the legend', cx_addlegendframe(plot%chart, plot%graph, plot%points, 1_cx, &
-      word_style_by, ignored, style, legend))
-    call title_axis(plot%chart, legend, style, variable_label(species))
+    call add_legend_frame(plot%chart, plot%graph, plot%points, 1, aesthetic=string_style_by, &
+      style=style, legend=legend)
+    call add_label(plot%chart, legend, style, label_of_variable(species))
   end subroutine
 
   ! Texts
@@ -176,28 +171,30 @@ contains
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(line_fit), intent(in) :: overall, within(:)
-    integer(cx) :: lines(size(within))
+    integer :: lines(size(within))
     integer :: g
 
-    call write_text(plot%chart, plot%graph, word_title, &
-      translated('Body mass and flipper length of penguins'))
-    call write_text(plot%chart, plot%graph, word_subtitle, &
-      estimates(translated('All penguins'), overall))
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, &
+      translation('Body mass and flipper length of penguins'))
+    call add_frame_with_label(plot%chart, plot%graph, string_subtitle, 1, &
+      estimates(translation('All penguins'), overall))
     do g = 1, size(within)
       lines(g) = estimates(cases%groups(g)%name, within(g))
     end do
-    call write_text(plot%chart, plot%graph, word_footnote, listed(one_a_line, lines))
-    call send_chart(plot%chart, translated('Chart description'))
+    call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, &
+      list_of(one_a_line, lines))
+    call set_chart_description(plot%chart, translation('Chart description'))
+    call end_chart(plot%chart)
   end subroutine
 
   function estimates(name, line) result(string)
-    integer(cx), intent(in) :: name
+    integer, intent(in) :: name
     type(line_fit), intent(in) :: line
-    integer(cx) :: string
+    integer :: string
 
-    string = composed('Regression line^7', [name, number_text(line%intercept, 0), &
-      number_text(line%slope, 2), number_text(line%r_squared, 2), &
-      number_text(real(line%cases, dp), 0), text('×'), text('R²')])
+    string = composite_of('Regression line^7', [name, number_string(line%intercept, 0), &
+      number_string(line%slope, 2), number_string(line%r_squared, 2), &
+      number_string(line%cases, 0), string_of('×'), string_of('R²')])
   end function
 
 end program

@@ -19,7 +19,7 @@ program planes
 
   ! The variables of this run: the species, then the measures in the order of the axes
   ! x, y and z, on which they stand.
-  integer(cx), parameter :: species = 1, measure(3) = [2_cx, 3_cx, 4_cx]
+  integer, parameter :: species = 1, measure(3) = [2, 3, 4]
   integer, parameter :: flipper_length = 1, body_mass = 2, bill_depth = 3
 
   !> mass = b(1) + b(2)*flipper length + b(3)*bill depth
@@ -30,10 +30,11 @@ program planes
 
   !> The chart and the nodes that several steps refer to.
   type :: drawing
-    integer(cx) :: chart, source, graph, data
-    integer(cx) :: species, measures(3)  !< variables
+    integer :: chart, source, graph, data
+    integer :: species, measures(3)  !< variables
   end type
 
+  call stop_when_refused(.true.)
   call run
 
 contains
@@ -45,15 +46,15 @@ contains
 
     ! Both charts come first: as long as one is open, the library keeps the groups' names.
     call open_observations(observations, procedure_name, otherwise='data/penguins', &
-      names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g', &
-      'bill_depth_mm'], numbers=2_cx)
+      names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g', 'bill_depth_mm'], &
+      numbers=2)
     first = new_drawing(observations)
     second = new_drawing(observations)
     call load_sample(observations, size(measure), cases)
 
     call draw_cases(first, cases)
     call draw_plane(second, cases, fit(cases%values))
-    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call end_library
     call observations%close()
   end subroutine
 
@@ -77,23 +78,21 @@ contains
   subroutine draw_cases(plot, cases)
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
-    integer(cx) :: points, legend, style
-    integer :: i
+    integer :: points, legend, style
 
-    do i = 1, size(cases%group)
-      call store_group(plot%chart, plot%source, plot%species, cases, i)
-      call store_numbers(plot%chart, plot%source, plot%measures, cases%values(i, :))
-    end do
-    call make('the wire frame', cx_addxyzwireframe(plot%chart, plot%data))
+    call load_groups(plot%chart, plot%species, cases)
+    call load(plot%chart, plot%measures, cases%values)
+    call add_xyz_wireframe(plot%chart, plot%data)
     call draw_axes(plot)
-    points = points_at(plot, plot%measures(body_mass), 1_cx)
-    call make('the colors of the points', &
-      cx_addstylebycolor(plot%chart, points, plot%species))
-    call make('the legend', cx_addlegendframe(plot%chart, plot%graph, points, 1_cx, &
-      word_style_by, ignored, style, legend))
-    call title_axis(plot%chart, legend, style, variable_label(species))
-    call write_text(plot%chart, plot%graph, word_title, translated('Three measures of penguins'))
-    call send_chart(plot%chart, translated('Description of cases'))
+    points = points_at(plot, plot%measures(body_mass), 1)
+    call add_style_by_color(plot%chart, points, plot%species)
+    call add_legend_frame(plot%chart, plot%graph, points, 1, aesthetic=string_style_by, &
+      style=style, legend=legend)
+    call add_label(plot%chart, legend, style, label_of_variable(species))
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, &
+      translation('Three measures of penguins'))
+    call set_chart_description(plot%chart, translation('Description of cases'))
+    call end_chart(plot%chart)
   end subroutine
 
   !> Observed and fitted masses before three planes.
@@ -101,27 +100,26 @@ contains
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(plane), intent(in) :: mass
-    integer(cx) :: fitted
-    integer :: i
+    integer :: fitted
 
-    fitted = computed_variable(plot%chart, plot%source, translated('Fitted'), &
-      display_format(plain_format, 8, 0))
-    do i = 1, size(cases%group)
-      call store_group(plot%chart, plot%source, plot%species, cases, i)
-      call store_numbers(plot%chart, plot%source, [plot%measures, fitted], &
-        [cases%values(i, :), mass%fitted(i)])
-    end do
-    call make('the planes', cx_addxyzbackplanes(plot%chart, plot%data))
+    call add_aggregate(plot%chart, plot%source, label=translation('Fitted'), handle=fitted)
+    call set_variable_format(plot%chart, fitted, packed_format(format_plain, 8, 0))
+    call load_groups(plot%chart, plot%species, cases)
+    call load(plot%chart, plot%measures, cases%values)
+    call load(plot%chart, fitted, mass%fitted)
+    call add_xyz_backplanes(plot%chart, plot%data)
     call draw_axes(plot)
-    call explain(plot, points_at(plot, plot%measures(body_mass), 1_cx), 'Observed', 1_cx)
-    call explain(plot, points_at(plot, fitted, 2_cx), 'Fitted', 2_cx)
-    call write_text(plot%chart, plot%graph, word_title, &
-      translated('Body mass by flipper length and bill depth'))
-    call write_text(plot%chart, plot%graph, word_footnote, composed('Regression plane^7', &
-      [number_text(mass%b(1), 0), number_text(mass%b(2), 2), number_text(mass%b(3), 2), &
-      number_text(mass%r_squared, 3), number_text(real(size(cases%group), dp), 0), text('×'), &
-      text('R²')]))
-    call send_chart(plot%chart, translated('Description of plane'))
+    call explain(plot, points_at(plot, plot%measures(body_mass), 1), 'Observed', 1)
+    call explain(plot, points_at(plot, fitted, 2), 'Fitted', 2)
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, &
+      translation('Body mass by flipper length and bill depth'))
+    call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, &
+      composite_of('Regression plane^7', [number_string(mass%b(1), 0), &
+      number_string(mass%b(2), 2), number_string(mass%b(3), 2), &
+      number_string(mass%r_squared, 3), number_string(size(cases%group), 0), string_of('×'), &
+      string_of('R²')]))
+    call set_chart_description(plot%chart, translation('Description of plane'))
+    call end_chart(plot%chart)
   end subroutine
 
   ! What the charts have in common
@@ -130,50 +128,47 @@ contains
     type(data_set), intent(in) :: observations
     integer :: m
 
-    plot%chart = made('a chart', create_chart(observations%dictionary, procedure_name, &
-      plot%source, plot%graph, plot%data))
-    plot%species = declared_variable(plot%chart, plot%source, species, true)
-    call make('the names of the species', cx_addrelabels(plot%chart, plot%species, species))
-    plot%measures = [(declared_variable(plot%chart, plot%source, measure(m), false), &
-      m=1, size(measure))]
+    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
+      source=plot%source, graph=plot%graph, data=plot%data)
+    call add_variable(plot%chart, plot%source, species, categorical=.true., handle=plot%species)
+    call add_relabels(plot%chart, plot%species, species)
+    do m = 1, size(measure)
+      call add_variable(plot%chart, plot%source, measure(m), handle=plot%measures(m))
+    end do
   end function
 
   !> Body mass stands upright between the other two.
   subroutine draw_axes(plot)
     type(drawing), intent(in) :: plot
-    integer(cx) :: role, style, axis, margin
+    character(*), parameter :: margin = '5%'
+    integer :: role, style, axis
 
-    margin = made('a margin', text('5%'))
     do role = 1, size(measure)
-      call make('an axis', cx_adddimensionaxis(plot%chart, plot%data, role, absent, false, &
-        style, axis, margin, margin, absent, absent))
-      call title_axis(plot%chart, axis, style, variable_label(measure(role)))
+      call add_dimension_axis(plot%chart, plot%data, role, style=style, axis=axis, &
+        upper_margin=margin, lower_margin=margin)
+      call add_label(plot%chart, axis, style, label_of_variable(measure(role)))
     end do
   end subroutine
 
   !> A point for each case, as high as `height` says.
   function points_at(plot, height, style) result(points)
     type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: height, style
-    integer(cx) :: points
+    integer, intent(in) :: height, style
+    integer :: points
 
-    call make('the points', cx_addxyelementex(plot%chart, plot%data, style, word_point, &
-      plot%measures(flipper_length), height, word_scatter, points))
-    call make('the depth of the points', &
-      cx_addz(plot%chart, points, plot%measures(bill_depth)))
+    call add_xy_element(plot%chart, plot%data, style, string_point, &
+      plot%measures(flipper_length), height, string_scatter, points)
+    call add_z(plot%chart, points, plot%measures(bill_depth))
   end function
 
   !> Names points and gives them a legend.
   subroutine explain(plot, points, name, index)
     type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: points, index
+    integer, intent(in) :: points, index
     character(*), intent(in) :: name  !< a key of the string table
-    integer(cx) :: legend, style
 
-    call make('the name of the points', &
-      cx_setelementname(plot%chart, points, made('a text', translated(name))))
-    call make('a legend', cx_addlegendframe(plot%chart, plot%graph, points, index, absent, &
-      ignored, style, legend))
+    call set_element_name(plot%chart, points, translation(name))
+    call add_legend_frame(plot%chart, plot%graph, points, index)
   end subroutine
 
 end program

@@ -8,7 +8,7 @@
 ! weighted least-squares fit over all persons. The data set is a data package or a CSV file
 ! with these columns; data/titanic below the working directory when none is named.
 program titanic
-  use, intrinsic :: iso_c_binding, only: c_null_ptr, dp => c_double
+  use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
   use korva
@@ -18,9 +18,8 @@ program titanic
   character(*), parameter :: procedure_name = 'titanic'
 
   ! The variables of this run, in the order in which they are opened, and their codes.
-  integer(cx), parameter :: class = 1, sex = 2, age = 3, fate = 4, persons = 5
+  integer, parameter :: class = 1, sex = 2, age = 3, fate = 4, persons = 5
   integer, parameter :: female = 2, child = 1, survivor = 1
-  integer(cx), parameter :: theta_role = 5
 
   !> The rows that stand for somebody.
   type :: sample
@@ -37,9 +36,10 @@ program titanic
   end type
 
   type :: drawing
-    integer(cx) :: chart, source, graph, data  !< the chart and its nodes
+    integer :: chart, source, graph, data  !< the chart and its nodes
   end type
 
+  call stop_when_refused(.true.)
   call run
 
 contains
@@ -51,7 +51,7 @@ contains
     integer :: i
 
     call open_observations(observations, procedure_name, otherwise='data/titanic', &
-      names=[character(8) :: 'class', 'sex', 'age', 'survived', 'persons'], numbers=1_cx)
+      names=[character(8) :: 'class', 'sex', 'age', 'survived', 'persons'], numbers=1)
     call require(observations%split_by([observations%find_column('class')]), &
       'cannot split by class')
     call load_cases(observations, cases)
@@ -63,7 +63,7 @@ contains
       call draw_survival(observations, cases, survival, i)
     end do
 
-    call require(cx_terminate() >= 0, 'cannot end the chart library')
+    call end_library
     call observations%close()
   end subroutine
 
@@ -129,33 +129,33 @@ contains
     type(data_set), intent(in) :: observations
     type(sample), intent(in) :: cases
     type(drawing) :: plot
-    integer(cx) :: same_chart, classes, counts, slices, legend, style
-    integer :: i
+    integer :: classes, counts, slices, legend, style, i
 
-    plot%chart = made('a chart', cx_createpiechart(c_null_ptr, observations%dictionary, &
-      procedure_name, len(procedure_name, kind=cx), same_chart, plot%source, plot%graph, &
-      plot%data))
+    call new_pie_chart(procedure_name, plot%chart, observations%dictionary, source=plot%source, &
+      graph=plot%graph, pie=plot%data)
     classes = categories(plot, class)
-    counts = computed_variable(plot%chart, plot%source, variable_label(persons), &
-      display_format(plain_format, 5, 0), name=word_count)
+    call add_aggregate(plot%chart, plot%source, name=string_countname, &
+      label=label_of_variable(persons), handle=counts)
+    call set_variable_format(plot%chart, counts, packed_format(format_plain, 5, 0))
     do i = 1, size(cases%classes)
-      call start_row(plot%chart, plot%source)
-      call store_numbers(plot%chart, plot%source, [classes, counts], [real(cases%classes(i), dp), &
-        sum(cases%persons, cases%codes(:, class) == cases%classes(i))])
+      call add_row(plot%chart)
+      call add_double_data_value(plot%chart, classes, cases%classes(i))
+      call add_double_data_value(plot%chart, counts, &
+        sum(cases%persons, cases%codes(:, class) == cases%classes(i)))
     end do
 
-    call make('the pie', cx_addcoordinatetransform(plot%chart, plot%data, word_polar))
-    call make('its angles', cx_adddimension(plot%chart, plot%data, theta_role, absent))
-    slices = made('the slices', cx_addelement(plot%chart, plot%data, word_interval, &
-      made('a style', cx_stylestring(ignored, word_simple_bar, 1_cx))))
-    call make('the angle of each slice', cx_addtheta(plot%chart, slices, counts))
-    call make('the colors of the slices', cx_addstylebycolor(plot%chart, slices, classes))
-    call make('the numbers in the slices', cx_addlabelinginside(plot%chart, slices, counts))
-    call make('the legend', cx_addlegendframe(plot%chart, plot%graph, slices, 1_cx, &
-      word_style_by, ignored, style, legend))
-    call title_axis(plot%chart, legend, style, variable_label(class))
+    call add_coordinate_transform(plot%chart, plot%data, string_polar)
+    call add_dimension(plot%chart, plot%data, role_theta)
+    call add_element(plot%chart, plot%data, string_interval, style_string(string_simplebar, 1), &
+      handle=slices)
+    call add_theta(plot%chart, slices, counts)
+    call add_style_by_color(plot%chart, slices, classes)
+    call add_labeling_inside(plot%chart, slices, counts)
+    call add_legend_frame(plot%chart, plot%graph, slices, 1, aesthetic=string_style_by, &
+      style=style, legend=legend)
+    call add_label(plot%chart, legend, style, label_of_variable(class))
     call write_texts_and_send(plot, 'Persons on board of the Titanic', weight_text(), &
-      translated('Description of persons'))
+      translation('Description of persons'))
   end subroutine
 
   ! Fates by class
@@ -164,38 +164,39 @@ contains
     type(data_set), intent(in) :: observations
     type(sample), intent(in) :: cases
     type(drawing) :: plot
-    integer(cx) :: classes, fates, counts, order, bars, colors, legend, style
+    integer :: classes, fates, counts, sort, order, bars, colors, legend, style
     integer :: i, code
 
     plot = new_drawing(observations)
     classes = categories(plot, class)
     fates = categories(plot, fate)
-    counts = computed_variable(plot%chart, plot%source, variable_label(persons), &
-      display_format(plain_format, 5, 0), name=word_count)
+    call add_aggregate(plot%chart, plot%source, name=string_countname, &
+      label=label_of_variable(persons), handle=counts)
+    call set_variable_format(plot%chart, counts, packed_format(format_plain, 5, 0))
     do i = 1, size(cases%classes)
       do code = 0, survivor
-        call start_row(plot%chart, plot%source)
-        call store_numbers(plot%chart, plot%source, [classes, fates, counts], &
-          [real([cases%classes(i), code], dp), sum(cases%persons, &
-          cases%codes(:, class) == cases%classes(i) .and. cases%codes(:, fate) == code)])
+        call add_row(plot%chart)
+        call add_double_data_value(plot%chart, classes, cases%classes(i))
+        call add_double_data_value(plot%chart, fates, code)
+        call add_double_data_value(plot%chart, counts, sum(cases%persons, &
+          cases%codes(:, class) == cases%classes(i) .and. cases%codes(:, fate) == code))
       end do
     end do
 
     ! The sort comes back, two nodes after its domain.
-    order = made('the order of the classes', &
-      cx_adddomain(plot%chart, ignored, ignored, true, word_natural)) - 2
-    call make('the classes', cx_adddomainreference(plot%chart, order, classes))
-    call draw_axes(plot, order, absent, variable_label(class), variable_label(persons))
-    call make('the bars', cx_addxyelementex(plot%chart, plot%data, 1_cx, word_interval, &
-      classes, counts, word_clustered_bar, bars))
-    call make('the bars side by side', &
-      cx_setelementpositionmodifier(plot%chart, bars, word_dodge))
-    colors = made('the colors of the bars', cx_addstylebycolor(plot%chart, bars, fates))
-    call make('the legend', cx_addlegendframeex(plot%chart, plot%graph, bars, 1_cx, colors, &
-      style, legend))
-    call title_axis(plot%chart, legend, style, variable_label(fate))
+    call add_domain(plot%chart, categorical=.true., sort_method=string_natural, handle=sort)
+    order = sort - 2
+    call add_domain_reference(plot%chart, classes, order)
+    call draw_axes(plot, label_of_variable(class), label_of_variable(persons), x_domain=order)
+    call add_xy_element(plot%chart, plot%data, 1, string_interval, classes, counts, &
+      string_clusteredbar, bars)
+    call set_element_position_modifier(plot%chart, bars, string_dodge)
+    call add_style_by_color(plot%chart, bars, fates, handle=colors)
+    call add_legend_frame_of(plot%chart, plot%graph, bars, 1, style_by_node=colors, style=style, &
+      legend=legend)
+    call add_label(plot%chart, legend, style, label_of_variable(fate))
     call write_texts_and_send(plot, 'Fates on the Titanic', weight_text(), &
-      translated('Description of fates'))
+      translation('Description of fates'))
   end subroutine
 
   ! Survival in one class
@@ -206,50 +207,47 @@ contains
     type(effects), intent(in) :: survival
     integer, intent(in) :: i
     type(drawing) :: plot
-    integer(cx) :: groups, observed, fitted, percent, percentages
+    integer :: groups, observed, fitted, percent, percentages, line
     real(dp) :: split_cells(1)
 
-    percent = display_format(percent_format, 6, 1)
+    percent = packed_format(format_percent, 6, 1)
     plot = new_drawing(observations)
-    groups = made('a categorical variable', cx_addaggregate(plot%chart, plot%source, absent, true, &
-      made('a text', translated('Sex and age')), absent, absent))
-    observed = computed_variable(plot%chart, plot%source, translated('Observed'), percent)
-    fitted = computed_variable(plot%chart, plot%source, translated('Fitted'), percent)
-    call fill_groups(plot, cases, survival, i, groups, [observed, fitted])
+    call add_aggregate(plot%chart, plot%source, categorical=.true., &
+      label=translation('Sex and age'), handle=groups)
+    call add_aggregate(plot%chart, plot%source, label=translation('Observed'), handle=observed)
+    call set_variable_format(plot%chart, observed, percent)
+    call add_aggregate(plot%chart, plot%source, label=translation('Fitted'), handle=fitted)
+    call set_variable_format(plot%chart, fitted, percent)
+    call fill_groups(plot, cases, survival, i, groups, observed, fitted)
 
-    percentages = made('the percentages', &
-      cx_adddomain(plot%chart, ignored, ignored, false, absent))
-    call make('their range', cx_addintervalex(plot%chart, percentages, cx_double(0.0_dp), &
-      cx_double(100.0_dp)))
-    call make('their values', cx_adddomainreference(plot%chart, percentages, observed))
-    call make('their values', cx_adddomainreference(plot%chart, percentages, fitted))
-    call draw_axes(plot, absent, percentages, translated('Sex and age'), &
-      translated('Survivors (percent)'))
-    call draw_shares(plot, groups, observed, word_interval, word_simple_bar, 'Observed', 1_cx)
-    call draw_shares(plot, groups, fitted, word_point, word_scatter, 'Fitted', 2_cx)
-    call make('the name of the line', cx_setelementname(plot%chart, made('a line', &
-      cx_addyreferenceline(plot%chart, plot%data, cx_double(survival%overall), 1_cx)), &
-      made('a text', translated('All persons'))))
+    call add_domain(plot%chart, handle=percentages)
+    call add_interval_ex(plot%chart, real_string(0.0_dp), real_string(100.0_dp), percentages)
+    call add_domain_reference(plot%chart, observed, percentages)
+    call add_domain_reference(plot%chart, fitted, percentages)
+    call draw_axes(plot, translation('Sex and age'), translation('Survivors (percent)'), &
+      y_domain=percentages)
+    call draw_shares(plot, groups, observed, string_interval, string_simplebar, 'Observed', 1)
+    call draw_shares(plot, groups, fitted, string_point, string_scatter, 'Fitted', 2)
+    call add_y_reference_line(plot%chart, plot%data, real_string(survival%overall), &
+      guide_style=1, handle=line)
+    call set_element_name(plot%chart, line, translation('All persons'))
 
     split_cells = cases%classes(i)
-    call make('the class as header', &
-      cx_addsplitheaderex(plot%chart, plot%graph, split_cells, ignored))
-    call require(cx_setsplitcomposite(plot%chart, split_cells, ignored) >= 0, &
-      'cannot tell the class of the chart')
-    call write_texts_and_send(plot, 'Survival by sex and age', listed(one_a_line, &
-      [composed('Effects^3', [number_text(survival%class(i), 1, percent_format), &
-      number_text(survival%female, 1), number_text(survival%child, 1)]), weight_text()]), &
-      cx_splitvariableinfo(ignored, made('a text', translated('Description of survival')), &
-      split_cells, 1_cx, false, true, false, true, show_splits=true, keyed=true))
+    call add_split_header(plot%chart, plot%graph, split_cells)
+    call set_split_composite(plot%chart, split_cells)
+    call write_texts_and_send(plot, 'Survival by sex and age', list_of(one_a_line, &
+      [composite_of('Effects^3', [number_string(survival%class(i), 1, format_percent), &
+      number_string(survival%female, 1), number_string(survival%child, 1)]), weight_text()]), &
+      split_variable_info(split_cells, 1, translation('Description of survival'), &
+      show_label=.true., show_value_label=.true., show_splits=.true., keyed=.true.))
   end subroutine
 
   !> A row for each combination of sex and age that there is in the class.
-  subroutine fill_groups(plot, cases, survival, i, groups, shares)
+  subroutine fill_groups(plot, cases, survival, i, groups, observed, fitted)
     type(drawing), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(effects), intent(in) :: survival
-    integer, intent(in) :: i
-    integer(cx), intent(in) :: groups, shares(2)
+    integer, intent(in) :: i, groups, observed, fitted
     integer :: pair(2)
     logical, dimension(size(cases%persons)) :: rows, seen
 
@@ -258,12 +256,12 @@ contains
       pair = cases%codes(findloc(seen, .false., dim=1), [sex, age])
       rows = cases%codes(:, class) == cases%classes(i) .and. &
         cases%codes(:, sex) == pair(1) .and. cases%codes(:, age) == pair(2)
-      call start_row(plot%chart, plot%source)
-      call require(cx_adddatavalue(plot%chart, plot%source, groups, group_name(pair)) >= 0, &
-        'cannot store a group')
-      call store_numbers(plot%chart, plot%source, shares, [survival_of(cases, rows), &
-        survival%class(i) + merge(survival%female, 0.0_dp, pair(1) == female) &
-        + merge(survival%child, 0.0_dp, pair(2) == child)])
+      call add_row(plot%chart)
+      call add_data_value(plot%chart, groups, group_name(pair))
+      call add_double_data_value(plot%chart, observed, survival_of(cases, rows))
+      call add_double_data_value(plot%chart, fitted, survival%class(i) &
+        + merge(survival%female, 0.0_dp, pair(1) == female) &
+        + merge(survival%child, 0.0_dp, pair(2) == child))
       seen = seen .or. rows
     end do
   end subroutine
@@ -271,26 +269,22 @@ contains
   !> "Female, Child"
   function group_name(pair) result(string)
     integer, intent(in) :: pair(2)
-    integer(cx) :: string
+    integer :: string
 
-    string = made('the name of a group', composed('Group^2', &
-      [cx_valuelabel(ignored, sex, [real(pair(1), dp)]), &
-       cx_valuelabel(ignored, age, [real(pair(2), dp)])]))
+    string = composite_of('Group^2', [value_label(sex, [real(pair(1), dp)]), &
+      value_label(age, [real(pair(2), dp)])])
   end function
 
   !> An element under a name, with a legend of its own.
   subroutine draw_shares(plot, x, y, type, style_kind, name, index)
     type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: x, y, type, style_kind, index
+    integer, intent(in) :: x, y, type, style_kind, index
     character(*), intent(in) :: name  !< a key of the string table
-    integer(cx) :: element, legend, style
+    integer :: element
 
-    call make('an element', cx_addxyelementex(plot%chart, plot%data, 1_cx, type, x, y, &
-      style_kind, element))
-    call make('the name of an element', &
-      cx_setelementname(plot%chart, element, made('a text', translated(name))))
-    call make('a legend', cx_addlegendframeex(plot%chart, plot%graph, element, index, absent, &
-      style, legend))
+    call add_xy_element(plot%chart, plot%data, 1, type, x, y, style_kind, element)
+    call set_element_name(plot%chart, element, translation(name))
+    call add_legend_frame_of(plot%chart, plot%graph, element, index)
   end subroutine
 
   ! What the charts have in common
@@ -298,51 +292,50 @@ contains
   type(drawing) function new_drawing(observations) result(plot)
     type(data_set), intent(in) :: observations
 
-    plot%chart = made('a chart', create_chart(observations%dictionary, procedure_name, &
-      plot%source, plot%graph, plot%data))
+    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
+      source=plot%source, graph=plot%graph, data=plot%data)
   end function
 
   !> A variable of the run whose codes have labels.
   function categories(plot, number) result(variable)
     type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: number
-    integer(cx) :: variable
+    integer, intent(in) :: number
+    integer :: variable
 
-    variable = declared_variable(plot%chart, plot%source, number, true)
-    call make('the names of the categories', cx_addrelabels(plot%chart, variable, number))
+    call add_variable(plot%chart, plot%source, number, categorical=.true., handle=variable)
+    call add_relabels(plot%chart, variable, number)
   end function
 
   !> Bars stand on the x axis and leave room beside them.
-  subroutine draw_axes(plot, x_domain, y_domain, x_title, y_title)
+  subroutine draw_axes(plot, x_title, y_title, x_domain, y_domain)
     type(drawing), intent(in) :: plot
-    integer(cx), intent(in) :: x_domain, y_domain, x_title, y_title
-    integer(cx) :: x_style, x_axis, y_style, y_axis, wide, narrow, none
+    integer, intent(in) :: x_title, y_title
+    integer, intent(in), optional :: x_domain, y_domain
+    integer :: x_style, x_axis, y_style, y_axis
 
-    wide = made('a margin', text('10%'))
-    narrow = made('a margin', text('5%'))
-    none = made('a margin', text('0%'))
-    call make('the axes', cx_addxydimension(plot%chart, plot%data, x_domain, y_domain, false, &
-      false, x_style, x_axis, y_style, y_axis, wide, wide, narrow, none, absent, absent, absent, &
-      absent))
-    call title_axis(plot%chart, x_axis, x_style, x_title)
-    call title_axis(plot%chart, y_axis, y_style, y_title)
+    call add_xy_dimensions(plot%chart, plot%data, x_domain, y_domain, x_style=x_style, &
+      x_axis=x_axis, y_style=y_style, y_axis=y_axis, x_upper_margin='10%', x_lower_margin='10%', &
+      y_upper_margin='5%', y_lower_margin='0%')
+    call add_label(plot%chart, x_axis, x_style, x_title)
+    call add_label(plot%chart, y_axis, y_style, y_title)
   end subroutine
 
   function weight_text() result(string)
-    integer(cx) :: string
+    integer :: string
 
-    string = cx_weightinfo(ignored, ignored, persons, true)
+    string = weight_info(persons, .true.)
   end function
 
   !> Title, footnote and description.
   subroutine write_texts_and_send(plot, title, footnote, description)
     type(drawing), intent(in) :: plot
     character(*), intent(in) :: title
-    integer(cx), intent(in) :: footnote, description
+    integer, intent(in) :: footnote, description
 
-    call write_text(plot%chart, plot%graph, word_title, translated(title))
-    call write_text(plot%chart, plot%graph, word_footnote, footnote)
-    call send_chart(plot%chart, description)
+    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, translation(title))
+    call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, footnote)
+    call set_chart_description(plot%chart, description)
+    call end_chart(plot%chart)
   end subroutine
 
 end program

@@ -6,14 +6,14 @@ module grouped_cases
   use korva
   implicit none
   private
-  public :: load_sample, store_group
+  public :: load_sample, load_groups
 
   !> The first variable of the run is the group, the others are the measures.
-  integer(cx), parameter :: group_variable = 1
+  integer, parameter :: group_variable = 1
 
   type, public :: case_group
-    character(:), allocatable :: text
-    integer(cx) :: name  !< the same as a string handle of the chart library
+    character(:), allocatable :: text, label
+    integer :: name  !< the label as a string handle of the chart library
   end type
 
   !> The cases without missing values; case i is values(i, :) and belongs to groups(group(i)).
@@ -65,19 +65,29 @@ contains
     end do
     found = size(groups) + 1
     new%text = text_of_cells(text_cells)
-    new%name = made('the name of a group', cx_valuelabel(ignored, group_variable, text_cells))
+    new%name = value_label(group_variable, text_cells)
+    new%label = text_of(new%name)
     groups = [groups, new]
   end subroutine
 
-  !> Adds a row for a case and stores its group in it.
-  subroutine store_group(chart, source, variable, cases, i)
-    integer(cx), intent(in) :: chart, source, variable
+  !> Stores the label of each case's group in a variable.
+  subroutine load_groups(chart, variable, cases)
+    integer, intent(in) :: chart, variable
     type(sample), intent(in) :: cases
-    integer, intent(in) :: i
+    character(longest_label(cases%groups)) :: labels(size(cases%groups))
+    integer :: g
 
-    call start_row(chart, source)
-    call require(cx_adddatavalue(chart, source, variable, cases%groups(cases%group(i))%name) >= 0, &
-      'cannot store a group')
+    do g = 1, size(labels)
+      labels(g) = cases%groups(g)%label
+    end do
+    call load(chart, variable, labels(cases%group))
   end subroutine
+
+  pure integer function longest_label(groups)
+    type(case_group), intent(in) :: groups(:)
+    integer :: g
+
+    longest_label = maxval([(len(groups(g)%label), g=1, size(groups))])
+  end function
 
 end module

@@ -1,33 +1,34 @@
 ! The penguins that procedures draw, and the statistics that they compute of them.
 module penguin_cases
-  use, intrinsic :: iso_c_binding, only: c_null_ptr, dp => c_double
+  use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
   use korva
+  use least_squares, only: mean
   implicit none
   private
-  public :: open_penguins, load_cases, mean, deviation, box_of
+  public :: open_penguins, load_cases, deviation, box_of
   public :: species_number, island_number, sex_number, flipper_number, mass_number
 
   integer, parameter :: name_length = 16
 
   ! The variables of a run, in the order in which open_penguins names them, and the cells of
   ! a row that each takes: a text of nine letters takes two.
-  integer(cx), parameter :: species_number = 1, island_number = 2, sex_number = 3, &
+  integer, parameter :: species_number = 1, island_number = 2, sex_number = 3, &
     flipper_number = 4, mass_number = 5
   integer, parameter :: species_cells(2) = [1, 2], island_cells(2) = [3, 4], sex_cell = 5, &
     flipper_cell = 6, mass_cell = 7, row_cells = 7
 
   !> A column of names: case i has the name levels(code(i)).
   type, public :: factor
-    integer(cx) :: number  !< of its variable
+    integer :: number  !< of its variable
     character(name_length), allocatable :: levels(:)
-    integer(cx), allocatable :: labels(:)  !< of the levels, as string handles
+    integer, allocatable :: labels(:)  !< of the levels, as string handles
     integer, allocatable :: code(:)
   end type
 
   !> The cases without missing values.
-  type, public :: sample
+  type, public :: penguin_sample
     type(factor) :: species, island, sex
     real(dp), allocatable :: flipper(:), mass(:)
   end type
@@ -46,25 +47,18 @@ contains
   subroutine open_penguins(observations, procedure_name)
     type(data_set), intent(inout) :: observations
     character(*), intent(in) :: procedure_name
-    character(:), allocatable :: path
-    integer :: columns(5)
 
-    path = first_argument(otherwise='data/penguins')
-    call require(observations%open(path), 'cannot open the data set '//path)
-    columns = [observations%find_column('species'), observations%find_column('island'), &
-      observations%find_column('sex'), observations%find_column('flipper_length_mm'), &
-      observations%find_column('body_mass_g')]
-    call require(all(columns > 0), 'this is not the data set that was expected')
-    call require(observations%use_variables(columns), 'cannot use the variables')
+    call open_observations(observations, procedure_name, otherwise='data/penguins', &
+      names=[character(17) :: 'species', 'island', 'sex', 'flipper_length_mm', 'body_mass_g'], &
+      numbers=flipper_number)
     call require(observations%cell_count() == row_cells, 'a column is of another width')
-    call require(cx_init(c_null_ptr, observations%dictionary, procedure_name, &
-      len(procedure_name, kind=cx)) >= 0, 'cannot start the chart library')
+    call start_library(procedure_name, observations%dictionary)
   end subroutine
 
   !> Reads the complete cases. The library has to be started: it knows the labels of names.
   subroutine load_cases(observations, cases)
     type(data_set), intent(in) :: observations
-    type(sample), intent(out) :: cases
+    type(penguin_sample), intent(out) :: cases
     real(dp) :: cells(row_cells)
     integer :: row
 
@@ -86,7 +80,7 @@ contains
   end subroutine
 
   type(factor) function new_factor(number)
-    integer(cx), intent(in) :: number
+    integer, intent(in) :: number
 
     new_factor%number = number
     allocate (new_factor%levels(0), new_factor%labels(0), new_factor%code(0))
@@ -100,19 +94,12 @@ contains
     level = text_of_cells(cells)
     if (.not. any(to%levels == level)) then
       to%levels = [to%levels, level]
-      to%labels = [to%labels, made('the label of a name', &
-        cx_valuelabel(ignored, to%number, cells))]
+      to%labels = [to%labels, value_label(to%number, cells)]
     end if
     to%code = [to%code, findloc(to%levels, level, dim=1)]
   end subroutine
 
   ! Statistics
-
-  pure real(dp) function mean(values)
-    real(dp), intent(in) :: values(:)
-
-    mean = sum(values)/size(values)
-  end function
 
   pure real(dp) function deviation(values)
     real(dp), intent(in) :: values(:)
