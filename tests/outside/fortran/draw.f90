@@ -2,36 +2,31 @@
 !
 ! usage: draw <the penguins' data package>
 program draw
-  use, intrinsic :: iso_c_binding, only: c_double, c_int64_t, c_null_ptr
+  use, intrinsic :: iso_c_binding, only: c_double, c_int64_t
   use, intrinsic :: iso_fortran_env, only: error_unit
-  use chartxml, only: cx_addlabel, cx_addrow, cx_addvariable, cx_addx, cx_adddimensionaxis, &
-    cx_adddoubledatavalue, cx_addxydimensionwithaxis, cx_addxyelementex, cx_createchartex, &
-    cx_endchart, cx_setframeclipping, cx_string, cx_terminate
+  use chartxml
   use korva, only: data_set, missing_value
   implicit none
 
-  integer, parameter :: cx = c_int64_t
-  integer(cx), parameter :: none = -1, no = 0, style_of_points = 96, type_point = 23
   type(data_set) :: penguins
-  integer(cx) :: chart, source, graph, data, x, y, points, x_style, x_axis, y_style, y_axis
+  integer :: chart, source, graph, data, x, y
   integer :: failures = 0
 
+  call stop_when_refused(.true.)
   call open_penguins
-  chart = made('a chart', cx_createchartex(c_null_ptr, penguins%dictionary, &
-    'outside, not all of this', 7_cx, chart, source, graph, data))
+  call new_chart_with_frames('outside', chart, penguins%dictionary, source=source, &
+    graph=graph, data=data)
   call try_conventions
 
-  x = made('x', cx_addvariable(chart, source, 1_cx, no))
-  y = made('y', cx_addvariable(chart, source, 2_cx, no))
-  call add_rows
-  call make('the axes', cx_addxydimensionwithaxis(chart, data, none, none, no, no, &
-    x_style, x_axis, y_style, y_axis))
-  call make('the points', cx_addxyelementex(chart, data, 1_cx, type_point, x, y, &
-    style_of_points, points))
-  call make('a label', cx_addlabel(chart, graph, none, cx_string(no, '[ab  ]not this', 6_cx)))
+  call add_variable(chart, source, 1, handle=x)
+  call add_variable(chart, source, 2, handle=y)
+  call load_columns
+  call add_xy_dimensions_with_axes(chart, data)
+  call add_xy_element(chart, data, 1, string_point, x, y, string_scatter)
+  call add_label(chart, graph, content='[ab  ]')
 
-  call make('the chart', cx_endchart(chart))
-  call make('the end of the library', cx_terminate())
+  call end_chart(chart)
+  call end_library
   call penguins%close()
   if (failures > 0) stop 1
 
@@ -46,32 +41,46 @@ contains
       penguins%find_column('body_mass_g')])) stop 1
   end subroutine
 
+  !> What the library's own calls promise, and then the others.
   subroutine try_conventions
-    integer(cx), parameter :: above = 2_cx**32
-    integer(cx) :: style, axis, outputs(2)
+    integer(c_int64_t), parameter :: above = 2_c_int64_t**32, none = -1, no = 0
+    integer(c_int64_t) :: document, frame, style, axis, outputs(2)
+    integer :: stat
+    character(80) :: errmsg
 
-    call expect('a failure is -1 in 64 bits', cx_addx(chart, graph, graph) == -1)
+    document = chart
+    frame = data
+    call expect('a failure is -1 in 64 bits', &
+      cx_addx(document, int(graph, c_int64_t), int(graph, c_int64_t)) == -1)
     call expect('only the low 32 bits of a handle count, and any number but 0 is true', &
-      cx_setframeclipping(chart + above, data, -7_cx) == data)
+      cx_setframeclipping(document + above, frame, -7_c_int64_t) == data)
     style = 17; axis = 18
-    call expect('an entry point of several steps compares all 64', cx_adddimensionaxis(chart, &
-      data, 1 + above, none, no, style, axis, none, none, none, none) == -1)
+    call expect('an entry point of several steps compares all 64', cx_adddimensionaxis(document, &
+      frame, 1 + above, none, no, style, axis, none, none, none, none) == -1)
     outputs = [style, axis]
     call expect('and leaves its outputs alone', all(outputs == [17, 18]))
+    call expect('a text is as long as its length says', &
+      text_of(cx_string(no, '[ab  ]not this', 6_c_int64_t)) == '[ab  ]')
+
+    call add_x(chart, graph, graph, stat=stat, errmsg=errmsg)
+    call expect('a call with stat= goes on and tells why', stat == 1 .and. errmsg /= '')
   end subroutine
 
-  !> A row is drawn when neither of its numbers is missing.
-  subroutine add_rows
+  !> A case is drawn when neither of its numbers is missing.
+  subroutine load_columns
     real(c_double) :: cells(2)
-    integer :: row
+    real(c_double), allocatable :: cases(:, :)
+    integer :: row, kept
 
+    allocate (cases(penguins%row_count(), 2))
+    kept = 0
     do row = 1, penguins%row_count()
       if (.not. penguins%read_row(row, cells)) stop 1
       if (any(cells <= missing_value())) cycle
-      call make('a row', cx_addrow(chart, source))
-      call make('a number', cx_adddoubledatavalue(chart, source, x, cells(1)))
-      call make('a number', cx_adddoubledatavalue(chart, source, y, cells(2)))
+      kept = kept + 1
+      cases(kept, :) = cells
     end do
+    call load(chart, [x, y], cases(:kept, :))
   end subroutine
 
   subroutine expect(behaviour, holds)
@@ -82,22 +91,5 @@ contains
     failures = failures + 1
     write (error_unit, '(2a)') 'FAILED: ', behaviour
   end subroutine
-
-  subroutine make(what, handle)
-    character(*), intent(in) :: what
-    integer(cx), intent(in) :: handle
-
-    if (handle >= 0) return
-    write (error_unit, '(2a)') 'cannot make ', what
-    stop 1
-  end subroutine
-
-  integer(cx) function made(what, handle)
-    character(*), intent(in) :: what
-    integer(cx), intent(in) :: handle
-
-    call make(what, handle)
-    made = handle
-  end function
 
 end program
