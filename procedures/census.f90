@@ -308,6 +308,7 @@ contains
     end do
     call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, &
       list_of(one_a_line, lines))
+    ! A list of its own: compilers hand components of an array on at the wrong stride.
     call set_chart_description(plot%chart, composite_of('Chart description^1', &
       [list_of(commas, [curves%name])]))
     call end_chart(plot%chart)

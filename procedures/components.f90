@@ -163,7 +163,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_point, variables(1), variables(2), &
       string_scatter, points)
     call color_by_species(plot, points)
-    zero = real_string(0.0_dp)
+    zero = real_string(0)
     call add_x_reference_line(plot%chart, plot%data, zero, guide_style=1)
     call add_y_reference_line(plot%chart, plot%data, zero, guide_style=1)
     call add_frame_with_label(plot%chart, plot%graph, string_title, 1, &

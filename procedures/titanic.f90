@@ -137,12 +137,9 @@ contains
     call add_aggregate(plot%chart, plot%source, name=string_countname, &
       label=label_of_variable(persons), handle=counts)
     call set_variable_format(plot%chart, counts, packed_format(format_plain, 5, 0))
-    do i = 1, size(cases%classes)
-      call add_row(plot%chart)
-      call add_double_data_value(plot%chart, classes, cases%classes(i))
-      call add_double_data_value(plot%chart, counts, &
-        sum(cases%persons, cases%codes(:, class) == cases%classes(i)))
-    end do
+    call load(plot%chart, classes, cases%classes)
+    call load(plot%chart, counts, [(sum(cases%persons, &
+      cases%codes(:, class) == cases%classes(i)), i=1, size(cases%classes))])
 
     call add_coordinate_transform(plot%chart, plot%data, string_polar)
     call add_dimension(plot%chart, plot%data, role_theta)
@@ -221,7 +218,7 @@ contains
     call fill_groups(plot, cases, survival, i, groups, observed, fitted)
 
     call add_domain(plot%chart, handle=percentages)
-    call add_interval_ex(plot%chart, real_string(0.0_dp), real_string(100.0_dp), percentages)
+    call add_interval_ex(plot%chart, real_string(0), real_string(100), percentages)
     call add_domain_reference(plot%chart, observed, percentages)
     call add_domain_reference(plot%chart, fitted, percentages)
     call draw_axes(plot, translation('Sex and age'), translation('Survivors (percent)'), &
