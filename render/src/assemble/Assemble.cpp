@@ -149,9 +149,9 @@ Json assemble(const Chart& chart, const Layout& layout, Parts parts,
   append(scales, std::move(parts.scales));
   plot["scales"] = std::move(scales);
   plot["axes"] = std::move(parts.axes);
-  if (!chart.facets.rows.front().empty())
+  if (const int room = rowLabelRoom(chart); room > 0)
     for (Json& legend : parts.legends)
-      legend["offset"] = theme::legendOffset + rowLabelRoom(chart);
+      legend["offset"] = theme::legendOffset + room;
   plot["legends"] = std::move(parts.legends);
   plot["marks"] = std::move(parts.marks);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
@@ -23,27 +24,41 @@ void readVariables(Chart& chart, Notes& notes) {
   }
 }
 
-/// The variables that a variable is composed of, "variable1 + variable2".
+/// The label of a matrix is the same for all: its members tell what it shows.
+std::string titlesOf(const std::vector<const Variable*>& members) {
+  std::string titles;
+  for (const Variable* member : members)
+    titles += (titles.empty() ? "" : ", ") + member->title;
+  return titles;
+}
+
+/// The variables that a variable is composed of: "variable1 + variable2", or those of a
+/// matrix, each with the constant that names its panels: "variable1/label1 + ...".
 void readMembers(Variable& variable, std::string_view expression, const Chart& chart,
                  Notes& notes) {
   constexpr std::string_view plus = " + ";
   std::vector<const Variable*> members;
   while (!expression.empty()) {
-    const std::string_view id = expression.substr(0, expression.find(plus));
-    expression.remove_prefix(std::min(id.size() + plus.size(), expression.size()));
+    const std::string_view term = expression.substr(0, expression.find(plus));
+    expression.remove_prefix(std::min(term.size() + plus.size(), expression.size()));
+    const std::string_view id = term.substr(0, term.find('/'));
+    const bool isOfMatrix = id.size() < term.size();
     const auto found = chart.variableOfId.find(id);
     const Variable* member = found == chart.variableOfId.end() ? nullptr : found->second;
     const bool isUsable = member != nullptr && !member->numbers.empty() &&
-                          (members.empty() || members.front()->source == member->source);
+                          (members.empty() || (members.front()->source == member->source &&
+                                               isOfMatrix == variable.isMatrix));
     if (!isUsable) {
-      notes.add(fmt::format("{} is not drawn yet: it is composed of {}", variable.id, shown(id)));
+      notes.add(fmt::format("{} is not drawn yet: it is composed of {}", variable.id, shown(term)));
       return;
     }
     members.push_back(member);
+    variable.isMatrix = isOfMatrix;
   }
   if (members.empty()) return;
   variable.source = members.front()->source;
   variable.format = members.front()->format;
+  if (variable.isMatrix) variable.title = titlesOf(members);
   variable.members = std::move(members);
 }
 

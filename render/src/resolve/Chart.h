@@ -44,6 +44,7 @@ struct Panel {
   std::size_t row = 0;
   Dimension x{.role = "x"};
   Dimension y{.role = "y"};
+  std::vector<Element> elements{};        ///< those of the chart, along the variables shown here
   std::vector<std::vector<Item>> items{}; ///< of each element
 
   const Dimension& along(std::string_view role) const { return role == "x" ? x : y; }

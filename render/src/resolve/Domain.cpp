@@ -54,6 +54,12 @@ std::string_view domainId(const Dimension& dimension, const Chart& chart) {
   return {};
 }
 
+/// A dimension that names its matrix takes each panel's variable as it is.
+bool isOfMatrix(std::string_view id, const Chart& chart) {
+  const auto found = chart.variableOfId.find(id);
+  return found != chart.variableOfId.end() && found->second->isMatrix;
+}
+
 using Ranks = std::map<std::string_view, double>;
 
 /// The row in which each category comes first.
@@ -103,7 +109,7 @@ void sortByStatistic(std::vector<Category>& categories, const Node& node, const 
 Domain domainOf(const Dimension& dimension, const Chart& chart, Notes& notes) {
   Domain domain;
   const std::string_view id = domainId(dimension, chart);
-  if (id.empty()) return domain;
+  if (id.empty() || isOfMatrix(id, chart)) return domain;
   const Node* node = chart.folder->document.find(id);
   if (node == nullptr || node->kind != "domain") {
     notes.add(fmt::format("the domain {} of {} is not in the chart", shown(id), dimension.role));

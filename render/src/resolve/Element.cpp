@@ -9,6 +9,10 @@ bool Element::isComposed() const {
   return (x != nullptr && !x->members.empty()) || (y != nullptr && !y->members.empty());
 }
 
+bool Element::isOfMatrix() const {
+  return (x != nullptr && x->isMatrix) || (y != nullptr && y->isMatrix);
+}
+
 bool Element::draws(std::size_t row) const {
   const auto has = [row](const Variable* variable) {
     return variable == nullptr || !variable->isMissing(row);

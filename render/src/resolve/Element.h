@@ -75,6 +75,8 @@ struct Element {
     return method == Method::none && modifier == Modifier::none && !hasBase && !isComposed();
   }
   bool isComposed() const;
+  /// Whether it draws other variables in each panel.
+  bool isOfMatrix() const;
   /// Whether a row has every value that the element needs.
   bool draws(std::size_t row) const;
   double weightOf(std::size_t row) const { return weight ? weight->numbers[row] : 1; }

@@ -101,14 +101,43 @@ void limit(std::vector<FacetCell>& cells, std::string_view what, Notes& notes) {
   cells.resize(mostPanels);
 }
 
+/// A column or row for each member of the matrix that an element draws along a role; one
+/// for all without a matrix.
+std::vector<FacetCell> matrixCells(std::string_view role, const Chart& chart) {
+  const auto found = std::ranges::find_if(chart.elements, [role](const Element& element) {
+    return element.along(role) != nullptr && element.along(role)->isMatrix;
+  });
+  if (found == chart.elements.end()) return {{}};
+  std::vector<FacetCell> cells;
+  for (const Variable* member : found->along(role)->members)
+    cells.push_back({{.node = found->node, .variable = member, .category = 0}});
+  return cells;
+}
+
+bool isFacet(const Node& node) {
+  return node.kind == "tableFacet" || node.kind == "coordinateFacet";
+}
+
+Facets matrixFacets(const Chart& chart, Notes& notes) {
+  for (const Node& node : chart.plot->children)
+    if (isFacet(node))
+      notes.add(fmt::format("{} is not drawn: the panels are those of a matrix", node.name()));
+  Facets facets{.columns = matrixCells("x", chart), .rows = matrixCells("y", chart)};
+  facets.isMatrix = true;
+  limit(facets.columns, "columns", notes);
+  limit(facets.rows, "rows", notes);
+  return facets;
+}
+
 } // namespace
 
 Facets readFacets(const Chart& chart, Notes& notes) {
+  if (std::ranges::any_of(chart.elements, &Element::isOfMatrix)) return matrixFacets(chart, notes);
   const Reader reader(chart, notes);
   Split split;
   bool isTable = false;
   for (const Node& node : chart.plot->children) {
-    if (node.kind != "tableFacet" && node.kind != "coordinateFacet") continue;
+    if (!isFacet(node)) continue;
     const Split more = reader.combined(node);
     split.columns = product(split.columns, more.columns, false);
     split.rows = product(split.rows, more.rows, false);

@@ -33,6 +33,7 @@ struct Facets {
   std::vector<FacetCell> columns{{}};
   std::vector<FacetCell> rows{{}};
   bool areAlongAxis = false; ///< panels share one frame and are labelled along its axis
+  bool isMatrix = false;     ///< each column and row is for a variable, with all rows of data
 
   bool isSplit() const { return columns.size() > 1 || rows.size() > 1 || !areUnlabelled(); }
   bool areUnlabelled() const { return columns.front().empty() && rows.front().empty(); }

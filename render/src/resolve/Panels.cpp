@@ -13,14 +13,19 @@ std::string_view sourceOf(const Element& element) {
   return (element.x != nullptr ? element.x : element.y)->source;
 }
 
-Rows rowsOf(const Element& element, const Panel& panel, const Chart& chart) {
+bool belongs(const Element& element, const Panel& panel, const Chart& chart, std::size_t row) {
+  if (chart.facets.isMatrix) return element.draws(row);
   const std::string_view source = sourceOf(element);
-  const std::size_t count = chart.folder->tables.find(source)->second.rowCount;
+  return holds(chart.facets.columns[panel.column], source, row) &&
+         holds(chart.facets.rows[panel.row], source, row);
+}
+
+/// Every panel of a matrix shows the same rows: those that have all of its variables.
+Rows rowsOf(const Element& element, const Panel& panel, const Chart& chart) {
+  const std::size_t count = chart.folder->tables.find(sourceOf(element))->second.rowCount;
   Rows rows;
   for (std::size_t row = 0; row < count; ++row)
-    if (holds(chart.facets.columns[panel.column], source, row) &&
-        holds(chart.facets.rows[panel.row], source, row))
-      rows.push_back(row);
+    if (belongs(element, panel, chart, row)) rows.push_back(row);
   return rows;
 }
 
@@ -69,6 +74,13 @@ std::vector<std::optional<Bins>> binsOfPanels(const Element& element, const Char
   return bins;
 }
 
+/// An element along the variables that a panel is for.
+Element shownIn(const Panel& panel, Element element) {
+  if (element.x != nullptr && element.x->isMatrix) element.x = element.x->members[panel.column];
+  if (element.y != nullptr && element.y->isMatrix) element.y = element.y->members[panel.row];
+  return element;
+}
+
 } // namespace
 
 void makePanels(Chart& chart, Notes& notes) {
@@ -82,7 +94,8 @@ void makePanels(Chart& chart, Notes& notes) {
       Panel& panel = chart.panels[i];
       const bool lacksBins = element.method == Method::histogram && !bins[i];
       const Rows rows = lacksBins ? Rows() : rowsOf(element, panel, chart);
-      panel.items.push_back(itemsOf(element, rows, bins[i] ? &*bins[i] : nullptr));
+      panel.elements.push_back(shownIn(panel, element));
+      panel.items.push_back(itemsOf(panel.elements.back(), rows, bins[i] ? &*bins[i] : nullptr));
     }
   }
 }

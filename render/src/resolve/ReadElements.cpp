@@ -68,6 +68,8 @@ public:
     }
     element.measuresX = !element.isSlice && measuresAlongX(element);
     if (const std::string_view why = lack(element, type); !why.empty()) return refuse(why);
+    if (element.isOfMatrix() && !fitsMatrix(element))
+      return refuse("a matrix shows the same variables by points, and its rows as they are");
 
     readAesthetics(element);
     std::vector<const Variable*> variables{element.y, element.group, element.shade, element.size,
@@ -196,6 +198,21 @@ private:
     if (element.method == Method::hexagons && (measure == nullptr || !measure->members.empty()))
       return "its statistic needs two variables";
     return {};
+  }
+
+  /// Whether an element can be drawn in the panels of a matrix, beside those before it.
+  bool fitsMatrix(const Element& element) const {
+    const auto isAlike = [](const Variable* one, const Variable* other) {
+      const bool areMatrices =
+          one != nullptr && other != nullptr && one->isMatrix && other->isMatrix;
+      return !areMatrices || one->members == other->members;
+    };
+    const bool isOfRows = element.type() == "point" && element.method == Method::none &&
+                          element.modifier == Modifier::none;
+    return isOfRows && !chart_.isTransposed && !chart_.isPolar &&
+           std::ranges::all_of(chart_.elements, [&](const Element& other) {
+             return isAlike(element.x, other.x) && isAlike(element.y, other.y);
+           });
   }
 
   /// What tells the element's rows apart, colors and sizes them; what it asks for beyond

@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <limits>
+#include <map>
 #include <optional>
 #include <span>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -54,7 +58,7 @@ bool hasBars(const Element& element) {
 /// Fits one dimension to what some panels draw along it.
 class Fit {
 public:
-  Fit(Dimension& dimension, std::span<const Panel> panels, const Chart& chart, Notes& notes)
+  Fit(Dimension& dimension, std::span<Panel* const> panels, const Chart& chart, Notes& notes)
       : dimension_(dimension), panels_(panels), chart_(chart), notes_(notes),
         node_(chart.dimensionNode(dimension.role)) {}
 
@@ -73,7 +77,7 @@ public:
 private:
   void collect() {
     bool isFirst = true;
-    for (const Element& element : chart_.elements) {
+    for (const Element& element : panels_.front()->elements) {
       const std::optional<bool> categorical = isCategorical(element, dimension_.role);
       if (!categorical) continue;
       if (isFirst) dimension_.categorical = *categorical;
@@ -110,7 +114,7 @@ private:
     for (const Element& element : chart_.elements) {
       const Variable* variable = element.along(dimension_.role);
       if (variable == nullptr || variable->texts == nullptr) continue;
-      for (const Item& item : panels_.front().items[element.index])
+      for (const Item& item : panels_.front()->items[element.index])
         if ((*variable->texts)[item.row] == category.key) return true;
     }
     return false;
@@ -118,9 +122,9 @@ private:
 
   void fitRange(const Domain& domain) {
     Extent extent;
-    for (const Panel& panel : panels_)
-      for (const Element& element : chart_.elements)
-        if (!element.isSlice) hold(element, panel.items[element.index], extent);
+    for (const Panel* panel : panels_)
+      for (const Element& element : panel->elements)
+        if (!element.isSlice) hold(element, panel->items[element.index], extent);
     for (const Variable* variable : domain.references)
       for (const double value : variable->numbers)
         if (!std::isnan(value)) extent.hold(value);
@@ -196,25 +200,37 @@ private:
   }
 
   Dimension& dimension_;
-  std::span<const Panel> panels_;
+  std::span<Panel* const> panels_;
   const Chart& chart_;
   Notes& notes_;
   const Node* node_;
 };
 
-void fitRole(Dimension Panel::* along, Chart& chart, Notes& notes) {
-  const std::string_view role = (chart.panels.front().*along).role;
+/// The panels that share a scale: all, or those of a variable of a matrix.
+std::vector<std::vector<Panel*>> sharingPanels(std::string_view role, Chart& chart) {
   const Node* node = chart.dimensionNode(role);
   const bool isShared = node == nullptr || node->attribute("facetsShareScale") != "false";
-  if (isShared) {
-    Dimension& first = chart.panels.front().*along;
-    Fit(first, chart.panels, chart, notes).fit();
-    for (Panel& panel : chart.panels)
-      if (&(panel.*along) != &first) panel.*along = first;
-    return;
+  std::map<std::size_t, std::vector<Panel*>> sharing;
+  for (std::size_t i = 0; i < chart.panels.size(); ++i) {
+    Panel& panel = chart.panels[i];
+    const std::size_t ofMatrix = role == "x" ? panel.column : panel.row;
+    const std::size_t shared = chart.facets.isMatrix ? ofMatrix : 0;
+    sharing[isShared ? shared : i].push_back(&panel);
   }
-  for (Panel& panel : chart.panels)
-    Fit(panel.*along, std::span(&panel, 1), chart, notes).fit();
+  std::vector<std::vector<Panel*>> all;
+  for (auto& [key, panels] : sharing)
+    all.push_back(std::move(panels));
+  return all;
+}
+
+void fitRole(Dimension Panel::* along, Chart& chart, Notes& notes) {
+  for (const std::vector<Panel*>& panels :
+       sharingPanels((chart.panels.front().*along).role, chart)) {
+    Dimension& first = panels.front()->*along;
+    Fit(first, panels, chart, notes).fit();
+    for (Panel* panel : panels)
+      if (&(panel->*along) != &first) panel->*along = first;
+  }
 }
 
 } // namespace

@@ -137,9 +137,9 @@ double numberOf(std::string_view text) {
 }
 
 bool Variable::isMissing(std::size_t row) const {
-  if (!members.empty())
-    return std::ranges::all_of(members,
-                               [row](const Variable* member) { return member->isMissing(row); });
+  const auto isMissingIn = [row](const Variable* member) { return member->isMissing(row); };
+  if (isMatrix) return std::ranges::any_of(members, isMissingIn);
+  if (!members.empty()) return std::ranges::all_of(members, isMissingIn);
   return categorical ? (*texts)[row].empty() : std::isnan(numbers[row]);
 }
 

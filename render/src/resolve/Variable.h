@@ -33,6 +33,7 @@ struct Variable {
   std::vector<Category> categories{};     ///< of a categorical one, in drawing order
   std::vector<double> codes{};            ///< the index of each row's category; NaN is missing
   std::vector<const Variable*> members{}; ///< of a variable that is composed of others
+  bool isMatrix = false; ///< each member has panels of its own; rows need all of them
   std::shared_ptr<const Table::Column> constants{}; ///< the values of a constant
 
   bool isMissing(std::size_t row) const;

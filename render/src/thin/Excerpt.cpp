@@ -61,6 +61,9 @@ Rows drawableRows(const std::vector<const Element*>& elements, std::size_t count
 void keepExtremes(const Element& element, const Variable* variable, const Rows& rows,
                   std::set<std::size_t>& kept) {
   if (variable == nullptr || variable->categorical) return;
+  for (const Variable* member : variable->members)
+    keepExtremes(element, member, rows, kept);
+  if (!variable->members.empty()) return;
   const Rows::value_type none = variable->numbers.size();
   std::size_t lowest = none, highest = none;
   for (const std::size_t row : rows) {

@@ -9,7 +9,7 @@ namespace render {
 
 /// An area from low to high along the places of each group.
 void translateArea(const Node& node, Context& context) {
-  const Element* element = context.chart.find(node);
+  const Element* element = context.find(node);
   if (element == nullptr || lookOf(node) == Look::hidden) return;
   if (context.chart.isPolar) {
     context.notes.add(fmt::format("{} is not drawn yet in polar coordinates", node.name()));

@@ -78,7 +78,7 @@ Json whiskerMark(Json mark, const Element& element, const Context& context) {
 
 /// A box plot, or the parts of one that its statistic gives.
 void translateBoxPlot(const Node& node, Context& context) {
-  const Element* element = context.chart.find(node);
+  const Element* element = context.find(node);
   if (element == nullptr) return;
   if (context.chart.isPolar) {
     context.notes.add(fmt::format("{} is not drawn yet in polar coordinates", node.name()));

@@ -178,7 +178,7 @@ Standing standingOf(const Dimension& dimension, bool opposite, const Context& co
   const bool isFirst = (across ? context.panel().column : context.panel().row) == 0;
   const Node* node = context.chart.dimensionNode(dimension.role);
   const bool isShared = node->attribute("facetsShareScale") != "false";
-  return {.hasLabels = isOuter || !isShared, .hasTitle = isOuter && isFirst};
+  return {.hasLabels = isOuter || !isShared, .hasTitle = isOuter && (isFirst || facets.isMatrix)};
 }
 
 /// One title for all panels stands in the middle of them.
@@ -188,6 +188,13 @@ void centreTitle(Json& json, bool across, const Context& context) {
     json["titleX"] = jsonNumber(layout.width / 2 - layout.left[context.panel().column]);
   else
     json["titleY"] = jsonNumber(layout.height / 2 - layout.top[context.panel().row]);
+}
+
+/// A title is as long as all panels, or in a matrix as its own.
+double titleRoom(bool across, const Context& context) {
+  const Layout& layout = context.layout;
+  if (context.chart.facets.isMatrix) return across ? layout.panelWidth : layout.panelHeight;
+  return across ? layout.width : layout.height;
 }
 
 Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
@@ -202,7 +209,7 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
   const bool isUntitled = !standing.hasTitle || (context.chart.facets.areAlongAxis && across &&
                                                  !context.chart.facets.columns.front().empty());
   const bool hasTicks = ticks != nullptr && !isUnlabelled;
-  const auto length = static_cast<int>(across ? context.layout.width : context.layout.height);
+  const auto length = static_cast<int>(titleRoom(across, context));
   Json json{{"scale", dimension.role},
             {"orient", side},
             {"title", isUntitled
@@ -216,7 +223,7 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
     json["domain"] = standing.hasLabels;
     // By itself a grid is as long as the whole plot.
     json["gridScale"] = dimension.role == "x" ? "y" : "x";
-    if (!isUntitled) centreTitle(json, across, context);
+    if (!isUntitled && !context.chart.facets.isMatrix) centreTitle(json, across, context);
   }
   if (dimension.categorical) {
     refuseDelta(ticks, context.notes);

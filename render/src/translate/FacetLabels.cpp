@@ -102,7 +102,8 @@ Text labelOf(const Run& run) {
 }
 
 void labelColumns(Context& context) {
-  const auto& [columns, rows, alongAxis] = context.chart.facets;
+  const std::vector<FacetCell>& columns = context.chart.facets.columns;
+  const bool alongAxis = context.chart.facets.areAlongAxis;
   const Layout& layout = context.layout;
   const auto depth = static_cast<double>(depthOf(columns));
   double y = alongAxis ? layout.height + axisRoom(context) + lineHeight * (depth - 0.5)
@@ -147,9 +148,27 @@ void labelRows(Context& context) {
           context);
 }
 
+/// The title that a facetLabel has of its own, or null.
+const Node* ownTitle(std::size_t level, const Chart& chart) {
+  const Node* label = facetLabel(level, chart);
+  const Node* axis = label != nullptr ? label->child("axis") : nullptr;
+  const Node* title = axis != nullptr ? axis->child("label") : nullptr;
+  if (title == nullptr && label != nullptr) title = label->child("label");
+  return title != nullptr && !title->text.empty() ? title : nullptr;
+}
+
+/// The axes of a matrix tell its variables: there is no place for one title of all.
+void refuseTitles(Context& context) {
+  for (const std::size_t level : {1U, 2U})
+    if (const Node* title = ownTitle(level, context.chart))
+      context.notes.add(
+          fmt::format("{} is not drawn: the axes of a matrix tell its variables", title->name()));
+}
+
 } // namespace
 
 void addFacetLabels(Context& context) {
+  if (context.chart.facets.isMatrix) return refuseTitles(context);
   if (!context.chart.facets.columns.front().empty()) labelColumns(context);
   if (!context.chart.facets.rows.front().empty()) labelRows(context);
 }
@@ -165,6 +184,7 @@ const Node* facetLabel(std::size_t level, const Chart& chart) {
 }
 
 int rowLabelRoom(const Chart& chart) {
+  if (chart.facets.isMatrix || chart.facets.rows.front().empty()) return 0;
   return static_cast<int>(lineHeight) * static_cast<int>(depthOf(chart.facets.rows) + 1) + 6;
 }
 
@@ -184,11 +204,8 @@ double axisRoom(const Context& context) {
 }
 
 std::string facetTitle(const FacetValue& value, std::size_t level, const Chart& chart) {
-  const Node* label = facetLabel(level, chart);
-  const Node* axis = label != nullptr ? label->child("axis") : nullptr;
-  const Node* title = axis != nullptr ? axis->child("label") : nullptr;
-  if (title == nullptr && label != nullptr) title = label->child("label");
-  return title != nullptr && !title->text.empty() ? title->text : value.variable->title;
+  const Node* title = ownTitle(level, chart);
+  return title != nullptr ? title->text : value.variable->title;
 }
 
 } // namespace render

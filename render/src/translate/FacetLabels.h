@@ -5,7 +5,7 @@
 namespace render {
 
 /// Writes what the panels are for: above the columns and to the right of the rows, or
-/// below the axis that panels share.
+/// below the axis that panels share. Those of a matrix are told by the titles of axes.
 void addFacetLabels(Context& context);
 
 /// The "facetLabel" of a level, counted from 1 with the columns first, or null.

@@ -152,7 +152,7 @@ Json capMark(const Element& element, const char* end, Context& context) {
 
 /// A bar for each item; a line where its style says so; a sector in polar coordinates.
 void translateInterval(const Node& node, Context& context) {
-  const Element* element = context.chart.find(node);
+  const Element* element = context.find(node);
   if (element == nullptr || lookOf(node) == Look::hidden) return;
   if (element->summary != nullptr && element->summary->name.starts_with("tukey") &&
       !element->summary->name.ends_with("Fence"))

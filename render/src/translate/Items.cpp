@@ -81,20 +81,28 @@ std::set<double> slotsOf(const Element& element, const Context& context) {
 }
 
 Json rowsOf(const Element& element, const Context& context) {
-  std::string filter;
+  std::vector<const Variable*> needed;
   const auto need = [&](const Variable* variable) {
-    if (variable == nullptr || variable->texts == nullptr) return;
-    filter += fmt::format("{}isValid({})", filter.empty() ? "" : " && ", datum(variable->id));
+    if (variable != nullptr && variable->texts != nullptr) needed.push_back(variable);
   };
-  for (const Variable* variable :
-       {element.x, element.y, element.group, element.shade, element.size})
+  // In a matrix rows need all its variables, not only those of the panel.
+  const Element& whole = context.chart.elements[element.index];
+  for (const Variable* position : {whole.x, whole.y}) {
+    need(position);
+    for (const Variable* member : position->members)
+      if (std::ranges::find(needed, member) == needed.end()) need(member);
+  }
+  for (const Variable* variable : {element.group, element.shade, element.size})
     need(variable);
   for (const Variable* split : element.splits)
     need(split);
+  std::string filter;
+  for (const Variable* variable : needed)
+    filter += fmt::format("{}isValid({})", filter.empty() ? "" : " && ", datum(variable->id));
   for (const std::string_view role : {"x", "y"})
     if (context.along(role).type == ScaleType::log)
       filter += fmt::format(" && {}>0", datum(element.along(role)->id));
-  return {{"name", element.node->id()},
+  return {{"name", context.inPanel(element.node->id())},
           {"source", element.x->source},
           {"transform", Json::array({{{"type", "filter"}, {"expr", std::move(filter)}}})}};
 }
@@ -106,7 +114,8 @@ std::size_t slotCount(const Element& element, const Context& context) {
 }
 
 Json elementData(const Element& element, const Context& context) {
-  if (element.isPlain() && !context.chart.facets.isSplit()) return rowsOf(element, context);
+  const bool hasAllRows = !context.chart.facets.isSplit() || context.chart.facets.isMatrix;
+  if (element.isPlain() && hasAllRows) return rowsOf(element, context);
   const std::set<double> slots = slotsOf(element, context);
   Json values = Json::array();
   for (const Item& item : context.panel().items[element.index])

@@ -90,7 +90,8 @@ double sum(const std::vector<double>& values) {
 Layout Layout::of(const Chart& chart, Notes& notes) {
   constexpr double least = 20; // of a panel's side, however many there are
   const double usual = chart.facets.areAlongAxis ? axisGap : tableGap;
-  const auto& [columns, rows, alongAxis] = chart.facets;
+  const std::vector<FacetCell>& columns = chart.facets.columns;
+  const std::vector<FacetCell>& rows = chart.facets.rows;
   const std::size_t firstRowLevel = 1 + columns.front().size();
   const std::vector<double> across = gapsBetween(
       columns, {.whole = theme::plotWidth, .usual = usual, .firstLevel = 1}, chart, notes);
@@ -123,6 +124,10 @@ void makeUnitsEqual(Chart& chart, const Layout& layout, Notes& notes) {
     return node != nullptr && node->attribute("sameRatio") == "trueCentered";
   };
   if (!asks("x") && !asks("y")) return;
+  if (chart.facets.isMatrix) {
+    notes.add("a unit cannot be as long along x as along y: a matrix has several of each");
+    return;
+  }
   for (Panel& panel : chart.panels) {
     const auto isEven = [](const Dimension& dimension) {
       return !dimension.categorical && dimension.type == ScaleType::linear;

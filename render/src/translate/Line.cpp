@@ -48,7 +48,7 @@ void sort(const Element& element, Json& data) {
 
 /// A line through the rows or items of each group.
 void translateLine(const Node& node, Context& context) {
-  const Element* element = context.chart.find(node);
+  const Element* element = context.find(node);
   if (element == nullptr || lookOf(node) == Look::hidden) return;
   Json data = elementData(*element, context);
   sort(*element, data);

@@ -6,6 +6,7 @@
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
+#include "translate/Matrix.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
@@ -67,7 +68,7 @@ Json sizeOf(const Element& element, Context& context) {
   if (element.method == Method::hexagons) return sizeByCount(element, context);
   if (element.size != nullptr && element.method == Method::none)
     return sizeByVariable(element, context);
-  return {{"value", theme::pointSize}};
+  return {{"value", context.chart.facets.isMatrix ? matrixPointSize(context) : theme::pointSize}};
 }
 
 Json shapeOf(const Element& element, Context& context) {
@@ -81,8 +82,12 @@ Json shapeOf(const Element& element, Context& context) {
 
 /// A symbol for each row or item.
 void translatePoint(const Node& node, Context& context) {
-  const Element* element = context.chart.find(node);
+  const Element* element = context.find(node);
   if (element == nullptr || lookOf(node) == Look::hidden) return;
+
+  const Node* style = panelStyle(*element, context);
+  if (style != nullptr && isEmptyStyle(*style, context.chart))
+    return addVariableName(*element->x, context);
 
   const std::string tooltip = element->isPlain() ? pointTooltip(*element, context) : "";
   Json update = positions(*element, context);
@@ -94,8 +99,9 @@ void translatePoint(const Node& node, Context& context) {
   update["stroke"] = color(*element, context);
   update["strokeWidth"] = {{"value", theme::thinWidth}};
   // A transparent filling, unlike none, still takes the pointer.
-  update["fill"] =
-      isHollow(node, context.chart) ? Json{{"value", "transparent"}} : color(*element, context);
+  update["fill"] = isHollow(style != nullptr ? *style : node, context.chart)
+                       ? Json{{"value", "transparent"}}
+                       : color(*element, context);
   update["fillOpacity"] = {{"value", theme::fillOpacity}};
   update["tooltip"] = tooltip.empty() ? itemTooltip(*element, context)
                                       : Json{{"signal", fmt::format("[{}]", tooltip)}};

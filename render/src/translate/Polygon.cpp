@@ -7,7 +7,7 @@ namespace render {
 
 /// The rows of each group as the corners of a polygon, in their order.
 void translatePolygon(const Node& node, Context& context) {
-  const Element* element = context.chart.find(node);
+  const Element* element = context.find(node);
   if (element == nullptr || lookOf(node) == Look::hidden) return;
   if (element->method == Method::hexagons) return translateTile(node, context);
   Json update = positions(*element, context);

@@ -61,7 +61,7 @@ void addHexagons(const Element& element, Context& context) {
 /// A cell of a table of colors for each row, or a hexagon for each cell that a statistic
 /// counts in.
 void translateTile(const Node& node, Context& context) {
-  const Element* element = context.chart.find(node);
+  const Element* element = context.find(node);
   if (element == nullptr) return;
   if (element->method == Method::hexagons) {
     context.parts.data.push_back(elementData(*element, context));

@@ -75,6 +75,11 @@ bool Parts::hasScale(std::string_view name) const {
   return std::ranges::any_of(scales, [name](const Json& scale) { return scale["name"] == name; });
 }
 
+const Element* Context::find(const Node& node) const {
+  const Element* element = chart.find(node);
+  return element == nullptr ? nullptr : &panel().elements[element->index];
+}
+
 std::string Context::inPanel(std::string_view name) const {
   if (!chart.facets.isSplit()) return std::string(name);
   return fmt::format("{}_{}", name, panelIndex + 1);

@@ -38,6 +38,8 @@ struct Context {
 
   const Panel& panel() const { return chart.panels[panelIndex]; }
   const Dimension& along(std::string_view role) const { return panel().along(role); }
+  /// The element of a node as the panel draws it, or null when it cannot be drawn.
+  const Element* find(const Node& node) const;
   /// A name of what each panel has: with the panel's number, where there are several.
   std::string inPanel(std::string_view name) const;
 };

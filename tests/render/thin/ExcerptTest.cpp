@@ -63,6 +63,22 @@ TEST(Excerpt, ThinsMoreRowsEvenlyAndKeepsExtremesAndGroups) {
   EXPECT_TRUE(specOf(count)["data"] == spec["data"]);
 }
 
+TEST(Excerpt, KeepsTheExtremesOfEachVariableOfAMatrix) {
+  const TestFolder folder;
+  const json spec =
+      folder
+          .write("chart.xml",
+                 document(
+                     R"(<element type="point" id="e"><x variable="m"/><y variable="m"/></element>)",
+                     R"(<variable id="m" expression="v1/l1 + v2/l2" categorical="false"/>)"))
+          .write("source0.csv", rows(render::mostRows * 5))
+          .spec();
+  const json values = spec["data"][0]["values"];
+  EXPECT_EQ(values.size(), render::mostRows);
+  for (const int y : {-5, 999999})
+    EXPECT_TRUE(std::ranges::any_of(values, [y](const json& row) { return row["v2"] == y; })) << y;
+}
+
 TEST(Excerpt, LeavesExtentsAndDescriptionToAllRows) {
   const json spec = specOf(render::mostRows * 2);
   const std::string description = spec["description"];

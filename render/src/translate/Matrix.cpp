@@ -1,0 +1,51 @@
+#include "translate/Matrix.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "text/Wrap.h"
+#include "translate/Theme.h"
+
+namespace render {
+
+const Node* panelStyle(const Element& element, const Context& context) {
+  const bool isDiagonal = context.chart.facets.isMatrix && element.x == element.y;
+  return isDiagonal ? element.node->child("facetStyle") : nullptr;
+}
+
+bool isEmptyStyle(const Node& facetStyle, const Chart& chart) {
+  const Node* style = chart.folder->document.find(facetStyle.attribute("style"));
+  return style == nullptr || style->attribute("value").empty();
+}
+
+void addVariableName(const Variable& variable, Context& context) {
+  constexpr int margin = 12;
+  constexpr int lineHeight = theme::labelSize + 4;
+  const Layout& layout = context.layout;
+  const std::vector<std::string> lines =
+      wrap(variable.title, {.width = static_cast<int>(layout.panelWidth) - margin,
+                            .fontSize = theme::labelSize,
+                            .lines = 4});
+  const double above = lineHeight * (static_cast<double>(lines.size()) - 1) / 2;
+  Json update{{"x", {{"value", layout.panelWidth / 2}}},
+              {"y", {{"value", layout.panelHeight / 2 - above}}},
+              {"text", {{"value", lines}}},
+              {"align", {{"value", "center"}}},
+              {"baseline", {{"value", "middle"}}},
+              {"lineHeight", {{"value", lineHeight}}},
+              {"font", {{"value", theme::font(context.chart.folder->manifest)}}},
+              {"fontSize", {{"value", theme::labelSize}}},
+              {"fill", {{"signal", "ink"}}}};
+  context.parts.marks.push_back(
+      {{"type", "text"}, {"interactive", false}, {"encode", {{"update", std::move(update)}}}});
+}
+
+int matrixPointSize(const Context& context) {
+  constexpr double usualPanel = 300; // as wide or wider has symbols of the usual size
+  const double share = std::min(1.0, context.layout.panelWidth / usualPanel);
+  return std::max(theme::smallestSize / 2, static_cast<int>(std::lround(theme::pointSize * share)));
+}
+
+} // namespace render
