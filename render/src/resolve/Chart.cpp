@@ -114,12 +114,16 @@ void noteMissingRows(const Chart& chart, Notes& notes) {
                           count.second, fmt::join(elements, ", ")));
 }
 
-void readCoordinates(Chart& chart) {
+void readCoordinates(Chart& chart, Notes& notes) {
   for (const Node& node : chart.plot->children) {
     if (node.kind != "coordinateTransform") continue;
     chart.isTransposed = chart.isTransposed || node.attribute("method") == "transpose";
     chart.isPolar = chart.isPolar || node.attribute("method") == "polar";
+    if (node.attribute("method") == "rectangular") chart.space = &node;
   }
+  if (chart.space == nullptr || (!chart.isPolar && !chart.isTransposed)) return;
+  notes.add("a plot in space is neither transposed nor polar");
+  chart.isPolar = chart.isTransposed = false;
 }
 
 } // namespace
@@ -159,7 +163,7 @@ Chart resolve(const ChartFolder& folder, Notes& notes) {
     notes.add("the chart has no frame with dimensions or elements to draw");
     return chart;
   }
-  readCoordinates(chart);
+  readCoordinates(chart, notes);
   readElements(chart, notes);
   agreeOnKinds(chart, notes);
   chart.facets = readFacets(chart, notes);

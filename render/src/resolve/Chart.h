@@ -44,10 +44,14 @@ struct Panel {
   std::size_t row = 0;
   Dimension x{.role = "x"};
   Dimension y{.role = "y"};
+  Dimension z{.role = "z"};               ///< of a chart in space
   std::vector<Element> elements{};        ///< those of the chart, along the variables shown here
   std::vector<std::vector<Item>> items{}; ///< of each element
 
-  const Dimension& along(std::string_view role) const { return role == "x" ? x : y; }
+  const Dimension& along(std::string_view role) const {
+    if (role == "z") return z;
+    return role == "x" ? x : y;
+  }
 };
 
 /// A chart with every reference resolved. It borrows the folder.
@@ -61,6 +65,7 @@ struct Chart {
   std::deque<Element> elements{};     ///< those of the plot that can be drawn
   bool isTransposed = false;          ///< x goes up, y goes across
   bool isPolar = false;               ///< x goes around, y goes outward
+  const Node* space = nullptr;        ///< tells how a box of three dimensions is seen; or null
   Facets facets{};
   std::vector<Panel> panels{}; ///< at least one
 

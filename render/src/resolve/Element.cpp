@@ -17,7 +17,7 @@ bool Element::draws(std::size_t row) const {
   const auto has = [row](const Variable* variable) {
     return variable == nullptr || !variable->isMissing(row);
   };
-  const std::array<const Variable*, 5> needed{x, y, group, shade, size};
+  const std::array<const Variable*, 6> needed{x, y, z, group, shade, size};
   return std::ranges::all_of(needed, has) && std::ranges::all_of(splits, has) && has(weight) &&
          weightOf(row) > 0;
 }

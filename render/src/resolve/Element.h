@@ -49,6 +49,7 @@ struct Element {
   std::size_t index = 0; ///< among the elements of the chart
   const Variable* x = nullptr;
   const Variable* y = nullptr;
+  const Variable* z = nullptr;           ///< of a chart in space
   const Variable* group = nullptr;       ///< tells groups apart by color and shape
   const Variable* shape = nullptr;       ///< tells them apart by shape, where color does not
   std::vector<const Variable*> splits{}; ///< tell rows apart; that of the shape is one
@@ -67,7 +68,10 @@ struct Element {
 
   const Variable* place() const { return measuresX ? y : x; }
   const Variable* measure() const { return measuresX ? x : y; }
-  const Variable* along(std::string_view role) const { return role == "x" ? x : y; }
+  const Variable* along(std::string_view role) const {
+    if (role == "z") return z;
+    return role == "x" ? x : y;
+  }
   bool measuresAlong(std::string_view role) const { return (role == "x") == measuresX; }
   std::string_view type() const { return node->attribute("type"); }
   /// Whether its marks show rows as they are.

@@ -56,6 +56,7 @@ public:
     const Type& type = *typeOf(node_);
     element.x = position("x", "theta");
     element.y = position("y", "r");
+    element.z = position("z", "z");
     element.isSlice = roleNode(node_, "theta") != nullptr;
     element.hasBase = type.hasBase;
     readMethod(element);
@@ -68,6 +69,12 @@ public:
     }
     element.measuresX = !element.isSlice && measuresAlongX(element);
     if (const std::string_view why = lack(element, type); !why.empty()) return refuse(why);
+    if (chart_.space != nullptr && !fitsSpace(element))
+      return refuse("in space there are points of three numbers");
+    if (chart_.space == nullptr && roleNode(node_, "z") != nullptr) {
+      notes_.add(fmt::format("{}: its z is not drawn: the plot is flat", node_.name()));
+      element.z = nullptr;
+    }
     if (element.isOfMatrix() && !fitsMatrix(element))
       return refuse("a matrix shows the same variables by points, and its rows as they are");
 
@@ -198,6 +205,16 @@ private:
     if (element.method == Method::hexagons && (measure == nullptr || !measure->members.empty()))
       return "its statistic needs two variables";
     return {};
+  }
+
+  static bool fitsSpace(const Element& element) {
+    const auto isNumber = [&](const Variable* variable) {
+      return variable != nullptr && !variable->numbers.empty() &&
+             variable->source == sourceOf(element);
+    };
+    return element.type() == "point" && element.method == Method::none &&
+           element.modifier == Modifier::none && isNumber(element.x) && isNumber(element.y) &&
+           isNumber(element.z);
   }
 
   /// Whether an element can be drawn in the panels of a matrix, beside those before it.

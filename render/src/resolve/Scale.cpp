@@ -163,6 +163,10 @@ private:
         extent.leavesOut = true;
     };
     for (const Item& item : items) {
+      if (dimension_.role == "z") {
+        take(element.z->numbers[item.row]);
+        continue;
+      }
       take(isMeasure ? item.high : item.to);
       const double start = isMeasure ? item.low : item.from;
       // A logarithm has no zero: bars begin where the scale does.
@@ -259,6 +263,7 @@ void fitDimensions(Chart& chart, Notes& notes) {
   if (!chart.elements.empty() && !hasScales) return;
   fitRole(&Panel::x, chart, notes);
   fitRole(&Panel::y, chart, notes);
+  if (chart.space != nullptr) fitRole(&Panel::z, chart, notes);
 }
 
 } // namespace render

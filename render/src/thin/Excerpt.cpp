@@ -93,6 +93,7 @@ Rows thinned(const Rows& rows, const std::vector<const Element*>& elements) {
   for (const Element* element : elements) {
     keepExtremes(*element, element->x, rows, kept);
     keepExtremes(*element, element->y, rows, kept);
+    keepExtremes(*element, element->z, rows, kept);
     keepGroups(*element, rows, kept);
   }
   Rows others;

@@ -13,24 +13,12 @@
 #include "translate/FacetLabels.h"
 #include "translate/MinorTicks.h"
 #include "translate/PolarAxis.h"
+#include "translate/Space.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
 namespace render {
 namespace {
-
-/// The axis's own label, else the titles of the variables drawn along it.
-std::string titleOf(const Node& axis, const Dimension& dimension) {
-  const Node* label = axis.child("label");
-  if (label != nullptr) return label->text;
-  std::string title;
-  for (const Variable* variable : dimension.variables) {
-    if (title.find(variable->title) != std::string::npos) continue;
-    if (!title.empty()) title += ", ";
-    title += variable->title;
-  }
-  return title;
-}
 
 constexpr int ticksAlongX = 9;
 constexpr int ticksAlongY = 7;
@@ -214,7 +202,7 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
             {"orient", side},
             {"title", isUntitled
                           ? std::vector<std::string>()
-                          : wrap(titleOf(axis, dimension),
+                          : wrap(axisTitle(axis, dimension),
                                  {.width = length, .fontSize = theme::axisTitleSize, .lines = 3})},
             {"grid", ticks != nullptr && ticks->child("gridLines") != nullptr},
             {"ticks", hasTicks},
@@ -238,9 +226,24 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
 
 } // namespace
 
+std::string axisTitle(const Node& axis, const Dimension& dimension) {
+  const Node* label = axis.child("label");
+  if (label != nullptr) return label->text;
+  std::string title;
+  for (const Variable* variable : dimension.variables) {
+    if (title.find(variable->title) != std::string::npos) continue;
+    if (!title.empty()) title += ", ";
+    title += variable->title;
+  }
+  return title;
+}
+
 /// The axes of a dimension; its scale is there whether it has a node or not.
 void translateDimension(const Node& node, Context& context) {
   const std::string_view role = node.attribute("role");
+  if (context.chart.space != nullptr && (role == "x" || role == "y" || role == "z"))
+    return addSpatialAxis(node, context);
+  if (role == "z") context.notes.add(fmt::format("{}: role=\"z\" is not drawn yet", node.name()));
   if (role != "x" && role != "y") {
     if (node.child("axis") != nullptr)
       context.notes.add(fmt::format("the axis of {} is not drawn yet", shown(role)));

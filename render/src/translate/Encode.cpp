@@ -7,6 +7,7 @@
 
 #include "text/Expression.h"
 #include "translate/Groups.h"
+#include "translate/Space.h"
 #include "translate/Theme.h"
 
 namespace render {
@@ -95,6 +96,7 @@ Json position(const Element& element, std::string_view role, std::string_view fi
 
 Json positions(const Element& element, const Context& context) {
   if (context.chart.isPolar) return polarPositions(element, context);
+  if (context.chart.space != nullptr) return spatialPositions();
   Json json = Json::object();
   for (const std::string_view role : {"x", "y"})
     json[channelsOf(role, context.chart).start] =

@@ -67,7 +67,8 @@ void translateFunction(const Node& guide, Context& context) {
   };
   if (context.along("x").categorical || context.along("y").categorical)
     return refuse("a function needs continuous scales");
-  if (context.chart.isPolar) return refuse("a function needs scales that are straight");
+  if (context.chart.isPolar || context.chart.space != nullptr)
+    return refuse("a function needs scales that are straight");
 
   const std::string_view text = parameter(guide, "y");
   std::string formula;

@@ -7,6 +7,7 @@
 #include "resolve/ScaleMethod.h"
 #include "text/Expression.h"
 #include "translate/Encode.h"
+#include "translate/Space.h"
 
 namespace render {
 namespace {
@@ -21,7 +22,7 @@ Json valueOf(const Variable& variable, std::size_t row) {
 }
 
 void addVariables(Json& fields, const Element& element, const Item& item) {
-  std::vector<const Variable*> variables{element.x,     element.y,    element.group,
+  std::vector<const Variable*> variables{element.x,     element.y,    element.z,     element.group,
                                          element.shade, element.size, element.labels};
   variables.insert(variables.end(), element.splits.begin(), element.splits.end());
   for (const Variable* variable : variables) {
@@ -92,7 +93,7 @@ Json rowsOf(const Element& element, const Context& context) {
     for (const Variable* member : position->members)
       if (std::ranges::find(needed, member) == needed.end()) need(member);
   }
-  for (const Variable* variable : {element.group, element.shade, element.size})
+  for (const Variable* variable : {element.z, element.group, element.shade, element.size})
     need(variable);
   for (const Variable* split : element.splits)
     need(split);
@@ -107,13 +108,7 @@ Json rowsOf(const Element& element, const Context& context) {
           {"transform", Json::array({{{"type", "filter"}, {"expr", std::move(filter)}}})}};
 }
 
-} // namespace
-
-std::size_t slotCount(const Element& element, const Context& context) {
-  return std::max(std::size_t{1}, slotsOf(element, context).size());
-}
-
-Json elementData(const Element& element, const Context& context) {
+Json flatData(const Element& element, const Context& context) {
   const bool hasAllRows = !context.chart.facets.isSplit() || context.chart.facets.isMatrix;
   if (element.isPlain() && hasAllRows) return rowsOf(element, context);
   const std::set<double> slots = slotsOf(element, context);
@@ -123,6 +118,18 @@ Json elementData(const Element& element, const Context& context) {
   return {{"name", context.inPanel(element.node->id())},
           {"values", std::move(values)},
           {"transform", Json::array()}};
+}
+
+} // namespace
+
+std::size_t slotCount(const Element& element, const Context& context) {
+  return std::max(std::size_t{1}, slotsOf(element, context).size());
+}
+
+Json elementData(const Element& element, const Context& context) {
+  Json data = flatData(element, context);
+  if (context.chart.space != nullptr) addProjection(data["transform"], element, context);
+  return data;
 }
 
 } // namespace render

@@ -16,7 +16,8 @@ namespace {
 
 std::string pointTooltip(const Element& element, Context& context) {
   std::string tooltip;
-  for (const Variable* variable : {element.x, element.y}) {
+  for (const Variable* variable : {element.x, element.y, element.z}) {
+    if (variable == nullptr) continue;
     if (!tooltip.empty()) tooltip += ',';
     tooltip += tooltipEntry(*variable, context.parts);
   }

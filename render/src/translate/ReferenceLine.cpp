@@ -31,7 +31,7 @@ void translateReferenceLine(const Node& guide, Context& context) {
     const Category* category = dimension.categorical ? categoryOf(dimension, text) : nullptr;
     const bool isWithin = dimension.categorical ? category != nullptr
                                                 : value >= dimension.low && value <= dimension.high;
-    if (!isWithin || context.chart.isPolar) {
+    if (!isWithin || context.chart.isPolar || context.chart.space != nullptr) {
       context.notes.add(fmt::format("{} is not drawn: {}={} is outside the plot", guide.name(),
                                     role, shown(text)));
       continue;

@@ -48,12 +48,14 @@ using Translator = void (*)(const Node& node, Context& context);
 
 // One translator a kind of node, each in a file of its own.
 void translateArea(const Node& node, Context& context);
+void translateBox(const Node& guide, Context& context);
 void translateBoxPlot(const Node& node, Context& context);
 void translateDimension(const Node& node, Context& context);
 void translateFunction(const Node& guide, Context& context);
 void translateInterval(const Node& node, Context& context);
 void translateLegend(const Node& legend, Context& context);
 void translateLine(const Node& node, Context& context);
+void translatePlane(const Node& guide, Context& context);
 void translatePoint(const Node& node, Context& context);
 void translatePolygon(const Node& node, Context& context);
 void translateReferenceLine(const Node& guide, Context& context);
