@@ -4,8 +4,8 @@
 
 namespace render {
 
-/// The axes of a dimension in polar coordinates: circles with their values for what goes
+/// The axes of a dimension's node in polar coordinates: circles with their values for what goes
 /// outward, rays with their labels for what goes around.
-void addPolarAxis(const Node& dimension, Context& context);
+void addPolarAxis(const Node& node, Context& context);
 
 } // namespace render
