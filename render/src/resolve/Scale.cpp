@@ -222,6 +222,7 @@ std::vector<std::vector<Panel*>> sharingPanels(std::string_view role, Chart& cha
     sharing[isShared ? shared : i].push_back(&panel);
   }
   std::vector<std::vector<Panel*>> all;
+  all.reserve(sharing.size());
   for (auto& [key, panels] : sharing)
     all.push_back(std::move(panels));
   return all;
