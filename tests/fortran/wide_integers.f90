@@ -25,4 +25,6 @@ program wide_integers
   if (stat /= 1) stop 4
   if (.not. take_error(message)) stop 5
   if (message /= 'parent handle (-9) out of range (0-38)') stop 6
+  ! The end of a main program frees nothing.
+  deallocate (document, message)
 end program

@@ -54,7 +54,7 @@ Ticks ticksOfPowers(double base, double low, double high) {
   constexpr std::size_t most = 12;
   const double first = std::floor(std::log(low) / std::log(base) - 1e-9);
   const double last = std::ceil(std::log(high) / std::log(base) + 1e-9);
-  const auto within = [&](std::vector<double> factors, double every) {
+  const auto within = [&](const std::vector<double>& factors, double every) {
     std::vector<double> values;
     for (double power = first; power <= last; power += every)
       for (const double factor : factors) {

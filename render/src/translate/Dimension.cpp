@@ -114,7 +114,8 @@ void setTickLength(Json& json, const Node& majorTicks, const Context& context) {
   constexpr double most = 50;
   const std::string_view text = majorTicks.attribute("length");
   double length = numberOf(text);
-  if (!(length >= 0 && length <= most)) {
+  const bool isDrawn = length >= 0 && length <= most;
+  if (!isDrawn) {
     if (!text.empty())
       context.notes.add(
           fmt::format("{}: length=\"{}\" is not drawn", majorTicks.name(), shown(text)));
@@ -132,7 +133,8 @@ void setTickStyle(Json& json, const Node& majorTicks, const Context& context) {
   const std::string_view text = majorTicks.attribute("labelAngle");
   const double angle = numberOf(text);
   if (text.empty()) return;
-  if (!(angle >= -360 && angle <= 360)) {
+  const bool isDrawn = angle >= -360 && angle <= 360;
+  if (!isDrawn) {
     context.notes.add(
         fmt::format("{}: labelAngle=\"{}\" is not drawn", majorTicks.name(), shown(text)));
     return;
