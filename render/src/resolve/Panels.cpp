@@ -92,10 +92,11 @@ void makePanels(Chart& chart, Notes& notes) {
     const std::vector<std::optional<Bins>> bins = binsOfPanels(element, chart, notes);
     for (std::size_t i = 0; i < chart.panels.size(); ++i) {
       Panel& panel = chart.panels[i];
-      const bool lacksBins = element.method == Method::histogram && !bins[i];
+      const std::optional<Bins>& own = bins[i];
+      const bool lacksBins = element.method == Method::histogram && !own;
       const Rows rows = lacksBins ? Rows() : rowsOf(element, panel, chart);
       panel.elements.push_back(shownIn(panel, element));
-      panel.items.push_back(itemsOf(panel.elements.back(), rows, bins[i] ? &*bins[i] : nullptr));
+      panel.items.push_back(itemsOf(panel.elements.back(), rows, own ? &*own : nullptr));
     }
   }
 }

@@ -13,6 +13,7 @@ using render::Sample;
 
 Sample sampleOf(const std::vector<double>& values, const std::vector<double>& weights = {}) {
   std::vector<Sample::Value> all;
+  all.reserve(values.size());
   for (std::size_t i = 0; i < values.size(); ++i)
     all.push_back({.value = values[i], .weight = weights.empty() ? 1 : weights[i], .row = i});
   return Sample(all);
