@@ -171,6 +171,14 @@ private:
 
   /// What keeps an element from being drawn, or nothing.
   static std::string_view lack(const Element& element, const Type& type) {
+    if (const std::string_view why = lackOfData(element); !why.empty()) return why;
+    const Variable* measure = element.measure();
+    const bool needsNumbers = (type.needsMeasure && type.hasBase) || element.method != Method::none;
+    if (needsNumbers && measure != nullptr && measure->categorical) return "it measures categories";
+    return lackOfMethod(element);
+  }
+
+  static std::string_view lackOfData(const Element& element) {
     const bool countsRows = element.method == Method::histogram ||
                             element.method == Method::distribution ||
                             element.method == Method::share ||
@@ -179,27 +187,28 @@ private:
     const Variable* measure = element.measure();
     if (element.isSlice && !hasData(measure)) return "it has no theta variable with data";
     const bool mayLackPlace = element.isSlice || element.method == Method::summary;
-    const bool mayLackMeasure = countsRows;
     const auto lacks = [](const Variable* variable, bool may) {
       return variable == nullptr ? !may : !hasData(variable);
     };
     const std::string_view noX = "it has no x variable with data";
     const std::string_view noY = "it has no y variable with data";
     if (lacks(place, mayLackPlace)) return element.measuresX ? noY : noX;
-    if (lacks(measure, mayLackMeasure)) return element.measuresX ? noX : noY;
+    if (lacks(measure, countsRows)) return element.measuresX ? noX : noY;
     if (place == nullptr && measure == nullptr) return "it has no variable";
     if (place && measure && place->source != measure->source)
       return "its variables are of different data sources";
-    if (type.needsMeasure && type.hasBase && measure != nullptr && measure->categorical)
-      return "it measures categories";
-    if (element.method != Method::none && measure != nullptr && measure->categorical)
-      return "it measures categories";
+    return {};
+  }
+
+  static std::string_view lackOfMethod(const Element& element) {
+    const Variable* place = element.place();
+    const Variable* measure = element.measure();
+    const bool isComposed = place != nullptr && !place->members.empty();
     const bool needsNumbers = element.method == Method::histogram ||
                               element.method == Method::distribution ||
                               element.method == Method::hexagons;
-    if (needsNumbers && (place == nullptr || place->categorical || !place->members.empty()))
+    if (needsNumbers && (place == nullptr || place->categorical || isComposed))
       return "its statistic needs a continuous variable";
-    const bool isComposed = place != nullptr && !place->members.empty();
     if (isComposed && element.method != Method::none)
       return "its statistic needs places of one variable";
     if (element.method == Method::hexagons && (measure == nullptr || !measure->members.empty()))
