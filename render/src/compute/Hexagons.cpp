@@ -75,6 +75,7 @@ std::vector<Item> hexagons(const Element& element, const Rows& rows) {
     item.value += element.weightOf(row);
   }
   std::vector<Item> items;
+  items.reserve(itemOfCell.size());
   for (const auto& [cell, item] : itemOfCell)
     items.push_back(item);
   return items;

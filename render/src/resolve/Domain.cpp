@@ -66,8 +66,8 @@ using Ranks = std::map<std::string_view, double>;
 Ranks firstRows(const Dimension& dimension) {
   Ranks ranks;
   for (const Variable* variable : dimension.variables)
-    for (std::size_t row = 0; row < variable->texts->size(); ++row)
-      ranks.try_emplace((*variable->texts)[row], static_cast<double>(ranks.size()));
+    for (const std::string_view text : *variable->texts)
+      ranks.try_emplace(text, static_cast<double>(ranks.size()));
   return ranks;
 }
 
