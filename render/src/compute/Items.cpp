@@ -1,6 +1,7 @@
 #include "compute/Items.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <map>
 
