@@ -149,6 +149,7 @@ std::vector<Item> histogram(const Element& element, const Rows& rows, const Bins
 /// Bars at numbers are as wide as the closest two allow.
 void widen(std::vector<Item>& items) {
   std::vector<double> places;
+  places.reserve(items.size());
   for (const Item& item : items)
     places.push_back(item.from);
   std::ranges::sort(places);
@@ -195,6 +196,7 @@ std::vector<Rows> groupsOf(const Element& element, const Rows& rows) {
     groups[std::move(key)].push_back(row);
   }
   std::vector<Rows> all;
+  all.reserve(groups.size());
   for (auto& [key, group] : groups)
     all.push_back(std::move(group));
   return all;
