@@ -4,7 +4,7 @@
 const escapes = {'&': '&amp;', '<': '&lt;', '>': '&gt;'};
 const escape = (text) => text.replace(/[&<>]/g, (c) => escapes[c]);
 
-/** The title and the description of a specification. */
+/** The title and the description of a Vega chart. */
 export const textsOfPicture = (spec) => ({
   title: spec.usermeta?.title ?? '',
   description: spec.description ?? '',

@@ -18,7 +18,7 @@ Status validate(const Arguments& filesOrFolders, bool asJson);
 Status verify(const Arguments& folders, bool asJson);
 /// Tells what chart folders hold.
 Status info(const Arguments& folders, bool asJson);
-/// Makes specification, page and, if asked, pictures of each chart anew, and the gallery.
+/// Makes Vega chart, page and, if asked, pictures of each chart anew, and the gallery.
 Status render(const Arguments& folders, const PictureOptions& options);
 /// Makes index.html of output folders anew.
 Status gallery(const Arguments& folders);

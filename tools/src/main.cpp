@@ -72,7 +72,7 @@ private:
   }
 
   void addRender() {
-    CLI::App& verb = add("render", "Draw charts anew: specification, page, pictures, gallery",
+    CLI::App& verb = add("render", "Draw charts anew: Vega chart, page, pictures, gallery",
                          "chartxml render charts --svg --png",
                          [this] { return tools::render(arguments_, pictures_); });
     takeFolders(verb, "Chart folders, or output folders that hold some");
