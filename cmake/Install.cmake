@@ -39,7 +39,10 @@ foreach(page chartxml.1 chartxml.7)
 endforeach()
 install(FILES ${made}/chartxml.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${made}/chartxml.7 DESTINATION ${CMAKE_INSTALL_MANDIR}/man7)
-install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# What the README links to comes along at the same places.
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY tests/outside/c tests/outside/cpp tests/outside/fortran
+  DESTINATION ${CMAKE_INSTALL_DOCDIR}/tests/outside)
 install(DIRECTORY docs procedures DESTINATION ${CMAKE_INSTALL_DOCDIR}
   FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.f90)
 

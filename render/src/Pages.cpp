@@ -20,7 +20,7 @@ namespace {
 //   resolve     references, extents, groups   -> Chart
 //   translate   one translator a node kind    -> Parts
 //   thin        rows and columns that are drawn -> Excerpts
-//   assemble    one Vega specification        -> JSON
+//   assemble    one Vega chart                -> JSON
 Json specification(const ChartFolder& folder, const Words& words) {
   Notes notes;
   Chart chart = resolve(folder, notes);

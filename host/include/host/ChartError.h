@@ -29,7 +29,8 @@ class KORVA_API KorvaGoToCaller{};
 
 /// Reports go to the host's error log (host/ErrorLog.h). The operations are
 /// static because the first report can come before a handler exists and the
-/// last one after it is destroyed.
+/// last one after it is destroyed. What the program's error callback throws, such as
+/// KorvaGoToCaller, passes through them.
 class KORVA_API ChartErrorHandler {
 public:
   virtual ~ChartErrorHandler() = default;

@@ -24,7 +24,7 @@ public:
   /// The English text from UTF-8; call it after assignUTF8.
   void assignUTF8ForEng(std::string_view text);
 
-  /// The number's text with at most `precision` significant digits and no
+  /// The number's text with at most `precision` (1 to 17) significant digits and no
   /// trailing zeros ("10", "0.1"), for machines.
   void assignDouble(double value, int precision);
 

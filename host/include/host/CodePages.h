@@ -13,7 +13,7 @@ KORVA_API const char* KORVAMBDefaultCodePage();
 KORVA_API std::string KORVAMBTranscodeGeneric(std::u16string_view text);
 
 /// The longest prefix of at most `maxLength` bytes of a text in the process code
-/// page that cuts no character, combined characters included.
+/// page that cuts no character, combined characters included; empty for a length below 1.
 KORVA_API std::string KORVAMBStringTruncate_A(std::string_view text, int maxLength);
 
 namespace host {

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-/// Turns finished chart folders into Vega specifications and HTML pages.
+/// Turns finished chart folders into Vega charts and HTML pages.
 namespace render {
 
 /// A chart folder that cannot be drawn, or a page that cannot be written: which
@@ -31,7 +31,8 @@ void writeChart(const std::filesystem::path& chartFolder);
 void writeGallery(const std::filesystem::path& outputFolder);
 
 /// The same for a gallery that is there: adds the charts and errors that its list
-/// lacks. The cost of one more chart hardly grows with their number.
+/// lacks, or makes a damaged one anew. The cost of one more chart hardly grows with their
+/// number. Throws RenderError as writeGallery does.
 void updateGallery(const std::filesystem::path& outputFolder);
 
 /// The versions of what makes and draws the pages, by name: renderer, vega, ...

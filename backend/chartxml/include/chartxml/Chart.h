@@ -103,12 +103,14 @@ public:
 
   // Handles, ids and styles
 
+  /// Gives an element the next handle, which it answers.
   int mapElement(xercesc::DOMElement* element);
   /// The element under a handle, or null.
   xercesc::DOMElement* getElement(int handle) const;
   /// The handle of an element, or -1.
   int getHandle(const xercesc::DOMElement* element) const;
   int AddEmptyElement(xercesc::DOMElement& parent, const XMLCh* name, xercesc::DOMElement*& out);
+  /// A node with a text about its parent.
   int AddDescription(int parent, int name);
   /// Copies the attributes of one node to another. 0, or -1.
   int CopyAttributes(int from, int to);
@@ -142,6 +144,8 @@ public:
   /// A detached "styleCycle", or null when its id is in use, which is reported.
   xercesc::DOMElement* AddStyleCycle(const XMLCh* id, const XMLCh* styleId,
                                      std::source_location where = std::source_location::current());
+  /// Gives `target` a style of its own, named after `owner` and the attribute, unless
+  /// that name is in use, which is reported.
   void AddStyleAttribute(const xercesc::DOMElement& owner, xercesc::DOMElement& target,
                          const XMLCh* attribute,
                          std::source_location where = std::source_location::current());
@@ -181,6 +185,7 @@ public:
   int SetFacetLabelGap(int facetLabel, int gap);
   int SetFacetLabelCellStyle(int facetLabel, int suffix);
   int SetFacetLabelingCellAspect(int facetLabeling, double aspect);
+  /// A style for the panels that `when` names.
   int AddFacetStyle(int elementOrGridLines, int when, int suffix);
   int AddCoordinateTransform(int frame, int method);
 
@@ -367,10 +372,14 @@ public:
 
   // Axes
 
+  /// An axis; `opposite` puts it at the far side of the frame.
   int AddAxis(int parent, int suffix, bool opposite);
-  /// Grid lines have a handle of their own, the one before their ticks'.
+  /// Strings, each or none: where ticks stand, their length, the angle of their labels in
+  /// degrees and the distance between two. Grid lines have a handle of their own, the one
+  /// before their ticks'.
   int AddMajorTicks(int parent, int position, bool gridLines, int length, int labelAngle,
                     bool stagger, int delta);
+  /// The same with the number of ticks between two major ones.
   int AddMinorTicks(int axis, int position, bool gridLines, int length, int number);
   int AddTransform(int parent, int method);
 
@@ -402,11 +411,14 @@ public:
 
   /// Completes the chart and sends it. 0, or -1; a second call is not meant.
   int EndChart();
+  /// Attaches the styles to the document, which EndChart does. 0, or -1.
   int AddStyles();
   /// In a chart with facets, makes aesthetics refer to copies of their variables, which
   /// have no domain; one that refers to another kind of node is passed over. The result
   /// of the last exchange, or -1 when there was none.
   int updateGroupedChart();
+  /// Moves the summaries that SetSummaryFunction noted from the variables' descriptions
+  /// to where the output side looks for them.
   void updateVariableStatistics(ZephVisualization& chart) const;
   /// Assigns the printed document to `buffer`.
   void GetXmlBuffer(std::string& buffer, bool printWhiteSpace) const;

@@ -38,6 +38,7 @@ public:
 
   /// The registry, made on first use.
   static ChartXml* GetInstance();
+  /// The registry, in initialized mode; it is owned by the process until Terminate.
   static ChartXml* Initialize();
   /// Destroys the registry with every chart in it; returns null.
   static ChartXml* Terminate();
@@ -49,7 +50,8 @@ public:
 
   /// A new chart's handle, from 0 upward; never reused while the registry lives.
   int CreateChart();
-  /// The chart of a handle, or null, which is reported when `report` is set.
+  /// The chart of a handle, the registry's own until the chart ends; or null, which is
+  /// reported, with the place that is told, when `report` is set.
   Chart* getValidChart(int handle, const char* sourceFile, unsigned line, bool report) const;
   /// The chart's document as it stands, for reading; the chart's own. Null when there
   /// is no such chart, which is reported.
@@ -77,6 +79,8 @@ public:
   /// `chart` is -1. The dictionary's result.
   int SetProcedure(int chart, const std::string& procedureName);
   void SetGlobalStringTable(const std::string& path);
+  /// Forgets every string but the predefined ones; their handles are given out anew. 0 in
+  /// every case.
   int ResetStrings();
 
   // Texts; results are string handles unless said otherwise
