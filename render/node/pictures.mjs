@@ -8,7 +8,7 @@ import {readFileSync, renameSync, rmSync, writeFileSync} from 'node:fs';
 import {basename, join} from 'node:path';
 import {Resvg} from '@resvg/resvg-js';
 import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
-import {pngWithTexts, svgWithTexts, textsOfPicture} from '../page/pictureTexts.js';
+import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from '../page/pictureTexts.js';
 import {nameFaces} from './faces.mjs';
 import {textWidth} from './textWidth.mjs';
 
@@ -43,13 +43,13 @@ async function draw(folder, {svg, png}) {
   const spec = JSON.parse(readFileSync(join(folder, 'chart.vg.json'), 'utf8'));
   // The ids in a picture count from one, whatever was drawn before it.
   resetSVGDefIds();
-  const picture = await new View(parse(spec), {renderer: 'none'}).toSVG();
-  const texts = textsOfPicture(spec);
-  if (svg) writeWhole(join(folder, 'chart.svg'), svgWithTexts(picture, texts));
+  const view = new View(parse(spec), {renderer: 'none'});
+  const picture = wholeSvg(await view.toSVG(magnificationOf(spec)), spec);
+  if (svg) writeWhole(join(folder, 'chart.svg'), picture);
   if (png) {
     const zoom = {fitTo: {mode: 'zoom', value: pngScale}, font: fonts};
     const pixels = new Resvg(nameFaces(anchorClippedGroups(picture)), zoom).render().asPng();
-    writeWhole(join(folder, 'chart.png'), pngWithTexts(pixels, texts));
+    writeWhole(join(folder, 'chart.png'), pngWithTexts(pixels, textsOfPicture(spec)));
   }
 }
 

@@ -1,6 +1,8 @@
 import {View} from 'vega';
 import {expressionInterpreter} from 'vega-interpreter';
 import {Handler} from 'vega-tooltip';
+import {patternsOf} from './patterns.js';
+import {magnificationOf} from './pictureTexts.js';
 
 const escapes = {'&': '&amp;', '<': '&lt;', '>': '&gt;', '"': '&quot;', "'": '&#39;'};
 const escape = (text) => String(text).replace(/[&<>"']/g, (c) => escapes[c]);
@@ -12,11 +14,28 @@ function formatTooltip(pairs) {
   return `<table>${pairs.map(row).join('')}</table>`;
 }
 
+/** Shows the picture larger than Vega draws it, where its theme says so. */
+function magnify(container, spec) {
+  const svg = container.querySelector('svg');
+  const magnification = magnificationOf(spec);
+  if (magnification !== 1) svg.style.width = `${svg.width.baseVal.value * magnification}px`;
+}
+
+/** Makes the patterns known to the page; a picture of no size is there all the same. */
+function placePatterns(spec) {
+  const patterns = patternsOf(spec);
+  if (!patterns) return;
+  const place = document.createElement('div');
+  place.innerHTML = `<svg class="patterns" aria-hidden="true" width="0" height="0">${patterns}</svg>`;
+  document.body.append(place);
+}
+
 /**
- * Draws into the element and follows the reader's choice of light or dark; paper is
- * always light.
+ * Draws into the element, and follows the reader's choice of light or dark unless the
+ * theme has its own; paper is always light.
  */
-export async function drawChart(runtime, container) {
+export async function drawChart(runtime, container, spec) {
+  const {followsReader = true} = spec.usermeta.theme ?? {};
   const dark = matchMedia('(prefers-color-scheme: dark)');
   const view = new View(runtime, {
     container,
@@ -24,14 +43,18 @@ export async function drawChart(runtime, container) {
     hover: true,
     expr: expressionInterpreter,
   });
+  const own = spec.signals.find(({name}) => name === 'dark').value;
+  const isDarkNow = () => (followsReader ? dark.matches : own);
   const follow = (isDark) => {
     const theme = isDark ? 'dark' : 'light';
     view.tooltip(new Handler({theme, formatTooltip}).call);
     return view.signal('dark', isDark);
   };
-  await follow(dark.matches).runAsync();
-  dark.addEventListener('change', () => follow(dark.matches).runAsync());
+  placePatterns(spec);
+  await follow(isDarkNow()).runAsync();
+  magnify(container, spec);
+  dark.addEventListener('change', () => follow(isDarkNow()).runAsync());
   addEventListener('beforeprint', () => follow(false).run());
-  addEventListener('afterprint', () => follow(dark.matches).run());
+  addEventListener('afterprint', () => follow(isDarkNow()).run());
   return view;
 }

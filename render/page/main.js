@@ -21,7 +21,7 @@ async function drawPage() {
   prepareLabels(spec);
   // Expressions are kept as trees: the page's policy allows no code from texts.
   const runtime = parse(spec, null, {ast: true});
-  const view = await drawChart(runtime, element('chart'));
+  const view = await drawChart(runtime, element('chart'), spec);
 
   const page = {spec, rows, runtime, view, pristine, filters, zoom, actions: element('actions')};
   const walk = addWalk(page, element('chart'), element('live'));

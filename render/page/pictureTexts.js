@@ -1,6 +1,8 @@
 // Pictures say what they show: a title and a description in SVG, text chunks in PNG.
 // Shared by the page and the program that draws without a browser.
 
+import {patternsOf} from './patterns.js';
+
 const escapes = {'&': '&amp;', '<': '&lt;', '>': '&gt;'};
 const escape = (text) => text.replace(/[&<>]/g, (c) => escapes[c]);
 
@@ -10,10 +12,15 @@ export const textsOfPicture = (spec) => ({
   description: spec.description ?? '',
 });
 
-/** The SVG with them as its first elements. */
-export const svgWithTexts = (svg, {title, description}) =>
-  svg.replace(/<svg[^>]*>/, (open) =>
-    `${open}<title>${escape(title)}</title><desc>${escape(description)}</desc>`);
+/** How much larger than its plot says a Vega chart is shown. */
+export const magnificationOf = (spec) => spec.usermeta?.theme?.magnification ?? 1;
+
+/** Vega's SVG of a chart with its texts and its patterns as the first elements. */
+export function wholeSvg(svg, spec) {
+  const {title, description} = textsOfPicture(spec);
+  return svg.replace(/<svg[^>]*>/, (open) =>
+    `${open}<title>${escape(title)}</title><desc>${escape(description)}</desc>${patternsOf(spec)}`);
+}
 
 const crcTable = Uint32Array.from({length: 256}, (_, byte) => {
   let code = byte;

@@ -1,13 +1,13 @@
 import {View} from 'vega';
 import {expressionInterpreter} from 'vega-interpreter';
 import {csvOf} from './csv.js';
-import {pngWithTexts, svgWithTexts, textsOfPicture} from './pictureTexts.js';
+import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from './pictureTexts.js';
 import {word} from './words.js';
 
 const pngScale = 2;
 
-/** What a saved picture is made from: what is seen, but always light, as it is printed. */
-function light({runtime, view, filters, zoom}) {
+/** What a saved picture is made from: what is seen, but light or dark as its theme begins. */
+function asTheme({runtime, view, filters, zoom}) {
   const picture = new View(runtime, {renderer: 'none', expr: expressionInterpreter});
   const names = filters.map(({signal}) => signal)
     .concat(zoom.flatMap(({name}) => [`zoom_${name}`, `ticks_${name}`, `decimals_${name}`]))
@@ -16,10 +16,19 @@ function light({runtime, view, filters, zoom}) {
   return picture;
 }
 
-const svg = async (page) => svgWithTexts(await light(page).toSVG(), textsOfPicture(page.spec));
+const svg = async (page) =>
+  wholeSvg(await asTheme(page).toSVG(magnificationOf(page.spec)), page.spec);
 
+/** From the SVG, since Vega's own drawing of pixels knows no patterns. */
 async function png(page) {
-  const url = await light(page).toImageURL('png', pngScale);
+  const image = new Image();
+  image.src = `data:image/svg+xml,${encodeURIComponent(await svg(page))}`;
+  await image.decode();
+  const canvas = document.createElement('canvas');
+  canvas.width = image.width * pngScale;
+  canvas.height = image.height * pngScale;
+  canvas.getContext('2d').drawImage(image, 0, 0, canvas.width, canvas.height);
+  const url = canvas.toDataURL('image/png');
   const bytes = Uint8Array.from(atob(url.slice(url.indexOf(',') + 1)), (c) => c.charCodeAt(0));
   return pngWithTexts(bytes, textsOfPicture(page.spec));
 }

@@ -9,12 +9,22 @@
 #include "page/GalleryList.h"
 #include "page/Runtime.h"
 #include "resolve/Chart.h"
+#include "text/Show.h"
 #include "text/Words.h"
 #include "thin/Excerpt.h"
+#include "translate/Theme.h"
 #include "translate/Translator.h"
 
 namespace render {
 namespace {
+
+/// A template of another system's making is no reason not to draw.
+void noteTemplate(const Manifest& manifest, Notes& notes) {
+  const std::string& name = manifest.chartTemplate;
+  if (!name.empty() && theme::find(name) == nullptr)
+    notes.add(fmt::format("the template {} is not known: the chart is drawn in the {} theme",
+                          shown(name), theme::themes().front().name));
+}
 
 //   read        chart.xml, CSV, manifest      -> ChartFolder
 //   resolve     references, extents, groups   -> Chart
@@ -23,6 +33,7 @@ namespace {
 //   assemble    one Vega chart                -> JSON
 Json specification(const ChartFolder& folder, const Words& words) {
   Notes notes;
+  noteTemplate(folder.manifest, notes);
   Chart chart = resolve(folder, notes);
   const Layout layout = Layout::of(chart, notes);
   makeUnitsEqual(chart, layout, notes);
@@ -53,12 +64,13 @@ Manifest manifestOf(const std::filesystem::path& folder) {
 
 } // namespace
 
-void writeChart(const std::filesystem::path& chartFolder) {
+void writeChart(const std::filesystem::path& chartFolder, const std::string& theme) {
   const std::filesystem::path folder =
       chartFolder.has_filename() ? chartFolder : chartFolder.parent_path();
   const std::filesystem::path page = folder / "chart.html";
   try {
-    const ChartFolder chart = ChartFolder::read(folder);
+    ChartFolder chart = ChartFolder::read(folder);
+    if (!theme.empty()) chart.manifest.chartTemplate = theme;
     const Words words(chart.manifest.language);
     const Json spec = specification(chart, words);
     writeFile(folder / "chart.vg.json", laidOut(spec));
@@ -71,6 +83,13 @@ void writeChart(const std::filesystem::path& chartFolder) {
                           reason.starts_with(prefix) ? reason.substr(prefix.size()) : reason));
     throw;
   }
+}
+
+std::vector<std::string> themes() {
+  std::vector<std::string> names;
+  for (const theme::Theme& theme : theme::themes())
+    names.emplace_back(theme.name);
+  return names;
 }
 
 void writeGallery(const std::filesystem::path& outputFolder) {

@@ -1,4 +1,5 @@
 #include <ostream>
+#include <regex>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -47,6 +48,10 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"true",
              "render nix",
              {2, fmt::format("folder: Directory does not exist: nix\n{}", moreHelp)}},
+        Case{"true",
+             "render charts --theme none",
+             {2, fmt::format("--theme: none not in {{default,print,dark,presentation}}\n{}",
+                             moreHelp)}},
         Case{"mkdir ../../none",
              "info none",
              {2, "chartxml: none: no chart here or one folder below\n"}},
@@ -166,6 +171,23 @@ TEST_F(Command, MakesTheSameBytesAgain) {
   EXPECT_EQ(drawn, sent);
 }
 
+TEST_F(Command, DrawsInAnotherThemeUntilItDrawsInThatOfTheTemplate) {
+  const auto svg = [&] { return scratch.read("charts/0001-small/chart.svg"); };
+  ASSERT_EQ(chartxml("render charts --svg").status, 0);
+  const auto usual = files();
+  ASSERT_EQ(chartxml("render charts --svg --theme print").status, 0);
+  EXPECT_THAT(svg(), HasSubstr("</desc><defs><pattern id=\"chartxml-rising\""));
+  EXPECT_THAT(svg(), HasSubstr("fill=\"#000000\""));
+  ASSERT_EQ(chartxml("render charts --svg --theme presentation").status, 0);
+  std::smatch size;
+  const std::string large = svg();
+  ASSERT_TRUE(
+      std::regex_search(large, size, std::regex(R"re(width="(\S+)" .*viewBox="0 0 (\S+))re")));
+  EXPECT_DOUBLE_EQ(std::stod(size[1]), 1.75 * std::stod(size[2]));
+  ASSERT_EQ(chartxml("render charts --svg").status, 0);
+  EXPECT_EQ(files(), usual);
+}
+
 TEST_F(Command, RendersWhatWasChangedWithoutListingTheChange) {
   ASSERT_EQ(shell("cd charts/0001-small && sed -i 's/A label/An edit/' chart.xml"),
             (Outcome{0, ""}));
@@ -221,7 +243,8 @@ TEST_F(Command, IsCompletedByTheShellWithItsOwnVerbsAndOptions) {
         .text;
   };
   EXPECT_EQ(completed("chartxml v", 1), "validate verify\n");
-  EXPECT_EQ(completed("chartxml render --", 2), "--help --svg --png --node\n");
+  EXPECT_EQ(completed("chartxml render --", 2), "--help --svg --png --theme --node\n");
+  EXPECT_EQ(completed("chartxml render charts --theme pr", 4), "print presentation\n");
   EXPECT_EQ(completed("chartxml verify charts/0", 2), "charts/0001-small\n");
   EXPECT_EQ(completed("chartxml render charts --node charts/0001-small/s", 4),
             "charts/0001-small/source0.csv\n");

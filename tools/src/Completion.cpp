@@ -1,5 +1,6 @@
 #include "Completion.h"
 
+#include <algorithm>
 #include <vector>
 
 #include <fmt/format.h>
@@ -44,13 +45,35 @@ char kindOfArguments(const CLI::App& verb) {
   return !positionals.empty() && takesFolders(positionals.front()) ? 'd' : 'f';
 }
 
+/// What may follow an option that takes one of a few words, "TEXT:{one,other}" to CLI11;
+/// empty for others.
+std::string choicesOf(const CLI::Option* option) {
+  const std::string type = option->get_type_name();
+  const std::size_t begin = type.find('{');
+  if (begin == type.npos) return {};
+  std::string choices = type.substr(begin + 1, type.find('}') - begin - 1);
+  std::ranges::replace(choices, ',', ' ');
+  return choices;
+}
+
 /// The names of options that are followed by a file.
 std::string valuedOf(const CLI::App& verb) {
   std::string names;
   for (const CLI::Option* option :
        verb.get_options([](const CLI::Option* each) { return isNamed(each) && takesValue(each); }))
-    names += nameOf(option) + " ";
+    if (choicesOf(option).empty()) names += nameOf(option) + " ";
   return names;
+}
+
+/// What follows options that take one of a few words, as cases of the shell.
+std::string choiceCases(const CLI::App& verb) {
+  std::string cases;
+  for (const CLI::Option* option :
+       verb.get_options([](const CLI::Option* each) { return isNamed(each); }))
+    if (const std::string choices = choicesOf(option); !choices.empty())
+      cases +=
+          fmt::format("  '{} {}') choices='{}' ;;\n", verb.get_name(), nameOf(option), choices);
+  return cases;
 }
 
 /// A text between single quotes, without the signs that zsh's _arguments reads.
@@ -71,7 +94,10 @@ std::string zshArguments(const CLI::App& verb) {
   std::string arguments;
   for (const CLI::Option* option : verb.get_options()) {
     const char* const files = takesFolders(option) ? "_files -/" : "_files";
-    if (isNamed(option))
+    if (const std::string choices = choicesOf(option); isNamed(option) && !choices.empty())
+      arguments += fmt::format(" \\\n      '{}[{}]:word:({})'", nameOf(option),
+                               quoted(option->get_description()), choices);
+    else if (isNamed(option))
       arguments +=
           fmt::format(" \\\n      '{}[{}]{}'", nameOf(option), quoted(option->get_description()),
                       takesValue(option) ? ":file:_files" : "");
@@ -85,18 +111,25 @@ std::string zshArguments(const CLI::App& verb) {
 
 std::string bashCompletion(const CLI::App& app) {
   std::string cases = fmt::format("  '') words='{}' ;;\n", wordsOf(app));
-  for (const CLI::App* verb : verbsOf(app))
+  std::string choices;
+  for (const CLI::App* verb : verbsOf(app)) {
     cases += fmt::format("  {}) words='{}' valued=' {}' kind={} ;;\n", verb->get_name(),
                          wordsOf(*verb), valuedOf(*verb), kindOfArguments(*verb));
+    choices += choiceCases(*verb);
+  }
   return fmt::format(R"(# Completes {0} in bash; printed by: {0} completion bash
 _{0}() {{
-  local word=${{COMP_WORDS[COMP_CWORD]}} verb= words= valued= kind=f i
+  local word=${{COMP_WORDS[COMP_CWORD]}} verb= words= valued= choices= kind=f i
   for ((i = 1; i < COMP_CWORD; i++)); do
     [[ ${{COMP_WORDS[i]}} == -* ]] || {{ verb=${{COMP_WORDS[i]}} && break; }}
   done
   case $verb in
 {1}  esac
-  if [[ -z $verb || $word == -* ]]; then
+  case "$verb ${{COMP_WORDS[COMP_CWORD - 1]}}" in
+{2}  esac
+  if [[ -n $choices ]]; then
+    mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word")
+  elif [[ -z $verb || $word == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
   else
     [[ $valued == *" ${{COMP_WORDS[COMP_CWORD - 1]}} "* ]] && kind=f
@@ -106,7 +139,7 @@ _{0}() {{
 }}
 complete -F _{0} {0}
 )",
-                     app.get_name(), cases);
+                     app.get_name(), cases, choices);
 }
 
 std::string zshCompletion(const CLI::App& app) {

@@ -9,7 +9,8 @@ namespace tools {
 struct PictureOptions {
   bool svg = false;
   bool png = false;
-  std::string node{}; ///< the Node.js program; empty: the one installed beside, else on the path
+  std::string theme{}; ///< one of render::themes(); empty: that of each chart's template
+  std::string node{};  ///< the Node.js program; empty: the one installed beside, else on the path
 };
 
 /// Draws chart.svg and chart.png from the chart.vg.json of each folder, all in one

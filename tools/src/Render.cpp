@@ -18,9 +18,10 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Makes the page; what went wrong, if anything did, is said and told.
-std::vector<std::string> drawPage(const fs::path& chart, const Progress& progress) {
+std::vector<std::string> drawPage(const fs::path& chart, const std::string& theme,
+                                  const Progress& progress) {
   try {
-    render::writeChart(chart);
+    render::writeChart(chart, theme);
     return {};
   } catch (const render::RenderError& error) {
     progress.clear();
@@ -72,7 +73,7 @@ Status render(const Arguments& folders, const PictureOptions& options) {
     Progress progress(charts.size());
     for (const fs::path& chart : charts) {
       progress.step(chart.filename().native() + ", page");
-      errors.push_back(drawPage(chart, progress));
+      errors.push_back(drawPage(chart, options.theme, progress));
       if (errors.back().empty()) drawn.push_back(chart);
       galleries.insert(fs::absolute(chart).parent_path());
     }

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 #include <host/ChartError.h>
 #include <host/Version.h>
+#include <render/Pages.h>
 
 #include "Completion.h"
 #include "Verbs.h"
@@ -78,6 +79,9 @@ private:
     takeFolders(verb, "Chart folders, or output folders that hold some");
     verb.add_flag("--svg", pictures_.svg, "Draw chart.svg");
     verb.add_flag("--png", pictures_.png, "Draw chart.png");
+    verb.add_option("--theme", pictures_.theme,
+                    "Draw in this theme, whatever the charts' templates say")
+        ->check(CLI::IsMember(render::themes()));
     verb.add_option("--node", pictures_.node, "The Node.js program to draw pictures with")
         ->check(CLI::ExistingFile);
   }

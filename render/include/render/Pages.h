@@ -4,6 +4,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 /// Turns finished chart folders into Vega charts and HTML pages.
 namespace render {
@@ -20,7 +21,11 @@ public:
 /// the same bytes; each file appears whole or not at all. What the chart asks for
 /// and is not drawn is named in the page's notes. Throws RenderError when the
 /// chart cannot be read; a page that says so is written all the same.
-void writeChart(const std::filesystem::path& chartFolder);
+/// `theme` is one of themes(); empty: the one that the chart's template names.
+void writeChart(const std::filesystem::path& chartFolder, const std::string& theme = {});
+
+/// The names of the themes that charts are drawn in, the usual one first.
+std::vector<std::string> themes();
 
 /// Writes index.html, the gallery of the charts in an output folder in the order of
 /// their names, gallery.js, the list that it shows, and runtime/, the scripts that the

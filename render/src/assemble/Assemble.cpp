@@ -67,24 +67,24 @@ void addFunctionLegend(Parts& parts) {
 
 /// Texts as the lines of one title. Whole lines are left out past the limit,
 /// which is more than anybody prints under a chart.
-Json lines(const std::vector<std::string>& texts, WrapLimits limits) {
-  limits.width = theme::textWidth;
+Json lines(const std::vector<std::string>& texts, const theme::Theme& theme, WrapLimits limits) {
+  limits.width = theme.plotWidth + theme::textMargin;
   Json all = Json::array();
   for (const std::string& text : texts)
     append(all, wrap(text, limits));
   return all;
 }
 
-void addTitles(Json& spec, Json& plot, const Parts& parts) {
+void addTitles(Json& spec, Json& plot, const Parts& parts, const theme::Theme& theme) {
   if (!parts.title.empty() || !parts.subtitle.empty())
-    spec["title"] = {
-        {"text", lines(parts.title, {.fontSize = theme::titleSize, .lines = 6, .bold = true})}};
+    spec["title"] = {{"text", lines(parts.title, theme,
+                                    {.fontSize = theme::titleSize, .lines = 6, .bold = true})}};
   if (!parts.subtitle.empty())
     spec["title"]["subtitle"] =
-        lines(parts.subtitle, {.fontSize = theme::subtitleSize, .lines = 8});
+        lines(parts.subtitle, theme, {.fontSize = theme::subtitleSize, .lines = 8});
   if (!parts.footnotes.empty())
     plot["title"] = {
-        {"text", lines(parts.footnotes, {.fontSize = theme::footnoteSize, .lines = 40})},
+        {"text", lines(parts.footnotes, theme, {.fontSize = theme::footnoteSize, .lines = 40})},
         {"orient", "bottom"},
         {"fontSize", theme::footnoteSize},
         {"fontWeight", "normal"},
@@ -129,7 +129,9 @@ Json pageMeta(const Chart& chart, const Parts& parts, const std::vector<Excerpt>
 
 Json assemble(const Chart& chart, const Layout& layout, Parts parts,
               const std::vector<Excerpt>& excerpts, const Words& words, const Notes& notes) {
+  const theme::Theme& theme = theme::of(chart);
   Json meta = pageMeta(chart, parts, excerpts, words, notes);
+  if (Json ofTheme = theme::meta(theme); !ofTheme.empty()) meta["theme"] = std::move(ofTheme);
   Json plot{{"type", "group"},
             {"encode",
              {{"update", {{"width", {{"signal", "width"}}}, {"height", {{"signal", "height"}}}}}}}};
@@ -139,9 +141,9 @@ Json assemble(const Chart& chart, const Layout& layout, Parts parts,
             {"height", jsonNumber(layout.height)},
             {"padding", 20},
             {"background", {{"signal", "paper"}}},
-            {"config", theme::config(chart.folder->manifest)},
-            {"signals", theme::signals()}};
-  addTitles(spec, plot, parts);
+            {"config", theme::config(chart.folder->manifest, theme)},
+            {"signals", theme::signals(theme)}};
+  addTitles(spec, plot, parts, theme);
 
   addFunctionLegend(parts);
   Json scales = Json::array();

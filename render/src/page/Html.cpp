@@ -23,6 +23,7 @@ figcaption, .soft { color: var(--soft); }
 .plot { position: relative; }
 #chart { width: fit-content; max-width: 100%; }
 #chart svg { max-width: 100%; height: auto; }
+.patterns { position: absolute; }
 .ring { position: absolute; width: 1.4rem; height: 1.4rem; margin: -.8rem 0 0 -.8rem; border: .15rem solid var(--ink);
   border-radius: 50%; outline: .1rem solid var(--paper); pointer-events: none; }
 #live { min-height: 1.5em; margin: .25rem 0; font-weight: 600; }

@@ -46,6 +46,7 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
     manifest.description = json.value("description", "");
     manifest.splitHeader = json.value("splitHeader", "");
     manifest.language = json.value("language", manifest.language);
+    manifest.chartTemplate = json.value("template", "");
     const host::NumberSymbols& usual = host::numberSymbols(manifest.language);
     const nlohmann::json signs = json.value("numberSigns", nlohmann::json::object());
     manifest.signs = {.decimal = signs.value("decimal", usual.decimal),

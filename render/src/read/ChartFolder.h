@@ -21,7 +21,8 @@ struct Manifest {
   std::string description{};
   std::string splitHeader{};
   std::string language = "en";
-  NumberSigns signs{}; ///< those of the language, unless the manifest has its own
+  std::string chartTemplate{}; ///< names the theme that it is drawn in
+  NumberSigns signs{};         ///< those of the language, unless the manifest has its own
 
   /// Reads manifest.json of a chart folder; a folder without one has a manifest
   /// that names the folder. Throws RenderError.

@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 
 #include "translate/Encode.h"
+#include "translate/Filling.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
@@ -25,7 +26,8 @@ void translateArea(const Node& node, Context& context) {
   if (!isAcross(place, context.chart)) update["orient"] = {{"value", "horizontal"}};
   if (const std::string_view steps = interpolationOf(node); steps != "linear")
     update["interpolate"] = {{"value", steps}};
-  update["fill"] = color(*element, context);
+  update["fill"] = filling(*element, context);
+  addOutline(update, context);
   update["fillOpacity"] = {{"value", theme::areaOpacity}};
   if (element->group != nullptr) update["tooltip"] = itemTooltip(*element, context);
 

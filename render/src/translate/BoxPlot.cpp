@@ -5,6 +5,7 @@
 #include "compute/Sample.h"
 #include "text/Expression.h"
 #include "translate/Encode.h"
+#include "translate/Filling.h"
 #include "translate/Interval.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
@@ -36,7 +37,7 @@ Json boxMark(const Element& element, Context& context) {
   const Channels measure = channelsOf(role, context.chart);
   update[measure.start] = {{"scale", role}, {"field", "high"}};
   update[measure.end] = {{"scale", role}, {"field", "low"}};
-  update["fill"] = color(element, context);
+  update["fill"] = filling(element, context);
   update["fillOpacity"] = {{"value", theme::fillOpacity}};
   update["stroke"] = {{"signal", "ink"}};
   update["strokeWidth"] = {{"value", theme::thinWidth}};

@@ -50,7 +50,7 @@ void addShadeScale(const Element& element, Context& context) {
   context.parts.scales.push_back({{"name", name},
                                   {"type", "linear"},
                                   {"domain", {jsonNumber(low), jsonNumber(high)}},
-                                  {"range", {{"signal", theme::ramp}}}});
+                                  {"range", {{"signal", theme::ramp(theme::of(context.chart))}}}});
 }
 
 /// The field of each variable that tells apart what a mark joins.

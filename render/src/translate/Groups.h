@@ -27,7 +27,7 @@ void addLabelScale(const Variable& variable, Parts& parts);
 /// they are there.
 void addGroupScales(const Variable& group, Parts& parts);
 
-/// Whether points show these groups; lines need no dashes then.
+/// Whether colored points show these groups; lines need no dashes then.
 bool hasPoints(const Variable& group, const Chart& chart);
 
 } // namespace render

@@ -8,6 +8,7 @@
 #include "compute/Sample.h"
 #include "text/Expression.h"
 #include "translate/Encode.h"
+#include "translate/Filling.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
 
@@ -42,10 +43,11 @@ Json sliceMark(const Element& element, Context& context) {
               {"endAngle", angle("high")},
               {"innerRadius", {{"value", 0}}},
               {"outerRadius", {{"value", std::min(layout.panelWidth, layout.panelHeight) / 2}}},
-              {"fill", color(element, context)},
+              {"fill", filling(element, context)},
               {"stroke", {{"signal", "paper"}}},
               {"strokeWidth", {{"value", theme::thinWidth}}},
               {"tooltip", itemTooltip(element, context)}};
+  addOutline(update, context);
   return {{"type", "arc"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}};
 }
 
@@ -62,9 +64,10 @@ Json sectorMark(const Element& element, Context& context) {
               {"endAngle", end((1 + theme::barBand) / 2, "to")},
               {"innerRadius", {{"scale", "y"}, {"field", "low"}}},
               {"outerRadius", {{"scale", "y"}, {"field", "high"}}},
-              {"fill", color(element, context)},
+              {"fill", filling(element, context)},
               {"fillOpacity", {{"value", theme::barOpacity}}},
               {"tooltip", itemTooltip(element, context)}};
+  addOutline(update, context);
   return {{"type", "arc"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}};
 }
 
@@ -72,12 +75,13 @@ Json barMark(const Element& element, Context& context) {
   Json update = Json::object();
   addBarWidth(update, element, theme::barBand, context);
   addMeasure(update, element, context);
-  update["fill"] = color(element, context);
+  update["fill"] = filling(element, context);
   update["fillOpacity"] = {{"value", theme::barOpacity}};
   if (element.method == Method::histogram) {
     update["stroke"] = {{"signal", "paper"}};
     update["strokeWidth"] = {{"value", 0.5}};
   }
+  addOutline(update, context);
   update["tooltip"] = itemTooltip(element, context);
   return {{"type", "rect"},
           {"from", nullptr},

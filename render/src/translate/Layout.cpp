@@ -93,15 +93,16 @@ Layout Layout::of(const Chart& chart, Notes& notes) {
   const std::vector<FacetCell>& columns = chart.facets.columns;
   const std::vector<FacetCell>& rows = chart.facets.rows;
   const std::size_t firstRowLevel = 1 + columns.front().size();
-  const std::vector<double> across = gapsBetween(
-      columns, {.whole = theme::plotWidth, .usual = usual, .firstLevel = 1}, chart, notes);
-  const std::vector<double> down =
-      gapsBetween(rows, {.whole = theme::plotHeight, .usual = usual, .firstLevel = firstRowLevel},
-                  chart, notes);
-  double width = std::max(
-      least, std::floor((theme::plotWidth - sum(across)) / static_cast<double>(columns.size())));
-  double height = std::max(
-      least, std::floor((theme::plotHeight - sum(down)) / static_cast<double>(rows.size())));
+  const double plotWidth = theme::of(chart).plotWidth;
+  const double plotHeight = theme::of(chart).plotHeight;
+  const std::vector<double> across =
+      gapsBetween(columns, {.whole = plotWidth, .usual = usual, .firstLevel = 1}, chart, notes);
+  const std::vector<double> down = gapsBetween(
+      rows, {.whole = plotHeight, .usual = usual, .firstLevel = firstRowLevel}, chart, notes);
+  double width =
+      std::max(least, std::floor((plotWidth - sum(across)) / static_cast<double>(columns.size())));
+  double height =
+      std::max(least, std::floor((plotHeight - sum(down)) / static_cast<double>(rows.size())));
   if (const double aspect = aspectOf(chart, notes); aspect > 0) {
     const double narrower = std::floor(std::min(width, height / aspect));
     height = std::floor(std::min(height, width * aspect));

@@ -5,6 +5,7 @@
 #include "text/Show.h"
 #include "text/Wrap.h"
 #include "translate/Encode.h"
+#include "translate/Filling.h"
 #include "translate/Groups.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
@@ -143,6 +144,18 @@ Json shapeLegend(const Entry& entry, Context& context) {
   return json;
 }
 
+void addBarFilling(Json& json, const Variable& group, Context& context) {
+  if (theme::of(context.chart).fillings.empty()) {
+    json["fill"] = scaleName("color", group.id);
+    return;
+  }
+  json["fill"] = addFillScale(group, context);
+  json.erase("stroke");
+  json["symbolStrokeColor"] = {{"signal", "ink"}};
+  json["symbolStrokeWidth"] = theme::outlineWidth;
+  json["symbolSize"] = theme::swatchSize;
+}
+
 Json legendOf(const Entry& entry, const Node& legend, Context& context) {
   const Variable& group = *entry.group;
   addGroupScales(group, context.parts);
@@ -153,7 +166,7 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
   Json json{{"title", titleLines(title)}, {"stroke", scaleName("color", group.id)}};
   if (entry.bars) {
     json["symbolType"] = theme::barSymbol;
-    json["fill"] = scaleName("color", group.id);
+    addBarFilling(json, group, context);
     json["encode"]["symbols"]["update"]["fillOpacity"] = {{"value", theme::barOpacity}};
   } else if (entry.points) {
     if (entry.colorsOnly)

@@ -31,12 +31,6 @@ std::string fontOf(std::string_view language) {
                      faces->families);
 }
 
-/// Colors that people with any color vision tell apart; the order gives the first
-/// few the most contrast.
-constexpr const char* palette =
-    "dark ? ['#56a8e8','#f0883e','#3fc59a','#d98cc4','#9ad0f5','#e8b04a','#a8a8a8','#c9c24a']"
-    " : ['#0072b2','#d55e00','#009e73','#b5569a','#3fa2df','#c58400','#7a7a7a','#8c8400']";
-
 const Json ink{{"signal", "ink"}};
 
 /// A hyphen for minus, as in the texts of the chart.
@@ -126,23 +120,32 @@ Json functionDash(std::size_t index) {
   return patterns[1 + index % (patterns.size() - 1)];
 }
 
-Json signals() {
-  return {{{"name", "dark"}, {"value", false}},
-          {{"name", "ink"}, {"update", "dark ? '#e6e6e6' : '#222222'"}},
-          {{"name", "paper"}, {"update", "dark ? '#16181b' : '#ffffff'"}},
-          {{"name", "faint"}, {"update", "dark ? '#34373b' : '#e4e4e4'"}},
-          {{"name", "palette"}, {"update", palette}}};
+Json signals(const Theme& theme) {
+  const auto tone = [&theme](std::string_view Tones::* each) {
+    return fmt::format("dark ? {} : {}", theme.dark.*each, theme.light.*each);
+  };
+  return {{{"name", "dark"}, {"value", theme.startsDark}},
+          {{"name", "ink"}, {"update", tone(&Tones::ink)}},
+          {{"name", "paper"}, {"update", tone(&Tones::paper)}},
+          {{"name", "faint"}, {"update", tone(&Tones::faint)}},
+          {{"name", "palette"}, {"update", tone(&Tones::palette)}}};
+}
+
+std::string ramp(const Theme& theme) {
+  return fmt::format("dark ? {} : {}", theme.dark.ramp, theme.light.ramp);
 }
 
 std::string font(const Manifest& manifest) { return fontOf(manifest.language); }
 
-Json config(const Manifest& manifest) {
+Json config(const Manifest& manifest, const Theme& theme) {
   const std::string font = fontOf(manifest.language);
-  return {{"locale",
-           {{"number", numberLocale(manifest.signs)}, {"time", timeLocale(manifest.language)}}},
-          {"axis", axes(font)},
-          {"legend", legends(font)},
-          {"title", titles(font)}};
+  Json json{{"locale",
+             {{"number", numberLocale(manifest.signs)}, {"time", timeLocale(manifest.language)}}},
+            {"axis", axes(font)},
+            {"legend", legends(font)},
+            {"title", titles(font)}};
+  if (theme.labelGap > 0) json["axis"]["labelSeparation"] = theme.labelGap;
+  return json;
 }
 
 } // namespace render::theme

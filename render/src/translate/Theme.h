@@ -1,18 +1,24 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
 #include "read/ChartFolder.h"
 #include "text/Json.h"
 
-/// How every chart looks: sizes in pixels, colors, symbols, fonts.
+namespace render {
+struct Chart;
+}
+
+/// How every chart looks: sizes in pixels, colors, symbols, fonts. What the chart's
+/// template changes of it is a theme, a row of the table in Themes.cpp.
 namespace render::theme {
 
-constexpr int plotWidth = 720;
+constexpr int plotWidth = 720; ///< of the usual plot
 constexpr int plotHeight = 480;
-constexpr int textWidth = plotWidth + 60; ///< titles and footnotes are wrapped to it
+constexpr int textMargin = 60; ///< by which titles and footnotes may be wider than the plot
 constexpr int legendWidth = 170;
 constexpr int legendOffset = 24; ///< from the plot
 constexpr std::size_t legendEntries = 40;
@@ -26,7 +32,9 @@ constexpr int footnoteSize = 13;
 constexpr int pointSize = 56;        ///< the area of a symbol
 constexpr double fillOpacity = 0.55; ///< of points, so that overlapping ones show
 constexpr double lineWidth = 2.25;
-constexpr double thinWidth = 1.5; ///< of whiskers, error bars and outlines
+constexpr double thinWidth = 1.5;  ///< of whiskers, error bars and outlines
+constexpr double outlineWidth = 1; ///< of what patterns fill
+constexpr int swatchSize = 260;    ///< the area of a pattern in a legend
 constexpr double barOpacity = 0.85;
 constexpr double areaOpacity = 0.7;
 constexpr int smallestSize = 20; ///< of symbols that a variable sizes
@@ -37,9 +45,55 @@ constexpr double boxBand = 0.5;    ///< the same of one box, which needs less
 constexpr double slotShare = 0.92; ///< the part of its slot that a bar fills
 constexpr int capLength = 12;      ///< of the end of an error bar
 
+/// The colors of light or of dark, as Vega's expressions write them.
+struct Tones {
+  std::string_view ink;
+  std::string_view paper;
+  std::string_view faint;
+  std::string_view palette; ///< of groups, in their order
+  std::string_view ramp;    ///< of a range of values, from low to high
+};
+
+/// A filling that is told apart without color: a tile of lines or dots.
+struct Pattern {
+  std::string_view name;
+  int size;              ///< of the tile
+  std::string_view path; ///< what is drawn on it
+  double width;          ///< of its lines; 0 fills the path
+};
+
+struct Theme {
+  std::string_view name; ///< that of the template
+  const Tones& light;
+  const Tones& dark;
+  bool startsDark = false;
+  bool followsReader = true; ///< in a page: the reader's choice of light or dark
+  int plotWidth = theme::plotWidth;
+  int plotHeight = theme::plotHeight;
+  int labelGap = 0;         ///< the least between labels of an axis
+  double magnification = 1; ///< of the whole picture: a small plot so has large type and few ticks
+  /// Fill bars and areas of groups in this order; a name that is no pattern's is a color.
+  std::span<const std::string_view> fillings{};
+};
+
+/// The names of the themes, the usual one first.
+std::span<const Theme> themes();
+
+/// The theme of that name, or null.
+const Theme* find(std::string_view name);
+
+/// That of the chart's template; the usual one without a template, or one that is not known.
+const Theme& of(const Chart& chart);
+
+/// What the page and the drawing of pictures need to know of the chart's theme; empty for the
+/// usual one.
+Json meta(const Theme& theme);
+
 /// An expression for the colors of a range of values, from low to high.
-constexpr const char* ramp =
-    "dark ? ['#26455e','#4f9fd6','#e6f3fb'] : ['#d6e8f5','#4a9bd1','#08306b']";
+std::string ramp(const Theme& theme);
+
+/// A filling of the theme as Vega takes it: a color, or a reference to a pattern.
+std::string filling(std::string_view name);
 
 /// A symbol as a path within the unit square around the origin, and how far it
 /// reaches from there to the right.
@@ -75,13 +129,13 @@ Json functionDash(std::size_t index);
 
 /// The signals for light and dark: "dark" is set from outside; "ink", "paper",
 /// "faint" and "palette", the colors of groups, follow.
-Json signals();
+Json signals(const Theme& theme);
 
 /// The faces that letters come from, for a chart in the manifest's language.
 std::string font(const Manifest& manifest);
 
 /// Vega's configuration. The manifest's language chooses the names of months and days
 /// and the faces of Chinese, Japanese and Korean characters.
-Json config(const Manifest& manifest);
+Json config(const Manifest& manifest, const Theme& theme);
 
 } // namespace render::theme

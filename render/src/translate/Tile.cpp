@@ -4,6 +4,7 @@
 
 #include "compute/Hexagons.h"
 #include "translate/Encode.h"
+#include "translate/Filling.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
@@ -19,10 +20,11 @@ Json colorOfCount(const Element& element, Context& context) {
     for (const Panel& panel : context.chart.panels)
       for (const Item& item : panel.items[element.index])
         most = std::max(most, item.value);
-    context.parts.scales.push_back({{"name", name},
-                                    {"type", "linear"},
-                                    {"domain", {0, jsonNumber(most)}},
-                                    {"range", {{"signal", theme::ramp}}}});
+    context.parts.scales.push_back(
+        {{"name", name},
+         {"type", "linear"},
+         {"domain", {0, jsonNumber(most)}},
+         {"range", {{"signal", theme::ramp(theme::of(context.chart))}}}});
   }
   return {{"scale", name}, {"field", "value"}};
 }
@@ -78,7 +80,8 @@ void translateTile(const Node& node, Context& context) {
     update[channels.middle] = position(*element, role, "", context);
     update[channels.length] = {{"scale", role}, {"band", 1}};
   }
-  update["fill"] = color(*element, context);
+  update["fill"] = filling(*element, context);
+  addOutline(update, context);
   update["tooltip"] = itemTooltip(*element, context);
   context.parts.data.push_back(elementData(*element, context));
   addMark(*element,

@@ -12,7 +12,7 @@ using render::Manifest;
 std::string familiesOf(const std::string& language) {
   Manifest manifest{.name = ""};
   manifest.language = language;
-  return render::theme::config(manifest)["axis"]["labelFont"];
+  return render::theme::font(manifest);
 }
 
 TEST(Letters, AreMeasuredAsTheyAreDrawn) {

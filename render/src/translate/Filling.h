@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "translate/Translator.h"
+
+/// What bars, areas, boxes and pieces are filled with: the color of their group or, in a
+/// theme without colors, its pattern.
+namespace render {
+
+/// Adds the scale that it needs.
+Json filling(const Element& element, Context& context);
+
+/// Patterns need an outline, or they run into one another.
+void addOutline(Json& update, const Context& context);
+
+/// Adds the scale of a group's fillings, unless it is there; its name.
+std::string addFillScale(const Variable& group, Context& context);
+
+} // namespace render

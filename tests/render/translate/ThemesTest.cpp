@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+#include <render/Pages.h>
+
+#include "render/support/ChartFolder.h"
+
+namespace {
+
+using nlohmann::json;
+
+constexpr std::string_view bars = R"(<element type="interval" id="bars"><x variable="v1"/>
+  <y variable="v2"/><color variable="v3" id="by"/></element>
+  <legend id="legend"><legendTarget id="t" element="bars"/></legend>)";
+
+json drawn(std::string_view chartTemplate, std::string_view plot, const std::string& theme = {}) {
+  const TestFolder folder;
+  folder.write("chart.xml", document(plot))
+      .write("source0.csv", smallTable)
+      .write("manifest.json", fmt::format(R"({{"name": "n", "template": "{}"}})", chartTemplate));
+  render::writeChart(folder.path(), theme);
+  return json::parse(folder.read("chart.vg.json"));
+}
+
+TEST(Themes, AreTheUsualOneForATemplateThatIsEmptyOrUnknownAndOneThatIsIsNoted) {
+  json usual = drawn("", bars);
+  EXPECT_EQ(drawn("default", bars), usual);
+  usual["usermeta"]["notes"].insert(
+      usual["usermeta"]["notes"].begin(),
+      "the template Corporate\\2 is not known: the chart is drawn in the default theme");
+  EXPECT_EQ(drawn("Corporate\\\\2", bars), usual);
+}
+
+TEST(Themes, GiveWayToTheOneThatIsAskedFor) {
+  EXPECT_EQ(drawn("dark", bars, "presentation"), drawn("presentation", bars));
+  EXPECT_EQ(drawn("Corporate", bars, "default"), drawn("", bars));
+}
+
+TEST(Themes, StateSizesToneAndWhetherTheReaderChooses) {
+  struct Case {
+    const char* name;
+    const char* meta;
+    bool isDark;
+    int width;
+    int height;
+  };
+  const Case cases[] = {
+      {"dark", R"({"name": "dark", "followsReader": false})", true, 720, 480},
+      {"presentation", R"({"name": "presentation", "followsReader": true, "magnification": 1.75})",
+       false, 520, 300},
+  };
+  for (const auto& [name, meta, isDark, width, height] : cases) {
+    const json spec = drawn(name, bars);
+    EXPECT_EQ(spec["usermeta"]["theme"], json::parse(meta)) << name;
+    EXPECT_EQ(spec["signals"][0], (json{{"name", "dark"}, {"value", isDark}})) << name;
+    EXPECT_EQ(spec["width"], width) << name;
+    EXPECT_EQ(spec["height"], height) << name;
+  }
+}
+
+/// Every color that a print in black and white could not show.
+void expectGray(const json& spec) {
+  const std::string text = spec["signals"].dump() + spec["marks"].dump();
+  for (auto at = text.find("'#"); at != text.npos; at = text.find("'#", at + 1))
+    EXPECT_TRUE(text.substr(at + 2, 2) == text.substr(at + 4, 2) &&
+                text.substr(at + 4, 2) == text.substr(at + 6, 2))
+        << text.substr(at, 9);
+}
+
+TEST(Themes, TellGroupsApartByPatternsInPrint) {
+  const json spec = drawn("print", bars);
+  expectGray(spec);
+  const json& plot = spec["marks"][0];
+  EXPECT_EQ(plot["marks"][0]["encode"]["update"]["fill"],
+            json::parse(R"({"scale": "fill_v3", "field": "v3"})"));
+  EXPECT_EQ(plot["marks"][0]["encode"]["update"]["stroke"], json::parse(R"({"signal": "ink"})"));
+  EXPECT_EQ(plot["legends"][0]["fill"], "fill_v3");
+  json range;
+  for (const json& scale : plot["scales"])
+    if (scale["name"] == "fill_v3") range = scale["range"];
+  EXPECT_EQ(range[1], "url(#chartxml-rising)");
+  for (const json& filling : range) {
+    const auto id = filling.get<std::string>();
+    bool isThere = !id.starts_with("url");
+    for (const json& pattern : spec["usermeta"]["theme"]["patterns"])
+      isThere = isThere || id == fmt::format("url(#{})", pattern["id"].get<std::string>());
+    EXPECT_TRUE(isThere) << id;
+  }
+}
+
+TEST(Themes, DashLinesBesideSymbolsInPrint) {
+  constexpr std::string_view both = R"(
+    <element type="point" id="p"><x variable="v1"/><y variable="v2"/><color variable="v3"/></element>
+    <element type="line" id="l"><x variable="v1"/><y variable="v2"/><color variable="v3"/></element>)";
+  const auto dashOf = [&](const char* theme) {
+    return drawn(theme, both)["marks"][0]["marks"][1]["marks"][0]["encode"]["update"].value(
+        "strokeDash", json());
+  };
+  EXPECT_EQ(dashOf("print"), json::parse(R"({"scale": "dash_v3", "field": "v3"})"));
+  EXPECT_EQ(dashOf("default"), json());
+}
+
+} // namespace
