@@ -41,7 +41,8 @@ struct Cell {
 Cell cellOf(double x, double y) {
   const auto nearest = [x](double row) {
     const double shift = std::fmod(row, 2) == 0 ? 0 : 0.5;
-    return Cell{.x = std::round(x - shift) + shift, .y = row};
+    // What is between two goes to the right, into the plot: the lowest value is at zero.
+    return Cell{.x = std::floor(x - shift + 0.5) + shift, .y = row};
   };
   const double row = std::floor(y / (1.5 * side));
   const Cell below = nearest(row);
