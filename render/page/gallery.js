@@ -34,35 +34,60 @@
     return [make('details', {}, make('summary', {}, title), text)];
   }
 
+  const langOf = (code) => (Object.hasOwn(all, code) ? code : language);
+
   function cardOf(chart) {
-    const {folder, name, description = '', picture, trouble} = chart;
+    const {folder, name, title, subtitle, description = '', picture, trouble} = chart;
     const page = urlOf(folder, 'chart.html');
-    const card = make('li', {lang: Object.hasOwn(all, chart.language) ? chart.language : language});
+    const card = make('li', {lang: langOf(chart.language)});
     if (picture) {
       const image = make('img', {alt: '', loading: 'lazy', src: urlOf(folder, picture)});
       card.append(make('a', {href: page, tabIndex: -1, ariaHidden: 'true'}, image));
     }
-    card.append(make('h2', {}, make('a', {href: page}, name)));
+    card.append(make('h2', {}, make('a', {href: page}, title ?? name)));
+    if (subtitle) card.append(make('p', {}, subtitle));
     if (description) card.append(make('p', {}, description));
     card.append(make('p', {className: 'soft'}, folder));
     if (trouble) card.append(make('p', {className: 'bad'}, trouble));
     card.append(...sourceOf(chart));
-    const text = `${name}\n${description}\n${folder}`.toLowerCase();
-    return {card, text};
+    const text = [name, title, subtitle, description, folder].join('\n').toLowerCase();
+    return {card, text, language: chart.language};
+  }
+
+  /** The language of a chart as it calls itself, such as "Deutsch". */
+  function nameOf(code) {
+    try {
+      return new Intl.DisplayNames(code, {type: 'language'}).of(code) ?? code;
+    } catch {
+      return code;
+    }
+  }
+
+  /** A choice among the languages that the charts have, when there is one. */
+  function languageChoice(cards) {
+    const select = document.getElementById('language');
+    const languages = [...new Set(cards.map((card) => card.language).filter(Boolean))].sort();
+    select.append(make('option', {value: ''}, word('All')),
+      ...languages.map((code) => make('option', {value: code, lang: langOf(code)}, nameOf(code))));
+    select.hidden = select.labels[0].hidden = languages.length < 2;
+    return select;
   }
 
   function search(cards) {
     const input = document.getElementById('search');
+    const choice = languageChoice(cards);
     const show = () => {
       const asked = input.value.toLowerCase().split(/\s+/);
       let found = 0;
-      for (const {card, text} of cards) {
-        card.hidden = !asked.every((part) => text.includes(part));
+      for (const {card, text, language: own} of cards) {
+        const isOfLanguage = choice.value === '' || choice.value === own;
+        card.hidden = !isOfLanguage || !asked.every((part) => text.includes(part));
         found += card.hidden ? 0 : 1;
       }
       document.getElementById('found').textContent = word('Found^2', found, cards.length);
     };
     input.addEventListener('input', show);
+    choice.addEventListener('change', show);
     show();
   }
 
@@ -70,7 +95,8 @@
     document.documentElement.lang = language;
     document.title = word('Charts');
     document.querySelector('h1').textContent = word('Charts');
-    document.querySelector('label').textContent = word('Search');
+    document.querySelector('label[for=search]').textContent = word('Search');
+    document.querySelector('label[for=language]').textContent = word('Language');
     charts.sort((a, b) => (a.folder < b.folder ? -1 : 1));
     const cards = charts.map(cardOf);
     const list = document.getElementById('charts');

@@ -76,11 +76,7 @@ void writeChart(const std::filesystem::path& chartFolder, const std::string& the
     writeFile(folder / "chart.vg.json", laidOut(spec));
     writeFile(page, chartPage(chart.manifest, spec, words));
   } catch (const RenderError& e) {
-    const std::string_view reason = e.what();
-    const std::string prefix = folder.native() + "/";
-    writeFile(page,
-              refusedPage(manifestOf(folder),
-                          reason.starts_with(prefix) ? reason.substr(prefix.size()) : reason));
+    writeFile(page, refusedPage(manifestOf(folder), reasonWithin(folder, e)));
     throw;
   }
 }

@@ -14,11 +14,14 @@ for (const colorScheme of ['light', 'dark'])
       await assertAccessible(page);
     }, {colorScheme}));
 
-test('the gallery shows names, pictures, descriptions and sources', () =>
+test('the gallery shows titles, pictures, descriptions and sources', () =>
   withPage(index, async (page) => {
     const card = page.locator('#charts > li').first();
-    assert.equal(await card.locator('h2').innerText(), 'penguins');
-    assert.match(await card.locator('p').first().innerText(), /^Scatter plot of body mass/);
+    assert.equal(await card.locator('h2').innerText(), 'Body mass and flipper length of penguins');
+    const texts = await card.locator('p').allInnerTexts();
+    assert.match(texts[0], /^All penguins: mass = /);
+    assert.match(texts[1], /^Scatter plot of body mass/);
+    assert.equal(texts[2], '0001-penguins');
     await until(page, "document.querySelector('#charts img').naturalWidth > 0");
     await card.locator('summary').click();
     assert.match(await card.locator('pre').innerText(), /^! Are penguins with longer flippers heavier/);
@@ -35,6 +38,17 @@ test('the search finds names and descriptions', () =>
     assert.equal(await page.textContent('#found'), '1 of 5 charts');
     await page.getByLabel('Search names and descriptions').fill('no such');
     assert.equal(await shown(page), 0);
+  }));
+
+test('the gallery shows the charts of a language', () =>
+  withPage(index, async (page) => {
+    const choice = page.getByLabel('Language');
+    const names = await choice.locator('option').allTextContents();
+    assert.deepEqual(names.filter((name) => name !== attack).sort(), ['All', 'Deutsch', 'English', '日本語']);
+    await choice.selectOption('ja');
+    assert.equal(await page.textContent('#found'), '2 of 5 charts');
+    await page.getByLabel('Search names and descriptions').fill('消費支出');
+    assert.equal(await shown(page), 1);
   }));
 
 test("the gallery speaks the reader's language", () =>
@@ -66,7 +80,7 @@ test('hostile texts are texts on a chart page', () =>
 test('hostile texts are texts in the gallery', () =>
   withPage(index, async (page) => {
     const card = page.locator('#charts > li').nth(3);
-    assert.equal(await card.locator('h2 a').textContent(), nameOfHostile);
+    assert.equal(await card.locator('h2 a').textContent(), attack);
     assert.equal(await card.locator('p').first().textContent(), attack);
     await card.locator('summary').click();
     assert.equal(await card.locator('pre').textContent(), attack);

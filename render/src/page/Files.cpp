@@ -6,7 +6,6 @@
 #include <system_error>
 
 #include <fmt/format.h>
-#include <render/Pages.h>
 #include <unistd.h>
 
 namespace render {
@@ -46,6 +45,13 @@ std::string readFile(const std::filesystem::path& file) {
   std::string bytes(std::istreambuf_iterator<char>(stream), {});
   if (!stream || stream.bad()) fail(file, errno != 0 ? std::strerror(errno) : "cannot be read");
   return bytes;
+}
+
+std::string_view reasonWithin(const std::filesystem::path& folder, const RenderError& error) {
+  const std::string prefix = folder.native() + "/";
+  std::string_view reason = error.what();
+  if (reason.starts_with(prefix)) reason.remove_prefix(prefix.size());
+  return reason;
 }
 
 void writeChanged(const std::filesystem::path& file, std::string_view bytes) {

@@ -17,8 +17,8 @@ constexpr std::string_view policy =
 constexpr std::array<const char*, 11> languages{"en", "de", "fr", "es",    "it",   "pl",
                                                 "ru", "ja", "ko", "zh-cn", "zh-tw"};
 
-constexpr std::array<std::string_view, 6> shownWords{"Charts",    "Search", "Found^2",
-                                                     "No charts", "Errors", "Source^1"};
+constexpr std::array<std::string_view, 8> shownWords{
+    "Charts", "Search", "Language", "All", "Found^2", "No charts", "Errors", "Source^1"};
 
 Json wordsOfLanguages() {
   Json json = Json::object();
@@ -38,7 +38,7 @@ std::string galleryPage() {
          fmt::format(R"(<body>
 <main>
 <h1>{0}</h1>
-<p class="search"><label for="search">{1}</label> <input id="search" type="search"> <span id="found" role="status"></span></p>
+<p class="search"><label for="search">{1}</label> <input id="search" type="search"> <label for="language" hidden>{5}</label> <select id="language" hidden></select> <span id="found" role="status"></span></p>
 <noscript><p class="bad">{2}</p></noscript>
 <ul class="cards" id="charts"></ul>
 <div id="errors"></div>
@@ -51,7 +51,8 @@ std::string galleryPage() {
 )",
                      escapeHtml(words("Charts")), escapeHtml(words("Search")),
                      escapeHtml(words("No script^1", {"runtime/chartxml-gallery.js"})),
-                     escapeScript(wordsOfLanguages().dump()), galleryListName);
+                     escapeScript(wordsOfLanguages().dump()), galleryListName,
+                     escapeHtml(words("Language")));
 }
 
 } // namespace render

@@ -10,14 +10,17 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <render/Pages.h>
 
 #include "page/Files.h"
 #include "page/Html.h"
 #include "read/ChartFolder.h"
+#include "read/Titles.h"
 #include "text/Json.h"
 
 namespace render {
@@ -69,19 +72,30 @@ std::string sourceLine(const fs::path& file) {
   return line(sourceCall, Json::array({file.filename().native(), readFile(file)}));
 }
 
-/// The line of a chart, after that of its source when it is not among the known ones.
-std::string chartLines(const fs::path& folder, const Sources& sources,
-                       std::set<std::string>& knownSources) {
-  Json chart = Json::object();
+/// What the gallery shows of a chart.
+Json cardOf(const fs::path& folder) {
+  Json chart{{"name", folder.filename().native()}};
   try {
     const Manifest manifest = Manifest::read(folder);
     chart = {{"name", manifest.name},
              {"description", manifest.description},
              {"language", manifest.language}};
+    const Document document = Document::read(folder / "chart.xml");
+    for (const auto& [key, place] :
+         {std::pair("title", TextPlace::title), std::pair("subtitle", TextPlace::subtitle)})
+      if (const auto texts = textsAt(place, document); !texts.empty())
+        chart[key] = fmt::to_string(fmt::join(texts, " "));
   } catch (const RenderError& e) {
-    chart = {{"name", folder.filename().native()}, {"trouble", e.what()}};
+    chart["trouble"] = reasonWithin(folder, e);
   }
   if (const auto picture = firstOf(folder, {"chart.svg", "chart.png"})) chart["picture"] = *picture;
+  return chart;
+}
+
+/// The line of a chart, after that of its source when it is not among the known ones.
+std::string chartLines(const fs::path& folder, const Sources& sources,
+                       std::set<std::string>& knownSources) {
+  Json chart = cardOf(folder);
   std::string lines;
   if (const auto source = sources.find(chart["name"].get<std::string>()); source != sources.end()) {
     const std::string name = source->second.filename();

@@ -34,7 +34,7 @@ figcaption, .soft { color: var(--soft); }
 .bad { border-left: .3rem solid #d55e00; padding: .3rem 1rem; }
 fieldset { display: flex; flex-wrap: wrap; gap: .25rem 1.25rem; margin: .75rem 0; border: 1px solid var(--line); border-radius: .3rem; }
 #actions { display: flex; flex-wrap: wrap; gap: .5rem; }
-button, input[type=search] { font: inherit; padding: .25rem .8rem; margin: 0; color: inherit;
+button, select, input[type=search] { font: inherit; padding: .25rem .8rem; margin: 0; color: inherit;
   background: none; border: 1px solid var(--soft); border-radius: .3rem; }
 button { cursor: pointer; }
 button:hover { border-color: var(--ink); }
@@ -49,6 +49,7 @@ td.number, th.number { text-align: right; }
 .cards li { border: 1px solid var(--line); border-radius: .4rem; overflow: hidden; }
 .cards img { display: block; width: 100%; aspect-ratio: 4 / 3; object-fit: contain; background: #fff; }
 .cards p, .cards h2, .cards details { margin: .6rem 1rem; overflow-wrap: anywhere; }
+.cards h2 + p { margin-top: -.3rem; }
 pre { overflow: auto; max-height: 20rem; font-size: .85rem; line-height: 1.35; }
 @media print {
   :root { color-scheme: light; --ink: #000; --soft: #333; --paper: #fff; --line: #999; --link: #000; }

@@ -74,24 +74,27 @@ TEST_F(GalleryTest, ShowsPicturesSourcesAndTroubles) {
     output.write(fmt::format("{}/chart.xml", folder), "<graph/>")
         .write(fmt::format("{}/manifest.json", folder), R"({"name": "n"})");
   output.write("1/chart.svg", "<svg/>").write("3/manifest.json", R"({"name": "long"})");
+  output.write("1/chart.xml", R"(<graph><label id="label_title">All</label><frame>
+<label id="label_subtitle">of</label><label id="label_title_2">it</label><label id="x"/></frame>
+<frame><element><label id="label_title">no</label></element></frame></graph>)");
   output.write("4/manifest.json", "[");
   const std::string list = update();
   EXPECT_THAT(
       list,
       testing::StartsWith(
           "chartxmlGallery.source(\"n.f90\",\"end\\n\");\n"
-          R"(chartxmlGallery.chart("1",{"name":"n","description":"","language":"en","picture":"chart.svg","source":"n.f90"});)"
+          R"(chartxmlGallery.chart("1",{"name":"n","description":"","language":"en","title":"All it","subtitle":"of","picture":"chart.svg","source":"n.f90"});)"
           "\n"
           R"(chartxmlGallery.chart("2",{"name":"n","description":"","language":"en","source":"n.f90"});)"
           "\n"
           R"(chartxmlGallery.chart("3",{"name":"long","description":"","language":"en","source":"long.c"});)"
           "\n"
-          R"(chartxmlGallery.chart("4",{"name":"4","trouble":")"));
-  output.write("5/chart.xml", "<graph/>").write("5/manifest.json", R"({"name": "n"})");
+          R"(chartxmlGallery.chart("4",{"name":"4","trouble":"manifest.json: )"));
+  output.write("5/chart.xml", "<graph").write("5/manifest.json", R"({"name": "n"})");
   EXPECT_EQ(
       update(),
       list +
-          R"(chartxmlGallery.chart("5",{"name":"n","description":"","language":"en","source":"n.f90"});)"
+          R"(chartxmlGallery.chart("5",{"name":"n","description":"","language":"en","trouble":"chart.xml:1:7: unexpected end of input","source":"n.f90"});)"
           "\n");
 }
 
