@@ -43,7 +43,68 @@ TEST(Describe, TellsKindRangesGroupsTrendAndOutliersInTheChartsLanguage) {
             "What it is about. Liniendiagramm. x-Achse: A label von 0 bis 2,5. y-Achse: b von 0 "
             "bis 3. Verlauf: fallend, Korrelation -1");
   EXPECT_EQ(describe(line, "A,B,Group\n0,1,a\n1,1,a\n2,1,a\n", "ja"),
-            "What it is about.。折れ線グラフ。x軸: A label、0から2まで。y軸: b、1から1まで");
+            "What it is about.折れ線グラフ。x軸: A label、0から2まで。y軸: b、1から1まで");
+}
+
+/// Without title and description, which are the same for all.
+std::string sentences(std::string_view plot, std::string_view table) {
+  const std::string text = describe(plot, table, "en");
+  return text.substr(std::string_view("What it is about. ").size());
+}
+
+constexpr std::string_view sales = "A,B,Group\n1,10,b\n1,20,a\n2,30,b\n2,45,a\n3,4,b\n9,5,b\n";
+
+TEST(Describe, TellsEachKindWithItsVariablesAndValues) {
+  const std::pair<const char*, const char*> cases[] = {
+      {R"(<element type="interval" id="i"><x variable="v1"/><statistic method="histogram">
+          <parameter name="bin-width" value="5"/></statistic></element>
+          <element type="line" id="l"><x variable="v1"/><statistic method="distribution"/></element>)",
+       "Histogram. With: normal curve. x axis: A label from 1 to 9. y axis: Count from 1 to 5. "
+       "Fullest bin: 5, from 0 to 5"},
+      {R"(<element type="schema" id="i"><x variable="v3"/><y variable="v2"/></element>)",
+       "Box plot. x axis: Group (Ä, b). y axis: b from 4 to 45. Medians: Ä 32.5, b 7.5"},
+      {R"(<coordinateTransform method="polar"/><element type="interval" id="i">
+          <theta variable="v2"/><color variable="v3"/><statistic method="sum"/></element>)",
+       "Pie chart. Values: Ä 65, b 49"},
+      {R"(<element type="interval" id="i" positionModifier="dodge"><x variable="v3"/>
+          <y variable="v2"/><color variable="v3"/><statistic method="mean"/></element>
+          <element type="point" id="p"><x variable="v3"/><y variable="v2"/></element>
+          <guide type="line" id="g"><parameter name="y" value="20"/></guide>
+          <guide type="function" id="f" name="F"><parameter name="y" value="x"/></guide>)",
+       "Clustered bar chart. With: points, reference lines. x axis: Group (Ä, b). y axis: b from "
+       "12.25 to 32.5. Values: Ä 32.5, b 12.25"},
+      {R"(<dimension role="x"><axis><label id="axis">Weeks</label></axis></dimension>
+          <element type="area" id="a" positionModifier="stack"><x variable="v1"/><y variable="v2"/>
+          <color variable="v3"/></element>)",
+       "Stacked area chart. x axis: Weeks from 1 to 9. y axis: b from 4 to 45. Groups by Group: "
+       "Ä, b"},
+      {R"(<element type="tile" id="t"><x variable="v3"/><y variable="v3"/><color variable="v2"/>
+          </element>)",
+       "Heat map. x axis: Group (Ä, b). y axis: Group (Ä, b)"},
+      {R"(<coordinateTransform method="rectangular"/><element type="point" id="p">
+          <x variable="v1"/><y variable="v2"/><z variable="v1"/></element>)",
+       "Three-dimensional scatter plot. x axis: A label from 1 to 9. y axis: b from 4 to 45. z "
+       "axis: A label from 1 to 9. Strongest correlation: A label and b, -0.43"},
+      {R"(<tableFacet><facetVariable role="x" variable="v3"/></tableFacet><element type="line"
+          id="l"><x variable="v1"/><y variable="v2"/></element>)",
+       "Line chart. 2 panels, by Group. x axis: A label from 1 to 9. y axis: b from 4 to 45. "
+       "Trend: falling, correlation -0.43"},
+  };
+  for (const auto& [plot, text] : cases)
+    EXPECT_EQ(sentences(plot, sales), text) << plot;
+}
+
+TEST(Describe, NamesTheEndsOfManyValuesAndSeparatesLabelsWithCommas) {
+  const auto bars = R"(<element type="interval" id="i"><x variable="v3"/><y variable="v2"/>
+                       </element>)";
+  std::string table = "A,B,Group\n";
+  for (int i = 0; i < 13; ++i)
+    table += fmt::format("0,{},g{}\n", i * i - 6 * i, i);
+  EXPECT_EQ(sentences(bars, table),
+            "Bar chart. x axis: Group (g0, g1, g10, g11, g12, g2, g3, g4, g5, g6, g7, g8, ...). y "
+            "axis: b from -9 to 72. Highest: g12 72; lowest: g3 -9");
+  EXPECT_EQ(sentences(bars, "A,B,Group\n0,1,\"y, z\"\n0,2,x\n"),
+            "Bar chart. x axis: Group (x; y, z). y axis: b from 1 to 2. Values: x 2; y, z 1");
 }
 
 TEST(Describe, TakesTheNameOfAChartThatSaysNothing) {

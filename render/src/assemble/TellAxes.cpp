@@ -1,0 +1,99 @@
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "assemble/Telling.h"
+#include "translate/FacetLabels.h"
+#include "translate/Space.h"
+
+namespace render {
+namespace {
+
+std::string tellPanels(const Telling& telling) {
+  const Facets& facets = telling.chart.facets;
+  if (facets.isMatrix || facets.areUnlabelled()) return {};
+  std::vector<std::string> titles;
+  for (const std::vector<FacetCell>* cells : {&facets.columns, &facets.rows})
+    for (const FacetValue& value : cells->front())
+      titles.push_back(facetTitle(value, titles.size() + 1, telling.chart));
+  const auto count = static_cast<double>(telling.chart.panels.size());
+  return telling.words("Panels^2", {telling.number(count), listed(titles)});
+}
+
+/// What marks reach to along the role that they measure; nothing where a statistic has no
+/// part in it.
+std::vector<double> measuredValues(const Element& element, const Chart& chart) {
+  std::vector<double> values;
+  for (const Panel& panel : chart.panels)
+    for (const Item& item : panel.items[element.index]) {
+      values.push_back(item.value);
+      if (item.part != BoxPart::none) values.insert(values.end(), {item.low, item.high});
+    }
+  return values;
+}
+
+std::string rangeOf(const std::string& title, const Variable* variable,
+                    const std::vector<double>& values, const Telling& telling) {
+  if (values.empty()) return title;
+  const auto [low, high] = std::ranges::minmax(values);
+  return telling.words("Range^3",
+                       {title, telling.value(variable, low), telling.value(variable, high)});
+}
+
+std::string titleOf(std::string_view role, const Telling& telling) {
+  static const Node untitled{};
+  const Node* node = telling.chart.dimensionNode(role);
+  const Node* axis = node == nullptr ? nullptr : node->child("axis");
+  const std::string title =
+      axisTitle(axis == nullptr ? untitled : *axis, telling.chart.panels.front().along(role));
+  return title.empty() ? telling.words("Count") : title;
+}
+
+std::string tellAxis(std::string_view role, std::string_view key, const Telling& telling) {
+  const Chart& chart = telling.chart;
+  const Dimension& dimension = chart.panels.front().along(role);
+  const auto element = std::ranges::find_if(chart.elements, [&](const Element& each) {
+    return each.along(role) != nullptr || (each.measuresAlong(role) && each.method != Method::none);
+  });
+  if (element == chart.elements.end() || element->isSlice) return {};
+  const Variable* variable = element->along(role);
+  const std::string title = titleOf(role, telling);
+  if (dimension.categorical) {
+    std::vector<std::string> labels;
+    for (const Category& category : dimension.categories)
+      labels.push_back(variable != nullptr ? telling.label(*variable, category) : category.label);
+    return telling.words(key, {fmt::format("{} ({})", title, listed(labels))});
+  }
+  const bool isMeasured = element->measuresAlong(role) && element->method != Method::none &&
+                          element->method != Method::hexagons;
+  const std::vector<double> values = isMeasured || variable == nullptr
+                                         ? measuredValues(*element, chart)
+                                         : drawnValues(*element, *variable);
+  return telling.words(key, {rangeOf(title, variable, values, telling)});
+}
+
+/// The variables of a matrix, each once.
+std::string tellVariables(const Telling& telling) {
+  const Element& element = telling.chart.elements.front();
+  std::vector<const Variable*> members;
+  for (const Variable* position : {element.x, element.y})
+    for (const Variable* member : position->isMatrix ? position->members : std::vector{position})
+      if (std::ranges::find(members, member) == members.end()) members.push_back(member);
+  std::vector<std::string> texts;
+  for (const Variable* member : members)
+    texts.push_back(rangeOf(member->title, member, drawnValues(element, *member), telling));
+  return telling.words("Variables^1", {listed(texts)});
+}
+
+} // namespace
+
+std::vector<std::string> tellAxes(const Telling& telling) {
+  if (telling.chart.elements.empty()) return {};
+  if (telling.chart.facets.isMatrix) return {tellVariables(telling)};
+  std::vector<std::string> sentences{tellPanels(telling), tellAxis("x", "x axis^1", telling),
+                                     tellAxis("y", "y axis^1", telling)};
+  if (telling.chart.space != nullptr) sentences.push_back(tellAxis("z", "z axis^1", telling));
+  return sentences;
+}
+
+} // namespace render
