@@ -6,16 +6,16 @@
 
 import {readFileSync, renameSync, rmSync, writeFileSync} from 'node:fs';
 import {basename, join} from 'node:path';
-import {Resvg} from '@resvg/resvg-js';
+import {setImmediate} from 'node:timers/promises';
 import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
 import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from '../page/pictureTexts.js';
 import {nameFaces} from './faces.mjs';
+import {fontsOf} from './fonts.mjs';
 import {textWidth} from './textWidth.mjs';
 
 textMetrics.width = (item, text) => textWidth(text, item.fontSize ?? 11, item.fontWeight);
 
 const pngScale = 2;
-const fonts = {loadSystemFonts: true, defaultFontFamily: 'DejaVu Sans'};
 
 /** Writes a file so that it appears whole or not at all. */
 function writeWhole(file, bytes) {
@@ -47,8 +47,10 @@ async function draw(folder, {svg, png}) {
   const picture = wholeSvg(await view.toSVG(magnificationOf(spec)), spec);
   if (svg) writeWhole(join(folder, 'chart.svg'), picture);
   if (png) {
-    const zoom = {fitTo: {mode: 'zoom', value: pngScale}, font: fonts};
-    const pixels = new Resvg(nameFaces(anchorClippedGroups(picture)), zoom).render().asPng();
+    const {Resvg} = await import('@resvg/resvg-js');
+    const named = nameFaces(anchorClippedGroups(picture));
+    const options = {fitTo: {mode: 'zoom', value: pngScale}, font: fontsOf(named)};
+    const pixels = new Resvg(named, options).render().asPng();
     writeWhole(join(folder, 'chart.png'), pngWithTexts(pixels, textsOfPicture(spec)));
   }
 }
@@ -64,5 +66,7 @@ for (const [index, folder] of folders.entries()) {
     console.error(`chartxml: ${folder}: the picture cannot be drawn: ${error.message}`);
     process.exitCode = 1;
   }
+  // The bitmaps of a picture are given back between two turns of the event loop.
+  await setImmediate();
 }
 showLine('');

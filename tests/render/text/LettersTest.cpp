@@ -39,6 +39,19 @@ TEST(Letters, AreMeasuredAsTheyAreDrawn) {
   }
 }
 
+TEST(Letters, AreDrawnTheSameWithTheKnownFacesAlone) {
+  const std::pair<std::string, bool> cases[] = {{"Größe, R² ≤ 5 € ⇒ Доля", false},
+                                                {"年代: 9.3%の成長, 소비 지출", false},
+                                                {"שלום, 5 €", true},
+                                                {"a rare \U00020BB7", true}};
+  std::vector<std::string> arguments{familiesOf("ja")};
+  for (const auto& [text, readsAll] : cases)
+    arguments.push_back(text);
+  const nlohmann::json found = scriptOutput("faces.mjs", arguments);
+  for (std::size_t i = 0; i < std::size(cases); ++i)
+    EXPECT_EQ(found[i], nlohmann::json({cases[i].second, true})) << cases[i].first;
+}
+
 TEST(Letters, ComeFromTheFacesOfTheLanguageFirst) {
   const std::pair<const char*, const char*> cases[] = {
       {"ja", "'Noto Sans CJK JP'"},    {"ko", "'Noto Sans CJK KR'"},

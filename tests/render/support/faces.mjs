@@ -1,0 +1,19 @@
+// Prints for each text whether all faces of the machine are read for it, and whether that
+// gives the same bitmap as the faces that are handed over.
+//
+// usage: node faces.mjs <font families> <text> …
+import {Resvg} from '@resvg/resvg-js';
+import {nameFaces} from '../../../render/node/faces.mjs';
+import {fontsOf} from '../../../render/node/fonts.mjs';
+
+const [families, ...texts] = process.argv.slice(2);
+
+const results = texts.map((text) => {
+  const svg = nameFaces(`<svg xmlns="http://www.w3.org/2000/svg" width="900" height="60"><text \
+font-family="${families}" font-size="30px" transform="translate(20,40)">${text}</text></svg>`);
+  const drawn = (font) => new Resvg(svg, {font}).render().pixels;
+  const font = fontsOf(svg);
+  const all = {loadSystemFonts: true, defaultFontFamily: font.defaultFontFamily};
+  return [font.loadSystemFonts, drawn(font).equals(drawn(all))];
+});
+console.log(JSON.stringify(results));
