@@ -12,7 +12,7 @@ program components
   use chartxml
   use grouped_cases
   use korva
-  use least_squares, only: mean
+  use principal_axes
   implicit none
 
   character(*), parameter :: procedure_name = 'components'
@@ -32,18 +32,6 @@ program components
     integer :: chart, source, graph, data
     integer :: species  !< a variable
   end type
-
-  ! Eigenvalues, in ascending order, and eigenvectors of a symmetric matrix (LAPACK).
-  interface
-    subroutine dsyev(jobz, uplo, n, a, lda, w, work, lwork, info)
-      import :: dp
-      character, intent(in) :: jobz, uplo
-      integer, intent(in) :: n, lda, lwork
-      real(dp), intent(inout) :: a(lda, *)
-      real(dp), intent(out) :: w(*), work(*)
-      integer, intent(out) :: info
-    end subroutine
-  end interface
 
   call stop_when_refused(.true.)
   call run
@@ -78,26 +66,12 @@ contains
   function components_of(values) result(found)
     real(dp), intent(in) :: values(:, :)
     type(analysis) :: found
-    real(dp) :: standardized(size(values, 1), measures), vectors(measures, measures)
-    real(dp) :: variances(measures), work(64*measures), spread
-    integer :: m, info
+    real(dp) :: scores(size(values, 1), measures), vectors(measures, measures)
+    real(dp) :: variances(measures)
 
-    do m = 1, measures
-      spread = sqrt(sum((values(:, m) - mean(values(:, m)))**2)/(size(values, 1) - 1))
-      call require(spread > 0, 'no components: a measure has one value only')
-      standardized(:, m) = (values(:, m) - mean(values(:, m)))/spread
-    end do
-    vectors = matmul(transpose(standardized), standardized)/(size(values, 1) - 1)
-    call dsyev('V', 'U', measures, vectors, measures, variances, work, size(work), info)
-    call require(info == 0, 'the eigenvalue problem has no solution')
-
-    ! Either direction is a solution: the largest weight is to be positive.
-    vectors = vectors(:, measures:1:-1)
-    do m = 1, measures
-      vectors(:, m) = sign(1.0_dp, vectors(maxloc(abs(vectors(:, m)), dim=1), m))*vectors(:, m)
-    end do
-    found = analysis(share=variances(measures:1:-1)/measures, &
-      scores=matmul(standardized, vectors))
+    scores = standardized(values)
+    call decompose(matmul(transpose(scores), scores)/(size(values, 1) - 1), variances, vectors)
+    found = analysis(share=variances/measures, scores=matmul(scores, vectors))
   end function
 
   ! The charts

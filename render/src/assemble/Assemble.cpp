@@ -101,7 +101,7 @@ Json tableColumns(const std::vector<Excerpt>& excerpts) {
       if (category.label != category.key) column["labels"][category.key] = category.label;
     const std::string value = datum(variable->id);
     if (!variable->categorical)
-      column["text"] = valueText(variable->format, value);
+      column["text"] = textOf(*variable, value);
     else if (!std::holds_alternative<std::monostate>(variable->format))
       column["text"] = valueText(variable->format, fmt::format("toNumber({})", value));
     if (std::holds_alternative<DateFormat>(variable->format)) column["date"] = true;

@@ -90,6 +90,16 @@ std::vector<Category> readCategories(const Node& node, const Table::Column& text
   return categories;
 }
 
+std::vector<ValueLabel> readValueLabels(const Node& node) {
+  std::vector<ValueLabel> labels;
+  for (const Node& child : node.children) {
+    const double value = numberOf(child.attribute("from"));
+    if (child.kind == "relabel" && !std::isnan(value))
+      labels.push_back({.value = value, .label = std::string(child.attribute("to"))});
+  }
+  return labels;
+}
+
 /// The id of the rows that a variable reads; it may name another variable that reads
 /// them.
 std::string rowsOf(const Node& node, const ChartFolder& folder) {
@@ -136,6 +146,23 @@ double numberOf(std::string_view text) {
   return error == std::errc() && end == text.data() + text.size() ? value : missing;
 }
 
+std::string textOf(const Variable& variable, std::string_view value) {
+  return labelled(variable.valueLabels, value, valueText(variable.format, value));
+}
+
+std::string labelled(const std::vector<ValueLabel>& labels, std::string_view value,
+                     std::string otherwise) {
+  if (labels.empty()) return otherwise;
+  std::vector<std::string> values;
+  std::vector<std::string> texts;
+  for (const ValueLabel& each : labels) {
+    values.push_back(literal(each.value));
+    texts.push_back(literal(each.label));
+  }
+  const std::string place = fmt::format("indexof([{}],{})", fmt::join(values, ","), value);
+  return fmt::format("({0}<0?{1}:[{2}][{0}])", place, otherwise, fmt::join(texts, ","));
+}
+
 bool Variable::isMissing(std::size_t row) const {
   const auto isMissingIn = [row](const Variable* member) { return member->isMissing(row); };
   if (isMatrix) return std::ranges::any_of(members, isMissingIn);
@@ -153,10 +180,6 @@ Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes)
     if (variable.title.empty()) variable.title = node.attribute(name);
 
   variable.format = readFormat(node, folder.manifest.signs, notes);
-  if (!variable.categorical && node.child("relabel") != nullptr)
-    notes.add(fmt::format("the value labels of {} are not drawn on its continuous scale",
-                          variable.title));
-
   const Node* meta = node.child("meta");
   variable.isWeight = meta != nullptr && meta->attribute("weight") == "true";
   const auto table = folder.tables.find(variable.source);
@@ -170,6 +193,7 @@ Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes)
     variable.codes = codesOf(*variable.texts, variable.categories);
   } else {
     variable.numbers = readNumbers(*variable.texts, variable.title, notes);
+    variable.valueLabels = readValueLabels(node);
   }
   return variable;
 }

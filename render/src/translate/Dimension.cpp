@@ -89,6 +89,14 @@ void refuseDelta(const Node* majorTicks, Notes& notes) {
                         shown(majorTicks->attribute("delta"))));
 }
 
+/// The labels of values along a dimension: those of the first variable that has some.
+const std::vector<ValueLabel>& valueLabelsOf(const Dimension& dimension) {
+  static const std::vector<ValueLabel> none;
+  for (const Variable* variable : dimension.variables)
+    if (!variable->valueLabels.empty()) return variable->valueLabels;
+  return none;
+}
+
 void labelNumbers(Json& json, const Dimension& dimension, const Node& axis,
                   const Context& context) {
   const Node* majorTicks = axis.child("majorTicks");
@@ -101,11 +109,11 @@ void labelNumbers(Json& json, const Dimension& dimension, const Node& axis,
   const Ticks ticks = ticksOf(dimension, majorTicks, context);
   const bool isPercent = showsPercent(axis);
   const double magnitude = std::max(std::abs(dimension.low), std::abs(dimension.high));
-  setTicks(json, ticks.values,
-           tickText(formatOf(axis, format, context.notes),
-                    isPercent ? "(datum.value*100)" : "datum.value",
-                    isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
-                    isPercent ? 100 * magnitude : magnitude));
+  std::string text = tickText(formatOf(axis, format, context.notes),
+                              isPercent ? "(datum.value*100)" : "datum.value",
+                              isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
+                              isPercent ? 100 * magnitude : magnitude);
+  setTicks(json, ticks.values, labelled(valueLabelsOf(dimension), "datum.value", std::move(text)));
 }
 
 /// How long the ticks are, and on which side of the axis they stand.

@@ -131,7 +131,7 @@ std::string tooltipEntry(const Variable& variable, Parts& parts) {
   const std::string text =
       variable.categorical
           ? fmt::format("scale({},{})", literal(scaleName("label", variable.id)), value)
-          : valueText(variable.format, value);
+          : textOf(variable, value);
   return fmt::format("[{},{}]", literal(variable.title), text);
 }
 
@@ -142,8 +142,9 @@ Json itemTooltip(const Element& element, Context& context) {
   };
   const auto number = [&](const Variable* variable, std::string_view title,
                           std::string_view field) {
-    const Format format = variable != nullptr ? variable->format : Format();
-    add(fmt::format("[{},{}]", literal(title), valueText(format, fmt::format("datum.{}", field))));
+    const std::string value = fmt::format("datum.{}", field);
+    add(fmt::format("[{},{}]", literal(title),
+                    variable != nullptr ? textOf(*variable, value) : valueText(Format(), value)));
   };
   const Variable* place = element.place();
   if (element.group != nullptr && element.group != place)

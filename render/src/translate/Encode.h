@@ -65,4 +65,7 @@ void addMark(const Element& element, Json mark, bool isSplit, Context& context);
 /// Writes the values of an element's labeling at its marks.
 void addLabels(const Element& element, Context& context);
 
+/// Writes them where the marks would be that the style hides.
+void addLabelsAlone(const Element& element, Context& context);
+
 } // namespace render

@@ -5,12 +5,14 @@
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
+#include "translate/Style.h"
 #include "translate/Theme.h"
 
 namespace render {
 namespace {
 
-/// Where a label stands from its mark: above points and bars, within the rest.
+/// Where a label stands from its mark: above points and bars, within the rest and where
+/// nothing is drawn.
 struct Place {
   std::string_view type;
   int dy;
@@ -18,13 +20,14 @@ struct Place {
 constexpr std::array<Place, 2> places{Place{"point", -11}, Place{"interval", -8}};
 
 int raiseOf(const Element& element) {
+  if (lookOf(*element.node) == Look::hidden) return 0;
   for (const Place& place : places)
     if (place.type == element.type()) return place.dy;
   return 0;
 }
 
 std::string textOf(const Variable& variable, Context& context) {
-  if (!variable.categorical) return valueText(variable.format, datum(variable.id));
+  if (!variable.categorical) return textOf(variable, datum(variable.id));
   addLabelScale(variable, context.parts);
   return fmt::format("scale({},{})", literal(scaleName("label", variable.id)), datum(variable.id));
 }
@@ -55,6 +58,12 @@ void addLabels(const Element& element, Context& context) {
             {"interactive", false},
             {"encode", {{"update", std::move(update)}}}};
   context.parts.marks.push_back(std::move(mark));
+}
+
+void addLabelsAlone(const Element& element, Context& context) {
+  if (element.labels == nullptr) return;
+  context.parts.data.push_back(elementData(element, context));
+  addLabels(element, context);
 }
 
 } // namespace render

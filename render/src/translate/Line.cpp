@@ -49,7 +49,8 @@ void sort(const Element& element, Json& data) {
 /// A line through the rows or items of each group.
 void translateLine(const Node& node, Context& context) {
   const Element* element = context.find(node);
-  if (element == nullptr || lookOf(node) == Look::hidden) return;
+  if (element == nullptr) return;
+  if (lookOf(node) == Look::hidden) return addLabelsAlone(*element, context);
   Json data = elementData(*element, context);
   sort(*element, data);
   context.parts.data.push_back(std::move(data));

@@ -84,7 +84,8 @@ Json shapeOf(const Element& element, Context& context) {
 /// A symbol for each row or item.
 void translatePoint(const Node& node, Context& context) {
   const Element* element = context.find(node);
-  if (element == nullptr || lookOf(node) == Look::hidden) return;
+  if (element == nullptr) return;
+  if (lookOf(node) == Look::hidden) return addLabelsAlone(*element, context);
 
   const Node* style = panelStyle(*element, context);
   if (style != nullptr && isEmptyStyle(*style, context.chart))

@@ -230,6 +230,19 @@ TEST_F(ElementsTest, TheNameOfAStyleSaysWhatAnIntervalLooksLike) {
   }
 }
 
+TEST_F(ElementsTest, OfAHiddenElementTheLabelsAreDrawnAtItsPlaces) {
+  constexpr const char* hidden =
+      R"(<element type="{}" id="element_hiddenline_1">{}<labeling variable="v3"/></element>)";
+  for (const char* type : {"point", "line"}) {
+    const json drawn = spec(fmt::format(fmt::runtime(hidden), type, placed), parts);
+    const json& marks = drawn["marks"][0]["marks"];
+    ASSERT_EQ(marks.size(), 1) << type;
+    EXPECT_EQ(marks[0]["type"], "text");
+    EXPECT_EQ(marks[0]["encode"]["update"]["dy"]["value"], 0);
+    EXPECT_EQ(drawn["data"].back()["name"], marks[0]["from"]["data"]);
+  }
+}
+
 TEST_F(ElementsTest, PiecesOfAPieAndBarsInPolarCoordinatesAreSectors) {
   constexpr std::string_view polar = R"(<coordinateTransform method="polar"/>)";
   const std::string pie = fmt::format(R"(<theta variable="v2"/>{}{})", statistic("sum"), grouped);

@@ -1,5 +1,6 @@
 // Scales: what values they hold, how they lay them out, and the ticks along them.
 
+#include <regex>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -57,6 +58,29 @@ TEST_F(ScalesTest, ALogarithmHasItsMarginsAndTicksInPowers) {
   EXPECT_EQ(scale["domain"][0], 1);
   EXPECT_NEAR(scale["domain"][1].get<double>(), 1e6, 1e-6);
   EXPECT_THAT(ticks().dump(), testing::StartsWith("[1,10,100,1000,10000,100000"));
+}
+
+TEST_F(ScalesTest, ALabelOfANumberStandsInItsPlaceAtTicksInTooltipsAndInTheTable) {
+  constexpr std::string_view labelled =
+      R"(<variable id="v5" sourceName="A" source="source0" categorical="false" label="Men left">
+      <relabel from="-10" to="ten"/><relabel from="5" to="five"/><relabel from="x" to="y"/>
+      </variable>)";
+  drawn("x", noMargins, "",
+        R"(<element type="point" id="e"><x variable="v5"/><y variable="v2"/></element>)", labelled,
+        "A,B,Group\n-10,1,a\n10,2,a\n");
+  const auto textOf = [](const std::string& value, const std::string& otherwise) {
+    return fmt::format(R"((indexof([(-10),5],{0})<0?{1}:["ten","five"][indexof([(-10),5],{0})]))",
+                       value, otherwise);
+  };
+  const json& labels = spec_["marks"][0]["axes"][0]["encode"]["labels"]["update"];
+  EXPECT_EQ(labels["text"]["signal"], textOf("datum.value", "format(datum.value,\".0f\")"));
+  const std::string datum = R"(datum["v5"])";
+  const std::string plain = spec_["usermeta"]["columns"][0]["text"]; // that of v2, without labels
+  const std::string otherwise = std::regex_replace(plain, std::regex("v2"), "v5");
+  EXPECT_EQ(spec_["usermeta"]["columns"][1]["text"], textOf(datum, otherwise));
+  const std::string tooltip =
+      spec_["marks"][0]["marks"][0]["encode"]["update"]["tooltip"]["signal"];
+  EXPECT_THAT(tooltip, testing::HasSubstr(textOf(datum, otherwise)));
 }
 
 TEST_F(ScalesTest, ASafeLogarithmGoesThroughZeroAndAnUnsafeOneLeavesValuesOut) {
