@@ -126,6 +126,8 @@ Json functionDash(std::size_t index) {
   return patterns[1 + index % (patterns.size() - 1)];
 }
 
+Json referenceDash() { return {6, 3}; }
+
 Json signals() {
   return {{{"name", "dark"}, {"value", false}},
           {{"name", "ink"}, {"update", "dark ? '#e6e6e6' : '#222222'"}},
