@@ -8,6 +8,7 @@
 #include "text/Wrap.h"
 #include "translate/FacetLabels.h"
 #include "translate/Groups.h"
+#include "translate/NamedLegend.h"
 #include "translate/Theme.h"
 
 namespace render {
@@ -38,31 +39,6 @@ Json sources(const std::vector<Excerpt>& excerpts) {
 void append(Json& list, Json more) {
   for (Json& item : more)
     list.push_back(std::move(item));
-}
-
-/// The legend of the function lines that have a name.
-void addFunctionLegend(Parts& parts) {
-  std::vector<Category> named;
-  Json labels = Json::array();
-  Json dashes = Json::array();
-  for (std::size_t i = 0; i < parts.functions.size(); ++i) {
-    const Node& guide = *parts.functions[i];
-    if (guide.attribute("name").empty()) continue;
-    named.push_back({.key = std::string(guide.id()), .label = {}});
-    labels.push_back(wrap(guide.attribute("name"),
-                          {.width = theme::legendWidth, .fontSize = theme::labelSize, .lines = 3}));
-    dashes.push_back(theme::functionDash(i));
-  }
-  if (named.empty()) return;
-  parts.scales.push_back(categoryScale("dash_function", named, std::move(dashes)));
-  parts.scales.push_back(categoryScale("legend_function", named, std::move(labels)));
-  parts.legends.push_back(
-      {{"strokeDash", "dash_function"},
-       {"symbolType", theme::lineSymbol},
-       {"symbolStrokeColor", {{"signal", "ink"}}},
-       {"encode",
-        {{"labels",
-          {{"update", {{"text", {{"scale", "legend_function"}, {"field", "value"}}}}}}}}}});
 }
 
 /// Texts as the lines of one title. Whole lines are left out past the limit,
@@ -145,7 +121,7 @@ Json assemble(const Chart& chart, const Layout& layout, Parts parts,
             {"signals", theme::signals(theme)}};
   addTitles(spec, plot, parts, theme);
 
-  addFunctionLegend(parts);
+  addNamedLegends(parts);
   Json scales = Json::array();
   if (!chart.facets.isSplit()) append(scales, std::move(parts.positionScales));
   append(scales, std::move(parts.scales));

@@ -5,6 +5,8 @@
 #include <limits>
 #include <map>
 
+#include "compute/Contours.h"
+#include "compute/Dots.h"
 #include "compute/Hexagons.h"
 #include "compute/NormalCurve.h"
 #include "compute/Stack.h"
@@ -179,6 +181,10 @@ std::vector<Item> made(const Element& element, const Rows& rows, const Bins* bin
     return normalCurve(element, rows, bins);
   case Method::hexagons:
     return hexagons(element, rows);
+  case Method::dots:
+    return dots(element, rows);
+  case Method::contours:
+    return contours(element, rows);
   case Method::none:
     break;
   }
@@ -212,8 +218,8 @@ std::vector<Item> itemsOf(const Element& element, const Rows& rows, const Bins* 
   if (element.hasBase)
     for (Item& item : items)
       if (item.low == item.high && item.part == BoxPart::none) item.low = 0;
-  if (element.modifier == Modifier::stack || element.modifier == Modifier::stackInterpolating)
-    stack(element, items);
+  if (isStack(element.modifier)) stack(element, items);
+  if (element.modifier == Modifier::minusIntersection) cutAtShorter(element, items);
   const bool isAtNumbers = element.place() != nullptr && !element.place()->categorical;
   if (isBar(element) && isAtNumbers && element.method != Method::histogram) widen(items);
   return items;

@@ -1,6 +1,7 @@
 #include "compute/Stack.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <set>
 
@@ -52,6 +53,21 @@ void fillGaps(const Element& element, std::vector<Item>& items) {
     }
 }
 
+/// Puts the middle of what stands at each place at zero.
+void center(const Element& element, std::vector<Item>& items) {
+  std::map<double, std::pair<double, double>> ends;
+  for (const Item& item : items) {
+    auto& [low, high] = ends[placeOf(element, item)];
+    low = std::min({low, item.low, item.high});
+    high = std::max({high, item.low, item.high});
+  }
+  for (Item& item : items) {
+    const auto& [low, high] = ends[placeOf(element, item)];
+    item.low -= (low + high) / 2;
+    item.high -= (low + high) / 2;
+  }
+}
+
 } // namespace
 
 void stack(const Element& element, std::vector<Item>& items) {
@@ -68,6 +84,20 @@ void stack(const Element& element, std::vector<Item>& items) {
     item.low = end;
     end += length;
     item.high = end;
+  }
+  if (element.modifier == Modifier::center) center(element, items);
+}
+
+void cutAtShorter(const Element& element, std::vector<Item>& items) {
+  std::ranges::stable_sort(items, {}, [&](const Item& item) {
+    return std::pair(placeOf(element, item), std::abs(item.high));
+  });
+  std::map<std::pair<double, bool>, double> ends; // of each place, above and below zero
+  for (Item& item : items) {
+    const auto side = std::pair(placeOf(element, item), item.high < 0);
+    const auto [before, isFirst] = ends.try_emplace(side, item.low);
+    if (!isFirst) item.low = before->second;
+    before->second = item.high;
   }
 }
 

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include "resolve/Beyond.h"
 #include "resolve/Panels.h"
 #include "resolve/ReadElements.h"
 #include "resolve/Scale.h"
@@ -169,6 +170,7 @@ Chart resolve(const ChartFolder& folder, Notes& notes) {
   chart.facets = readFacets(chart, notes);
   makePanels(chart, notes);
   fitDimensions(chart, notes);
+  noteValuesBeyond(chart, notes);
   noteMissingRows(chart, notes);
   return chart;
 }

@@ -18,10 +18,24 @@ enum class Method : std::uint8_t {
   histogram,    ///< counts in ranges of a continuous place
   distribution, ///< the normal curve through the mean of the places
   hexagons,     ///< counts in the cells of a hexagonal grid
+  dots,         ///< each row stands on those before it at about the same place
+  contours,     ///< lines of equal density of the rows
 };
 
 /// What becomes of marks at the same place.
-enum class Modifier : std::uint8_t { none, stack, stackInterpolating, dodge };
+enum class Modifier : std::uint8_t {
+  none,
+  stack,
+  stackInterpolating,
+  center,            ///< a stack about zero
+  minusIntersection, ///< longer marks begin where shorter ones end
+  dodge,
+};
+
+constexpr bool isStack(Modifier modifier) {
+  return modifier == Modifier::stack || modifier == Modifier::stackInterpolating ||
+         modifier == Modifier::center;
+}
 
 /// Which part of a box plot a mark is.
 enum class BoxPart : std::uint8_t { none, whisker, box, median, outlier, extreme };
@@ -55,7 +69,7 @@ struct Element {
   std::vector<const Variable*> splits{}; ///< tell rows apart; that of the shape is one
   const Variable* shade = nullptr;       ///< colors marks along a range of colors
   const Variable* size = nullptr;        ///< sizes marks by its values
-  const Variable* labels = nullptr;      ///< is written at the marks
+  std::vector<const Variable*> labels{}; ///< are written at the marks, one line each
   const Variable* weight = nullptr;      ///< counts each row as often as it says
   const Node* statistic = nullptr;
 

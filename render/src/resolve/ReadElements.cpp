@@ -19,9 +19,9 @@ struct Type {
 };
 
 constexpr Type types[] = {
-    {"point", false, false},   {"line"},   {"path", false, false}, {"edge", false, false},
-    {"polygon", false, false}, {"schema"}, {"interval", true},     {"area", true},
-    {"tile", false, false},
+    {"point", false, false},   {"line"},    {"path", false, false}, {"edge", false, false},
+    {"polygon", false, false}, {"schema"},  {"interval", true},     {"area", true},
+    {"tile", false, false},    {"contour"},
 };
 
 const Type* typeOf(const Node& element) {
@@ -79,9 +79,9 @@ public:
       return refuse("a matrix shows the same variables by points, and its rows as they are");
 
     readAesthetics(element);
-    std::vector<const Variable*> variables{element.y, element.group, element.shade, element.size,
-                                           element.labels};
+    std::vector<const Variable*> variables{element.y, element.group, element.shade, element.size};
     variables.insert(variables.end(), element.splits.begin(), element.splits.end());
+    variables.insert(variables.end(), element.labels.begin(), element.labels.end());
     for (const Variable* variable : variables)
       if (variable != nullptr && variable->source != sourceOf(element))
         return refuse("its variables are of different data sources");
@@ -119,6 +119,14 @@ private:
 
   void readMethod(Element& element) {
     element.statistic = statisticOf(node_);
+    if (node_.attribute("type") == "contour") {
+      element.method = Method::contours;
+      if (element.statistic != nullptr)
+        notes_.add(fmt::format("{}: contours show the density of its rows, not the statistic {}",
+                               node_.name(), shown(element.statistic->attribute("method"))));
+      return;
+    }
+    readDots(element);
     if (node_.attribute("type") == "schema") {
       element.method = Method::summary;
       element.summary = &boxPlot();
@@ -142,6 +150,18 @@ private:
     }
   }
 
+  /// Dots stand on each other where nothing measures them.
+  void readDots(Element& element) {
+    const std::string_view layout = node_.attribute("dot");
+    if (layout.empty() || layout == "none") return;
+    const bool hasOnePlace = (element.x == nullptr) != (element.y == nullptr);
+    if (node_.attribute("type") == "point" && element.statistic == nullptr && hasOnePlace)
+      element.method = Method::dots;
+    else
+      notes_.add(fmt::format("{}: dot=\"{}\" is drawn for points along one variable only",
+                             node_.name(), shown(layout)));
+  }
+
   bool isNormalCurve(std::string_view name) const {
     if (name == "normal") return true;
     const std::string_view type = parameter(*statisticOf(node_), "type");
@@ -152,6 +172,8 @@ private:
     static constexpr std::pair<std::string_view, Modifier> modifiers[] = {
         {"stack", Modifier::stack},
         {"stackinterpolating", Modifier::stackInterpolating},
+        {"center", Modifier::center},
+        {"minusIntersection", Modifier::minusIntersection},
         {"dodge", Modifier::dodge}};
     const std::string_view name = node_.attribute("positionModifier");
     const auto* const found =
@@ -162,7 +184,8 @@ private:
   /// Along y, unless y has the categories and x the numbers.
   static bool measuresAlongX(const Element& element) {
     const bool yIsPlace = element.y != nullptr && element.y->categorical;
-    if (element.x == nullptr) return yIsPlace || element.method == Method::histogram;
+    if (element.x == nullptr)
+      return yIsPlace || element.method == Method::histogram || element.method == Method::dots;
     const bool hasOnlyValues = element.y == nullptr && element.method == Method::summary &&
                                element.summary->needsMeasure && !element.x->categorical;
     if (hasOnlyValues) return true;
@@ -179,7 +202,7 @@ private:
   }
 
   static std::string_view lackOfData(const Element& element) {
-    const bool countsRows = element.method == Method::histogram ||
+    const bool countsRows = element.method == Method::histogram || element.method == Method::dots ||
                             element.method == Method::distribution ||
                             element.method == Method::share ||
                             (element.method == Method::summary && !element.summary->needsMeasure);
@@ -204,14 +227,15 @@ private:
     const Variable* place = element.place();
     const Variable* measure = element.measure();
     const bool isComposed = place != nullptr && !place->members.empty();
-    const bool needsNumbers = element.method == Method::histogram ||
-                              element.method == Method::distribution ||
-                              element.method == Method::hexagons;
+    const bool needsNumbers =
+        element.method == Method::histogram || element.method == Method::distribution ||
+        element.method == Method::hexagons || element.method == Method::contours;
     if (needsNumbers && (place == nullptr || place->categorical || isComposed))
       return "its statistic needs a continuous variable";
     if (isComposed && element.method != Method::none)
       return "its statistic needs places of one variable";
-    if (element.method == Method::hexagons && (measure == nullptr || !measure->members.empty()))
+    const bool needsTwo = element.method == Method::hexagons || element.method == Method::contours;
+    if (needsTwo && (measure == nullptr || !measure->members.empty()))
       return "its statistic needs two variables";
     return {};
   }
@@ -265,7 +289,7 @@ private:
       notes_.add(fmt::format("{}: {}", node_.name(), what));
     };
     if (child.kind == "labeling") {
-      element.labels = &variable;
+      element.labels.push_back(&variable);
     } else if (child.kind == "split") {
       if (!variable.categorical)
         return note(fmt::format("a split by the values of {} is not drawn", variable.title));

@@ -98,10 +98,12 @@ void translateBoxPlot(const Node& node, Context& context) {
     addPart(*element, "box", boxMark(*element, context), context);
   if (isWhole || parts == "median")
     addPart(*element, "median", medianMark(*element, context), context);
-  if (isWhole || parts == "tukeyOutliers")
-    addPart(*element, "outlier", beyondMark(*element, "circle", context), context);
-  if (isWhole || parts == "tukeyExtremes")
-    addPart(*element, "extreme", beyondMark(*element, star, context), context);
+  const auto addBeyond = [&](const char* part, const char* shape) {
+    addPart(*element, part, beyondMark(*element, shape, context), context);
+    addOutlierLabels(*element, part, context);
+  };
+  if (isWhole || parts == "tukeyOutliers") addBeyond("outlier", "circle");
+  if (isWhole || parts == "tukeyExtremes") addBeyond("extreme", star);
 }
 
 } // namespace render

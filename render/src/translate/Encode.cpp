@@ -8,6 +8,7 @@
 #include "text/Expression.h"
 #include "translate/Groups.h"
 #include "translate/Space.h"
+#include "translate/StyleCycle.h"
 #include "translate/Theme.h"
 
 namespace render {
@@ -59,7 +60,7 @@ std::vector<std::string> splitFields(const Element& element) {
   if (element.group != nullptr) fields.push_back(element.group->id);
   for (const Variable* split : element.splits)
     fields.push_back(split->id);
-  if (element.isComposed()) fields.emplace_back("member");
+  if (element.isComposed() || element.method == Method::contours) fields.emplace_back("member");
   return fields;
 }
 
@@ -110,7 +111,7 @@ Json color(const Element& element, Context& context) {
     return {{"scale", scaleName("shade", element.shade->id)},
             {"field", fieldPath(element.shade->id)}};
   }
-  if (element.group == nullptr) return {{"signal", "palette[0]"}};
+  if (element.group == nullptr) return {{"signal", ownColor(element, context.chart)}};
   addGroupScales(*element.group, context.parts);
   return {{"scale", scaleName("color", element.group->id)},
           {"field", fieldPath(element.group->id)}};

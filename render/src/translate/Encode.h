@@ -37,8 +37,8 @@ Json positions(const Element& element, const Context& context);
 Json position(const Element& element, std::string_view role, std::string_view field,
               const Context& context);
 
-/// The color of the element's group, or the first color when it has none; that of the
-/// value of its shade. Adds the scale of the color.
+/// The color of the element's group, or its own when it has none; that of the value
+/// of its shade. Adds the scale of the color.
 Json color(const Element& element, Context& context);
 
 /// How many slots a category has for an element that dodges.
@@ -62,8 +62,10 @@ bool isClipped(const Chart& chart);
 /// joins what belongs together.
 void addMark(const Element& element, Json mark, bool isSplit, Context& context);
 
-/// Writes the values of an element's labeling at its marks.
+/// Writes the values of an element's labelings at its marks, or at the outliers of a box
+/// plot, which "part" names.
 void addLabels(const Element& element, Context& context);
+void addOutlierLabels(const Element& element, const char* part, Context& context);
 
 /// Writes them where the marks would be that the style hides.
 void addLabelsAlone(const Element& element, Context& context);

@@ -1,7 +1,6 @@
 #include "translate/Interval.h"
 
 #include <algorithm>
-#include <numbers>
 
 #include <fmt/format.h>
 
@@ -9,6 +8,7 @@
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Filling.h"
+#include "translate/LabelPlace.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
 
@@ -29,12 +29,9 @@ void addMeasure(Json& update, const Element& element, const Context& context) {
 
 /// A circle's sector from the item's low to its high, of all that there is.
 Json sliceMark(const Element& element, Context& context) {
-  double all = 0;
-  for (const Item& item : context.panel().items[element.index])
-    all = std::max(all, item.high);
-  const auto angle = [all](const char* field) {
-    return Json{
-        {"signal", fmt::format("datum.{}*{}", field, all > 0 ? 2 * std::numbers::pi / all : 0)}};
+  const double turns = turnsOf(element, context);
+  const auto angle = [turns](const char* field) {
+    return Json{{"signal", fmt::format("datum.{}*{}", field, turns)}};
   };
   const Layout& layout = context.layout;
   Json update{{"x", {{"value", layout.panelWidth / 2}}},

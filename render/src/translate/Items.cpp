@@ -22,14 +22,20 @@ Json valueOf(const Variable& variable, std::size_t row) {
 }
 
 void addVariables(Json& fields, const Element& element, const Item& item) {
-  std::vector<const Variable*> variables{element.x,     element.y,    element.z,     element.group,
-                                         element.shade, element.size, element.labels};
-  variables.insert(variables.end(), element.splits.begin(), element.splits.end());
-  for (const Variable* variable : variables) {
-    const bool isShown = variable != nullptr && variable->texts != nullptr &&
-                         (variable->categorical || element.method == Method::none);
+  const auto add = [&](const Variable* variable, bool isOneRow) {
+    const bool isShown =
+        variable != nullptr && variable->texts != nullptr && (variable->categorical || isOneRow);
     if (isShown) fields[variable->id] = valueOf(*variable, item.row);
-  }
+  };
+  const bool isRow = element.method == Method::none;
+  for (const Variable* variable :
+       {element.x, element.y, element.z, element.group, element.shade, element.size})
+    add(variable, isRow);
+  for (const Variable* split : element.splits)
+    add(split, isRow);
+  const bool isBeyond = item.part == BoxPart::outlier || item.part == BoxPart::extreme;
+  for (const Variable* label : element.labels)
+    add(label, isRow || isBeyond);
 }
 
 bool isDrawn(const Element& element, const Item& item, const Context& context) {
@@ -45,8 +51,10 @@ bool isDrawn(const Element& element, const Item& item, const Context& context) {
 }
 
 /// Where its base has no place, a bar begins where the scale does.
-double startOf(const Item& item, const Dimension& measure) {
-  return measure.categorical || takes(item.low, measure) ? item.low : measure.low;
+double startOf(const Element& element, const Item& item, const Dimension& measure) {
+  if (measure.categorical || element.isSlice) return item.low;
+  if (!takes(item.low, measure)) return measure.low;
+  return element.hasBase ? std::clamp(item.low, measure.low, measure.high) : item.low;
 }
 
 Json fieldsOf(const Element& element, const Item& item, const std::set<double>& slots,
@@ -61,11 +69,11 @@ Json fieldsOf(const Element& element, const Item& item, const std::set<double>& 
       fields["to"] = jsonNumber(item.to);
     }
   }
-  fields["low"] = jsonNumber(startOf(item, context.along(measureRole(element))));
+  fields["low"] = jsonNumber(startOf(element, item, context.along(measureRole(element))));
   fields["high"] = jsonNumber(item.high);
   fields["value"] = jsonNumber(item.value);
   if (item.part != BoxPart::none) fields["part"] = partNames[static_cast<std::size_t>(item.part)];
-  if (element.isComposed()) fields["member"] = item.member;
+  if (element.isComposed() || element.method == Method::contours) fields["member"] = item.member;
   if (slots.size() > 1)
     fields["slot"] = std::distance(slots.begin(), slots.find(element.group->codes[item.row]));
   return fields;

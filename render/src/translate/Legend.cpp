@@ -7,6 +7,7 @@
 #include "translate/Encode.h"
 #include "translate/Filling.h"
 #include "translate/Groups.h"
+#include "translate/NamedLegend.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
@@ -37,12 +38,6 @@ bool asksFor(const Variable& variable, const Node& target, const Element& elemen
   });
 }
 
-std::vector<std::string> titleLines(const std::string& title) {
-  return wrap(
-      title,
-      {.width = theme::legendWidth, .fontSize = theme::labelSize + 1, .lines = 4, .bold = true});
-}
-
 /// A range of colors with the values at its ends.
 void addShadeLegend(const Element& element, const Node& legend, Context& context) {
   const Variable& shade = *element.shade;
@@ -56,7 +51,7 @@ void addShadeLegend(const Element& element, const Node& legend, Context& context
   context.parts.legends.push_back(
       {{"fill", name},
        {"type", "gradient"},
-       {"title", titleLines(label && !label->text.empty() ? label->text : shade.title)},
+       {"title", legendTitle(label && !label->text.empty() ? label->text : shade.title)},
        {"gradientLength", 160},
        {"encode",
         {{"labels",
@@ -86,16 +81,16 @@ void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entri
                                   shown(target.attribute("element"))));
     return;
   }
-  // A function line has its entry by its name, an element that is not drawn none.
+  const bool isLine = node->kind == "guide" &&
+                      (node->attribute("type") == "function" || node->attribute("type") == "line");
+  if (isLine) return addNamed(*node, legend, context);
+  // An element that is not drawn has no entry.
   const Element* element = context.chart.find(*node);
   if (element == nullptr) return;
   if (element->shade != nullptr) addShadeLegend(*element, legend, context);
-  if (element->group == nullptr) {
-    if (element->shade == nullptr)
-      context.notes.add(
-          fmt::format("{}: {} has no groups for a legend", target.name(), node->name()));
-    return;
-  }
+  if (element->group == nullptr && element->shade == nullptr)
+    return addNamed(*node, legend, context);
+  if (element->group == nullptr) return;
   const bool asksForGroup = asksFor(*element->group, target, *element);
   const bool asksForShape = element->shape != nullptr && asksFor(*element->shape, target, *element);
   if (asksForGroup) addEntry(*element, *element->group, entries, context);
@@ -131,7 +126,7 @@ std::string addSymbolsOnLines(const Variable& group, Parts& parts) {
 /// colors.
 Json shapeLegend(const Entry& entry, Context& context) {
   const Variable& group = *entry.group;
-  Json json{{"title", titleLines(group.title)},
+  Json json{{"title", legendTitle(group.title)},
             {entry.points ? "shape" : "strokeDash",
              scaleName(entry.points ? "symbol" : "dash", group.id)},
             {"symbolStrokeColor", {{"signal", "ink"}}}};
@@ -163,7 +158,7 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
   const std::string& title = label && !label->text.empty() ? label->text : group.title;
 
   if (entry.shapesOnly) return shapeLegend(entry, context);
-  Json json{{"title", titleLines(title)}, {"stroke", scaleName("color", group.id)}};
+  Json json{{"title", legendTitle(title)}, {"stroke", scaleName("color", group.id)}};
   if (entry.bars) {
     json["symbolType"] = theme::barSymbol;
     addBarFilling(json, group, context);
@@ -191,7 +186,14 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
 
 } // namespace
 
-/// One legend for each variable that its targets are grouped by.
+std::vector<std::string> legendTitle(const std::string& title) {
+  return wrap(
+      title,
+      {.width = theme::legendWidth, .fontSize = theme::labelSize + 1, .lines = 4, .bold = true});
+}
+
+/// One legend for each variable that its targets are grouped by; targets without groups
+/// share one.
 void translateLegend(const Node& legend, Context& context) {
   std::vector<Entry> entries;
   for (const Node& child : legend.children)

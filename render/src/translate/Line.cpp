@@ -4,6 +4,7 @@
 #include "translate/Encode.h"
 #include "translate/Groups.h"
 #include "translate/Style.h"
+#include "translate/StyleCycle.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
@@ -27,6 +28,8 @@ Json lineMark(const Element& element, Context& context) {
     }
     update["tooltip"] = {
         {"signal", fmt::format("[{}]", tooltipEntry(*element.group, context.parts))}};
+  } else if (Json dash = lineDash(element, context.chart); !dash.empty()) {
+    update["strokeDash"] = {{"value", std::move(dash)}};
   }
   return {{"type", "line"},
           {"from", nullptr},

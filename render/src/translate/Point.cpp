@@ -1,18 +1,24 @@
+#include <algorithm>
 #include <cmath>
 
 #include <fmt/format.h>
 
+#include "compute/Dots.h"
 #include "compute/Hexagons.h"
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
 #include "translate/Matrix.h"
 #include "translate/Style.h"
+#include "translate/StyleCycle.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
 namespace render {
 namespace {
+
+constexpr double rimShare = 1.75; ///< of its area, for the rim that a point takes from it
+constexpr double largestDot = 18; ///< of a stack, in pixels
 
 std::string pointTooltip(const Element& element, Context& context) {
   std::string tooltip;
@@ -65,7 +71,23 @@ Json sizeByCount(const Element& element, Context& context) {
   return {{"scale", name}, {"field", "value"}};
 }
 
+/// As wide as a stack of dots and as high as one of them.
+Json sizeOfDot(const Element& element, const Context& context) {
+  const Layout& layout = context.layout;
+  const auto pixels = [&](std::string_view role, double length) {
+    const Dimension& dimension = context.along(role);
+    const double whole = isAcross(role, context.chart) ? layout.panelWidth : layout.panelHeight;
+    return whole * length / (dimension.high - dimension.low);
+  };
+  double diameter = pixels(measureRole(element), 1);
+  if (!element.place()->categorical)
+    diameter = std::min(diameter, pixels(placeRole(element), dotWidth(element)));
+  diameter = std::min(diameter, largestDot) - theme::thinWidth;
+  return {{"value", jsonNumber(std::max(1.0, diameter * diameter))}};
+}
+
 Json sizeOf(const Element& element, Context& context) {
+  if (element.method == Method::dots) return sizeOfDot(element, context);
   if (element.method == Method::hexagons) return sizeByCount(element, context);
   if (element.size != nullptr && element.method == Method::none)
     return sizeByVariable(element, context);
@@ -74,7 +96,10 @@ Json sizeOf(const Element& element, Context& context) {
 
 Json shapeOf(const Element& element, Context& context) {
   const Variable* shown = element.shape != nullptr ? element.shape : element.group;
-  if (shown == nullptr) return {{"value", theme::symbols.front().path}};
+  if (shown == nullptr) {
+    const std::size_t index = ownShape(element, context.chart) % theme::symbols.size();
+    return {{"value", theme::symbols[index].path}};
+  }
   addGroupScales(*shown, context.parts);
   return {{"scale", scaleName("symbol", shown->id)}, {"field", fieldPath(shown->id)}};
 }
@@ -105,6 +130,12 @@ void translatePoint(const Node& node, Context& context) {
                        ? Json{{"value", "transparent"}}
                        : color(*element, context);
   update["fillOpacity"] = {{"value", theme::fillOpacity}};
+  if (isOverFillings(*element, context.chart) && update["fill"] == update["stroke"]) {
+    update["fillOpacity"] = {{"value", 1}};
+    update["stroke"] = {{"signal", "paper"}};
+    if (update["size"].contains("value") && element->method != Method::dots)
+      update["size"] = {{"value", rimShare * update["size"]["value"].get<double>()}};
+  }
   update["tooltip"] = tooltip.empty() ? itemTooltip(*element, context)
                                       : Json{{"signal", fmt::format("[{}]", tooltip)}};
 

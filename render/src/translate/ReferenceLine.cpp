@@ -47,9 +47,10 @@ void translateReferenceLine(const Node& guide, Context& context) {
         {along.end, {{"value", goesUp ? context.layout.panelHeight : context.layout.panelWidth}}},
         {"stroke", {{"signal", "ink"}}},
         {"strokeWidth", {{"value", theme::thinWidth}}},
-        {"strokeDash", {{"value", {6, 3}}}},
+        {"strokeDash", {{"value", theme::referenceDash()}}},
         {"tooltip",
          {{"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}}}};
+    context.parts.lines.push_back(&guide);
     context.parts.marks.push_back({{"type", "rule"}, {"encode", {{"update", std::move(update)}}}});
   }
 }

@@ -11,11 +11,15 @@ const std::initializer_list<std::string_view> elementAttributes{
     "id",
     "style",
     "type",
+    "name",
+    "dot",
     "labelCollisionHandling",
     "showCollidingLabels",
     "positionModifier=none",
     "positionModifier=stack",
     "positionModifier=stackinterpolating",
+    "positionModifier=center",
+    "positionModifier=minusIntersection",
     "positionModifier=dodge"};
 
 const Rule rules[] = {
@@ -94,6 +98,7 @@ const Rule rules[] = {
     {"transform", {"axis"}, {"method=percent"}},
     // elements
     {"elementGroup", {"frame"}, {"id", "style"}},
+    {"element:contour", {"frame", "elementGroup"}, elementAttributes, translateContour},
     {"element:point", {"frame", "elementGroup"}, elementAttributes, translatePoint},
     {"element:line", {"frame", "elementGroup"}, elementAttributes, translateLine},
     {"element:path", {"frame", "elementGroup"}, elementAttributes, translateLine},

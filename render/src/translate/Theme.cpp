@@ -120,6 +120,8 @@ Json functionDash(std::size_t index) {
   return patterns[1 + index % (patterns.size() - 1)];
 }
 
+Json referenceDash() { return {6, 3}; }
+
 Json signals(const Theme& theme) {
   const auto tone = [&theme](std::string_view Tones::* each) {
     return fmt::format("dark ? {} : {}", theme.dark.*each, theme.light.*each);

@@ -127,6 +127,9 @@ Json dashes();
 /// elements are drawn.
 Json functionDash(std::size_t index);
 
+/// The dash pattern of lines across the plot.
+Json referenceDash();
+
 /// The signals for light and dark: "dark" is set from outside; "ink", "paper",
 /// "faint" and "palette", the colors of groups, follow.
 Json signals(const Theme& theme);

@@ -10,6 +10,17 @@
 
 namespace render {
 
+/// An element or guide that a legend calls by its name.
+struct Named {
+  const Node* node;
+  std::string title{}; ///< of the legend
+  std::string text{};
+  std::string color; ///< an expression
+  std::string_view shape{};
+  Json dash = Json::array();
+  double opacity = 0; ///< of its filling
+};
+
 /// The parts of a Vega specification as the translators collect them.
 struct Parts {
   std::vector<std::string> title;
@@ -24,6 +35,8 @@ struct Parts {
   Json marks = Json::array();
 
   std::vector<const Node*> functions; ///< the guides drawn as function lines
+  std::vector<const Node*> lines;     ///< those drawn as lines across the plot
+  std::vector<Named> named;           ///< in the order of the legends
 
   bool hasScale(std::string_view name) const;
 };
@@ -50,6 +63,7 @@ using Translator = void (*)(const Node& node, Context& context);
 void translateArea(const Node& node, Context& context);
 void translateBox(const Node& guide, Context& context);
 void translateBoxPlot(const Node& node, Context& context);
+void translateContour(const Node& node, Context& context);
 void translateDimension(const Node& node, Context& context);
 void translateFunction(const Node& guide, Context& context);
 void translateInterval(const Node& node, Context& context);

@@ -274,6 +274,8 @@ TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
        "e is not drawn: its statistic needs a continuous variable"},
       {element("point", R"(<x variable="v1"/><y variable="v2"/>)", "jitter"),
        "e: positionModifier=\"jitter\" is not drawn yet"},
+      {R"(<element type="point" id="e" dot="auto"><x variable="v1"/><y variable="v2"/></element>)",
+       "e: dot=\"auto\" is drawn for points along one variable only"},
       {element("schema", R"(<x variable="r"/><y variable="v2"/>)"),
        "e is not drawn: its statistic needs places of one variable"},
       {element("point", R"(<x variable="v1"/><y variable="r"/>)" +

@@ -220,7 +220,7 @@ TEST_F(TranslateTest, AFunctionIsDrawnAcrossTheXScaleAndNamedInALegend) {
     {"type": "formula", "as": "y",
      "expr": "isFinite(datum.y) ? clamp(datum.y, (-100.5), 130.5) : null"}])json"));
   const json& legend = drawn["marks"][0]["legends"][0];
-  EXPECT_EQ(legend["strokeDash"], "dash_function");
+  EXPECT_EQ(legend["strokeDash"], "dash_named1");
 }
 
 TEST_F(TranslateTest, TextsGoWhereTheirIdsSay) {
@@ -236,7 +236,7 @@ TEST_F(TranslateTest, WhatIsNotDrawnIsNoted) {
   const std::string unknown =
       std::string(point) +
       R"xml(<dimension role="z"/><dimension role="x"><scale method="logit"/><axis><majorTicks stagger="true"/>
-      </axis></dimension><element type="contour"/><element type="point" id="e"><x variable="v1"/>
+      </axis></dimension><element type="cloud"/><element type="point" id="e"><x variable="v1"/>
       </element><guide id="g" type="function"><parameter name="y" value="sin(x)"/></guide>
       <wonder color="&#10;red"><inner/></wonder>)xml";
   EXPECT_EQ(
@@ -246,7 +246,7 @@ TEST_F(TranslateTest, WhatIsNotDrawnIsNoted) {
             "e is not drawn: it has no y variable with data", "the scale logit is not drawn yet",
             missingRow, "dimension: role=\"z\" is not drawn yet",
             "majorTicks: stagger=\"true\" is not drawn yet",
-            "element of type contour in data is not drawn yet", refusedFormula,
+            "element of type cloud in data is not drawn yet", refusedFormula,
             "wonder in data is not drawn yet", "s: fill:red is not drawn yet"}));
 }
 

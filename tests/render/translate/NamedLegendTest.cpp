@@ -1,0 +1,128 @@
+// What tells elements apart that have neither groups nor colors of their own.
+
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+
+#include "render/support/ChartFolder.h"
+
+namespace {
+
+using nlohmann::json;
+
+json specOf(std::string_view plot, std::string_view targets = "") {
+  std::string legends;
+  for (; !targets.empty(); targets.remove_prefix(std::min(targets.find(' ') + 1, targets.size()))) {
+    legends += fmt::format(R"(<legend id="l"><legendTarget id="t" element="{}"/></legend>)",
+                           targets.substr(0, targets.find(' ')));
+    if (targets.find(' ') == std::string_view::npos) break;
+  }
+  return TestFolder()
+      .write("chart.xml", document(plot, legends.empty() ? "" : "<frame>" + legends + "</frame>"))
+      .write("source0.csv", "A,B,Group\n1,10,a\n2,20,b\n")
+      .spec();
+}
+
+std::string element(std::string_view id, std::string_view type, std::string_view rest = "",
+                    std::string_view variables = "12") {
+  return fmt::format(R"(<element id="{}" type="{}" {}><x variable="v{}"/><y variable="v{}"/>
+    </element>)",
+                     id, type, rest, variables.front(), variables.back());
+}
+
+TEST(NamedLegendTest, ElementsWithoutGroupsTakeTheColorsOfTheCycleInTurn) {
+  const struct {
+    const char* what;
+    std::string plot;
+    std::vector<std::string> colors; ///< of the marks
+  } cases[] = {
+      {"bars and points",
+       element("b", "interval", "", "32") + element("p", "point", "", "32"),
+       {"palette[0]", "palette[1]"}},
+      {"points on their line",
+       element("l", "line") + element("p", "point"),
+       {"palette[0]", "palette[0]"}},
+      {"the same, named apart",
+       element("l", "line", R"(name="Fit")") + element("p", "point", R"(name="Data")"),
+       {"palette[0]", "palette[1]"}},
+      {"of one group",
+       R"(<elementGroup id="g">)" + element("b", "interval", "", "32") +
+           element("l", "line", "", "32") + "</elementGroup>" + element("p", "point", "", "32"),
+       {"palette[0]", "palette[0]", "palette[1]"}},
+      {"ink takes no color",
+       element("b", "interval", "", "32") + element("element_errorbar", "interval", "", "32") +
+           element("p", "point", "", "32"),
+       {"palette[0]", "ink", "ink", "ink", "palette[1]"}},
+  };
+  for (const auto& [what, plot, colors] : cases) {
+    std::vector<std::string> drawn;
+    const json spec = specOf(plot);
+    for (const json& mark : spec["marks"][0]["marks"]) {
+      const json& update = mark["encode"]["update"];
+      drawn.push_back(update[update.contains("fill") ? "fill" : "stroke"]["signal"]);
+    }
+    EXPECT_EQ(drawn, colors) << what;
+  }
+}
+
+TEST(NamedLegendTest, PointsOverFillingsAreOpaqueWithARim) {
+  const json drawn = specOf(element("b", "interval", "", "32") + element("p", "point", "", "32"));
+  const json& update = drawn["marks"][0]["marks"][1]["encode"]["update"];
+  EXPECT_EQ(update["stroke"], json({{"signal", "paper"}}));
+  EXPECT_EQ(update["fillOpacity"], json({{"value", 1}}));
+}
+
+TEST(NamedLegendTest, OneLegendHoldsAllThatIsNamed) {
+  const json plot =
+      specOf(element("b", "interval", R"(name="Bars")", "12") +
+                 element("p", "point", R"(name="Points")") + element("l", "line") +
+                 R"(<guide id="f" type="function" name="Fit"><parameter name="y" value="x"/></guide>
+    <guide id="r" type="line" name="Mean"><parameter name="y" value="12"/></guide>
+    <guide id="out" type="line" name="Far"><parameter name="y" value="99"/></guide>)",
+             "r p l b out")["marks"][0];
+  ASSERT_EQ(plot["legends"].size(), 1U);
+  EXPECT_EQ(plot["legends"][0], json::parse(R"({"stroke":"stroke_named1","fill":"fill_named1",
+    "shape":"shape_named1","strokeDash":"dash_named1","encode":{
+    "symbols":{"update":{"fillOpacity":{"scale":"opacity_named1","field":"value"}}},
+    "labels":{"update":{"text":{"scale":"label_named1","field":"value"}}}}})"));
+  const json& scales = plot["scales"];
+  const auto range = [&](const char* name) {
+    for (const json& scale : scales)
+      if (scale["name"] == name) return scale["range"];
+    return json();
+  };
+  const char* line = "M-2.6,0H2.6";
+  EXPECT_EQ(range("label_named1"), json::parse(R"([["Mean"],["Points"],["b"],["Bars"],["Fit"]])"));
+  EXPECT_EQ(range("stroke_named1"),
+            json({{"signal", "[ink,palette[1],palette[1],palette[0],ink]"}}));
+  EXPECT_EQ(
+      range("fill_named1"),
+      json({{"signal", "['transparent',palette[1],'transparent',palette[0],'transparent']"}}));
+  EXPECT_EQ(range("shape_named1"),
+            json({line, "M1,0A1,1,0,1,1,-1,0A1,1,0,1,1,1,0Z", line, "M-1,-1H1V1H-1Z", line}));
+  EXPECT_EQ(range("dash_named1"), json::parse("[[6,3],[],[],[],[8,4]]"));
+}
+
+TEST(NamedLegendTest, ValuesBeyondTheEndsOfTheDomainAreNoted) {
+  const std::string plot = R"(<dimension role="y" domain="d"/>)" + element("p", "point", "", "32") +
+                           element("b", "interval", "", "32");
+  const std::string domain =
+      R"(<domain id="d" categorical="false"><interval min="5" max="15"/></domain>)";
+  const auto spec = [&](std::string_view clip) {
+    std::string chart = document(plot, domain);
+    chart.insert(chart.find("<frame id=") + 6, fmt::format(" clip=\"{}\"", clip));
+    return TestFolder()
+        .write("chart.xml", chart)
+        .write("source0.csv", "A,B,Group\n1,10,a\n2,20,b\n3,15,a\n")
+        .spec();
+  };
+  for (const auto& [clip, fate] :
+       {std::pair("false", "drawn outside the axes"), std::pair("true", "cut off")}) {
+    const json drawn = spec(clip);
+    const std::string told = "values beyond the ends that the chart gives y: 1, ";
+    EXPECT_EQ(drawn["usermeta"]["notes"], json({"p: " + told + fate, "b: " + told + fate}));
+    EXPECT_EQ(drawn["data"][2]["values"][0]["low"], 5) << "bars begin where the scale does";
+  }
+}
+
+} // namespace
