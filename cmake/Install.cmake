@@ -73,5 +73,5 @@ set(CPACK_DEBIAN_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS 
-  "libxerces-c-dev, nodejs, fontconfig-config, fonts-liberation, fonts-dejavu-core, fonts-noto-cjk")
+  "libxerces-c-dev, nodejs, fontconfig, fontconfig-config, fonts-liberation, fonts-dejavu-core, fonts-noto-cjk")
 include(CPack)

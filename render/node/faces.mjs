@@ -13,7 +13,7 @@ const plain = (escaped) => escaped.replaceAll(/&[^;]+;/g, (entity) => named[enti
 const escape = (text) => text.replaceAll(/[&<>]/g, (character) => escapes[character]);
 
 /** Scripts written from right to left, whose runs would have to change places. */
-const rightToLeft = /[\p{Script=Hebrew}\p{Script=Arabic}\p{Script=Syriac}\p{Script=Thaana}]/u;
+export const rightToLeft = /[\p{Script=Hebrew}\p{Script=Arabic}\p{Script=Syriac}\p{Script=Thaana}]/u;
 const mark = /\p{M}|\p{Cf}/u;
 
 /** The family for a character, among those that the text names. */

@@ -1,6 +1,6 @@
-// Draws the charts of chart folders from their Vega text: chart.svg and chart.png beside
-// chart.vg.json. Reads from standard input, as JSON:
-//   {"folders": ["charts/0001-penguins", …], "svg": true, "png": true}
+// Draws the charts of chart folders from their Vega text: chart.svg, chart.png and
+// chart.pdf beside chart.vg.json. Reads from standard input, as JSON:
+//   {"folders": ["charts/0001-penguins", …], "svg": true, "png": true, "pdf": true}
 // Names each folder that it could not draw on standard error, and ends with status 1
 // then; a terminal there also shows how far it is, in a line that is gone at the end.
 
@@ -39,7 +39,7 @@ const anchorClippedGroups = (svg) =>
     (group) => `${group}<path d="M0,0h1v1h-1Z" fill="#000" fill-opacity="0"/>`,
   );
 
-async function draw(folder, {svg, png}) {
+async function draw(folder, {svg, png, pdf}) {
   const spec = JSON.parse(readFileSync(join(folder, 'chart.vg.json'), 'utf8'));
   // The ids in a picture count from one, whatever was drawn before it.
   resetSVGDefIds();
@@ -52,6 +52,10 @@ async function draw(folder, {svg, png}) {
     const options = {fitTo: {mode: 'zoom', value: pngScale}, font: fontsOf(named)};
     const pixels = new Resvg(named, options).render().asPng();
     writeWhole(join(folder, 'chart.png'), pngWithTexts(pixels, textsOfPicture(spec)));
+  }
+  if (pdf) {
+    const {pdfOf} = await import('./chartxml-pdf.mjs');
+    writeWhole(join(folder, 'chart.pdf'), await pdfOf(picture, textsOfPicture(spec)));
   }
 }
 

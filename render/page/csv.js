@@ -11,10 +11,9 @@ function cell(value) {
   return /[",\r\n]/.test(text) ? `"${text.replaceAll('"', '""')}"` : text;
 }
 
-/** The rows as CSV: numbers in full, categories and dates as the chart shows them. */
-export async function csvOf({spec, rows}) {
-  const {columns} = spec.usermeta;
-  const texts = await textsOf(rows, columns, spec.config);
+/** A data source as CSV: numbers in full, categories and dates as the chart shows them. */
+export async function csvOf({columns, rows}, config) {
+  const texts = await textsOf(rows, columns, config);
   const lines = rows.map((row, r) =>
     columns.map(({field, date}, c) => {
       const isNumber = typeof row[field] === 'number' && !date;

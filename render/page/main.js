@@ -5,7 +5,8 @@ import {drawChart} from './chart.js';
 import {addFilters, prepareFilters} from './filter.js';
 import {prepareLabels} from './labels.js';
 import {addSaveButtons} from './save.js';
-import {addTable} from './table.js';
+import {sourcesOf} from './sources.js';
+import {addTables} from './table.js';
 import {addWalk} from './walk.js';
 import {word} from './words.js';
 import {addZoom, prepareZoom} from './zoom.js';
@@ -15,7 +16,7 @@ const element = (id) => document.getElementById(id);
 
 async function drawPage() {
   const spec = JSON.parse(element('spec').textContent);
-  const rows = spec.data[0]?.values ?? [];
+  const sources = sourcesOf(spec);
   const filters = prepareFilters(spec);
   const zoom = prepareZoom(spec);
   prepareLabels(spec);
@@ -23,13 +24,13 @@ async function drawPage() {
   const runtime = parse(spec, null, {ast: true});
   const view = await drawChart(runtime, element('chart'), spec);
 
-  const page = {spec, rows, runtime, view, pristine, filters, zoom, actions: element('actions')};
+  const page = {spec, sources, runtime, view, pristine, filters, zoom, actions: element('actions')};
   const walk = addWalk(page, element('chart'), element('live'));
   page.changed = () => walk.renew();
   await addFilters(page, element('filters'));
   addZoom(page, element('chart'));
   addSaveButtons(page);
-  addTable(page, element('data'));
+  addTables(page, element('data'));
 }
 
 const trouble = element('trouble');

@@ -55,15 +55,25 @@ async function wholePage({pristine}) {
   return `<!doctype html>\n${page.outerHTML}`;
 }
 
-const formats = [
+const pictures = [
   {key: 'Save as^1', name: 'SVG', file: 'chart.svg', type: 'image/svg+xml', make: svg},
   {key: 'Save as^1', name: 'PNG', file: 'chart.png', type: 'image/png', make: png},
-  {key: 'Save as^1', name: 'CSV', file: 'chart.csv', type: 'text/csv', make: csvOf},
-  {key: 'Save the page', name: '', file: 'chart.html', type: 'text/html', make: wholePage},
 ];
+const itself = {key: 'Save the page', name: '', file: 'chart.html', type: 'text/html', make: wholePage};
+
+/** One for the data of each source. */
+const csvFormats = ({spec, sources}) =>
+  sources.map((source) => {
+    const isOnly = sources.length === 1;
+    return {
+      key: 'Save as^1', name: isOnly ? 'CSV' : `CSV (${source.name})`,
+      file: isOnly ? 'chart.csv' : `${source.name}.csv`, type: 'text/csv',
+      make: () => csvOf(source, spec.config),
+    };
+  });
 
 export function addSaveButtons(page) {
-  for (const {key, name, file, type, make} of formats) {
+  for (const {key, name, file, type, make} of [...pictures, ...csvFormats(page), itself]) {
     const button = document.createElement('button');
     button.textContent = word(key, name);
     button.addEventListener('click', async () => {

@@ -2,6 +2,7 @@ import {textsOf} from './texts.js';
 import {shownNumber, word} from './words.js';
 
 const rowsAtOnce = 100;
+const mostColumns = 50;
 
 function cell(kind, text, isNumber) {
   const element = document.createElement(kind);
@@ -17,10 +18,11 @@ function row(cells) {
   return element;
 }
 
+/** One data source, where `region` stands; what belongs to it follows. */
 class Table {
-  constructor({spec, rows}, details) {
-    const {columns} = spec.usermeta;
-    Object.assign(this, {config: spec.config, columns, rows, start: 0});
+  constructor({columns: all, rows}, config, region) {
+    const columns = all.slice(0, mostColumns);
+    Object.assign(this, {config, columns, rows, start: 0});
     this.isNumber = columns.map(({field}) => rows.some((datum) => typeof datum[field] === 'number'));
     this.table = document.createElement('table');
     this.table.createTHead().append(row(columns.map(({title}, i) => cell('th', title, this.isNumber[i]))));
@@ -29,9 +31,9 @@ class Table {
     this.place.setAttribute('role', 'status');
     this.before = this.button('Previous rows', -rowsAtOnce);
     this.after = this.button('Next rows', rowsAtOnce);
-    details.querySelector('.table').append(this.table);
-    details.append(this.place);
-    if (rows.length > rowsAtOnce) details.append(this.before, this.after);
+    region.append(this.table);
+    const buttons = rows.length > rowsAtOnce ? [this.before, this.after] : [];
+    region.after(...wordOnColumns(columns, all), this.place, ...buttons);
   }
 
   button(key, way) {
@@ -54,15 +56,35 @@ class Table {
   }
 }
 
-/** The rows of the first data source, a hundred at once, made when they are asked for. */
-export function addTable(page, details) {
-  if (page.spec.usermeta.columns.length === 0) {
+function wordOnColumns(shown, all) {
+  if (shown.length === all.length) return [];
+  const element = document.createElement('p');
+  element.textContent = word('Columns^2', shownNumber(shown.length), shownNumber(all.length));
+  return [element];
+}
+
+/** A region for a source among several, under its name. */
+function regionOf({name}, first, details) {
+  const heading = document.createElement('h3');
+  heading.textContent = word('Data source^1', name);
+  const region = first.cloneNode(false);
+  region.setAttribute('aria-label', heading.textContent);
+  details.append(heading, region);
+  return region;
+}
+
+/** The rows of the data sources, a hundred at once, made when they are asked for. */
+export function addTables({spec, sources}, details) {
+  if (sources.length === 0) {
     details.remove();
     return;
   }
   const open = () => {
     details.removeEventListener('toggle', open);
-    new Table(page, details).show(0);
+    const first = details.querySelector('.table');
+    const regions = sources.length === 1 ? [first] : sources.map((source) => regionOf(source, first, details));
+    if (sources.length > 1) first.remove();
+    sources.forEach((source, i) => new Table(source, spec.config, regions[i]).show(0));
   };
   details.addEventListener('toggle', open);
 }

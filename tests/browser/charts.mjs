@@ -38,6 +38,27 @@ function runProcedure(name, language) {
   });
 }
 
+const columnsOfWide = 60;
+
+/** Bars of two groups, a line of another source with an own format and value label, and many columns. */
+function writeTheme(name, template) {
+  const variable = (id, source, category, more = '') =>
+    `<variable id="${id}" sourceName="${id}" source="${source}" categorical="${category}" label="${id.toUpperCase()}">${more}</variable>`;
+  const wide = Array.from({length: columnsOfWide}, (_, i) => variable(`c${i}`, 'other', false)).join('');
+  writeChart(name, {name: template, template, language: 'en'}, `<graph name="n">
+<source id="source0"><otherAccess type="object"/></source><source id="other"><otherAccess type="object"/></source>
+${variable('x', 'source0', true)}${variable('g', 'source0', true)}${variable('y', 'source0', false)}
+${variable('when', 'other', true, '<relabel from="1" to="First"/>')}${wide}
+<frame id="outer"><label id="label_title">${template}</label><frame id="data">
+<dimension role="x"><axis><majorTicks/></axis></dimension><dimension role="y"><axis><majorTicks/></axis></dimension>
+<element type="interval" id="bars" positionModifier="dodge"><x variable="x"/><y variable="y"/><color variable="g"/></element>
+<legend id="legend"><legendTarget id="target" element="bars"/></legend></frame></frame></graph>`,
+  'x,g,y\na,p,4\na,q,3\nb,p,2\nb,q,5\n');
+  const names = ['when', ...Array.from({length: columnsOfWide}, (_, i) => `c${i}`)];
+  const row = (when) => [when, ...Array.from({length: columnsOfWide}, (_, i) => i / 8)].join();
+  writeFileSync(join(output, name, 'other.csv'), `${names.join()}\n${row(1)}\n${row(2)}\n`);
+}
+
 /** Every place that a text of the user's can come from holds one that tries to get out. */
 function writeHostile() {
   const text = escape(attack);
@@ -65,4 +86,5 @@ mkdirSync(join(output, 'procedures'));
 copyFileSync(join(root, 'procedures/penguins.f90'), join(output, 'procedures/penguins.f90'));
 writeHostile();
 writeBig();
+for (const template of ['print', 'dark', 'presentation']) writeTheme(folders[template], template);
 execFileSync(join(build, 'bin/chartxml'), ['render', output, '--svg'], {stdio: 'inherit'});

@@ -32,10 +32,10 @@ test('the gallery shows titles, pictures, descriptions and sources', () =>
 
 test('the search finds names and descriptions', () =>
   withPage(index, async (page) => {
-    assert.equal(await page.textContent('#found'), '5 of 5 charts');
+    assert.equal(await page.textContent('#found'), '8 of 8 charts');
     await page.getByLabel('Search names and descriptions').fill('  FLIPPER body');
     assert.equal(await shown(page), 1);
-    assert.equal(await page.textContent('#found'), '1 of 5 charts');
+    assert.equal(await page.textContent('#found'), '1 of 8 charts');
     await page.getByLabel('Search names and descriptions').fill('no such');
     assert.equal(await shown(page), 0);
   }));

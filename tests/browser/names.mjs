@@ -2,6 +2,7 @@
 
 export const folders = {
   penguins: '0001-penguins', dates: '0002-economics', hostile: '0100-hostile', big: '0200-big',
+  print: '0300-print', dark: '0301-dark', presentation: '0302-presentation',
 };
 export const rowsOfBig = 250_000;
 

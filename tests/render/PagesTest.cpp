@@ -37,6 +37,18 @@ TEST(ChartPage, HoldsHostileTextsAsTexts) {
               HasSubstr("<script id=\"runtime\" src=\"../runtime/chartxml-page.js\"></script>"));
 }
 
+TEST(ChartPage, SaysInTheChartsLanguageWhatNotesAre) {
+  const TestFolder folder;
+  folder.write("source0.csv", smallTable)
+      .write("manifest.json", R"({"name": "n", "template": "x", "language": "de"})")
+      .write("chart.xml", document(point));
+  render::writeChart(folder.path());
+  EXPECT_THAT(folder.read("chart.html"),
+              HasSubstr("<h2>Hinweise</h2>\n<p class=\"soft\">Was das Bild auslässt oder anders "
+                        "zeigt, als das Diagramm verlangt. Die Hinweise des Zeichnens sind "
+                        "englisch.</p>\n<ul id=\"notes\">\n<li>the template x is not known: "));
+}
+
 TEST(ChartPage, IsTheSameForTheSameChart) {
   const TestFolder folder;
   folder.write("source0.csv", smallTable).write("chart.xml", document(point));

@@ -158,14 +158,16 @@ TEST_F(Command, MakesTheSameBytesAgain) {
   const Outcome opened{0, "open /charts/index.html\n"};
   ASSERT_EQ(shell("rm charts/0001-small/chart.html && chartxml render charts"), opened);
   EXPECT_EQ(files(), sent);
-  ASSERT_EQ(chartxml("render charts/0001-small --svg --png"), opened);
+  ASSERT_EQ(chartxml("render charts/0001-small --svg --png --pdf"), opened);
   EXPECT_EQ(chartxml("verify charts"), (Outcome{0, "1 chart, 0 findings\n"}));
   auto drawn = files();
-  ASSERT_EQ(chartxml("render charts --svg --png"), opened);
+  ASSERT_EQ(chartxml("render charts --svg --png --pdf"), opened);
   EXPECT_EQ(files(), drawn);
   EXPECT_THAT(drawn.at("chart.svg"), HasSubstr("<svg"));
   EXPECT_EQ(drawn.at("chart.png").substr(1, 3), "PNG");
-  for (const char* picture : {"chart.svg", "chart.png"})
+  EXPECT_EQ(drawn.at("chart.pdf").substr(0, 5), "%PDF-");
+  EXPECT_THAT(drawn.at("chart.pdf"), testing::Not(HasSubstr("Date")));
+  for (const char* picture : {"chart.svg", "chart.png", "chart.pdf"})
     drawn.erase(picture);
   drawn["manifest.json"] = sent.at("manifest.json");
   EXPECT_EQ(drawn, sent);
@@ -227,6 +229,24 @@ TEST_F(Command, SaysThatPicturesCannotBeDrawn) {
                                                 "be drawn: EISDIR: illegal operation"));
 }
 
+TEST_F(Command, PutsTextsWithTheirFontsIntoAPdfUnlessTheyRunFromRightToLeft) {
+  const auto drawWithTitle = [&](std::string_view title) {
+    return shell(fmt::format("cp charts/0001-small/chart.xml kept; "
+                             "sed -i 's|</graph>|<frame><label id=\"title\">{}</label></frame>&|' "
+                             "charts/0001-small/chart.xml; chartxml render charts --pdf; "
+                             "status=$?; mv kept charts/0001-small/chart.xml; (exit $status)",
+                             title));
+  };
+  EXPECT_EQ(drawWithTitle("年 a").status, 0);
+  const std::string pdf = scratch.read("charts/0001-small/chart.pdf");
+  EXPECT_THAT(pdf, HasSubstr("+LiberationSans-Bold\n"));
+  EXPECT_THAT(pdf, HasSubstr("+NotoSansCJKjp-Bold\n"));
+  EXPECT_EQ(drawWithTitle("שלום"),
+            (Outcome{1, "chartxml: charts/0001-small: the picture cannot be drawn: texts written "
+                        "from right to left cannot be put into a PDF\n"
+                        "chartxml: not all pictures could be drawn\nopen /charts/index.html\n"}));
+}
+
 TEST_F(Command, MakesTheGalleryAnew) {
   ASSERT_EQ(shell("rm -r charts/index.html charts/runtime; chartxml gallery charts"),
             (Outcome{0, ""}));
@@ -243,7 +263,7 @@ TEST_F(Command, IsCompletedByTheShellWithItsOwnVerbsAndOptions) {
         .text;
   };
   EXPECT_EQ(completed("chartxml v", 1), "validate verify\n");
-  EXPECT_EQ(completed("chartxml render --", 2), "--help --svg --png --theme --node\n");
+  EXPECT_EQ(completed("chartxml render --", 2), "--help --svg --png --pdf --theme --node\n");
   EXPECT_EQ(completed("chartxml render charts --theme pr", 4), "print presentation\n");
   EXPECT_EQ(completed("chartxml verify charts/0", 2), "charts/0001-small\n");
   EXPECT_EQ(completed("chartxml render charts --node charts/0001-small/s", 4),

@@ -88,7 +88,7 @@ bool drawPictures(const std::vector<std::filesystem::path>& folders,
     throw std::runtime_error(fmt::format("pictures need {}, which is not there: it is built when "
                                          "the packages of package.json are installed (npm ci)",
                                          script.native()));
-  nlohmann::json request{{"svg", options.svg}, {"png", options.png}};
+  nlohmann::json request{{"svg", options.svg}, {"png", options.png}, {"pdf", options.pdf}};
   for (const std::filesystem::path& folder : folders)
     request["folders"].push_back(folder.native());
 

@@ -52,7 +52,8 @@ void listMade(const fs::path& chart, const std::vector<std::string>& errors,
   const std::pair<const char*, bool> made[] = {{"chart.html", true},
                                                {"chart.vg.json", errors.empty()},
                                                {"chart.svg", options.svg},
-                                               {"chart.png", options.png}};
+                                               {"chart.png", options.png},
+                                               {"chart.pdf", options.pdf}};
   for (const auto& [name, isMade] : made)
     if (isMade && fs::is_regular_file(chart / name))
       listed.files[name] = host::hashOf(chart / name);
@@ -79,7 +80,7 @@ Status render(const Arguments& folders, const PictureOptions& options) {
     }
   }
   bool allDrawn = drawn.size() == charts.size();
-  if ((options.svg || options.png) && !drawPictures(drawn, options)) {
+  if (options.any() && !drawPictures(drawn, options)) {
     std::cerr << "chartxml: not all pictures could be drawn\n";
     allDrawn = false;
   }

@@ -79,6 +79,7 @@ private:
     takeFolders(verb, "Chart folders, or output folders that hold some");
     verb.add_flag("--svg", pictures_.svg, "Draw chart.svg");
     verb.add_flag("--png", pictures_.png, "Draw chart.png");
+    verb.add_flag("--pdf", pictures_.pdf, "Draw chart.pdf");
     verb.add_option("--theme", pictures_.theme,
                     "Draw in this theme, whatever the charts' templates say")
         ->check(CLI::IsMember(render::themes()));

@@ -67,22 +67,28 @@ void addTitles(Json& spec, Json& plot, const Parts& parts, const theme::Theme& t
         {"lineHeight", theme::footnoteSize + 5}};
 }
 
-/// The columns of the first data source, for the page's table.
+Json tableColumn(const Variable& variable) {
+  Json column{{"field", variable.id}, {"title", variable.title}};
+  for (const Category& category : variable.categories)
+    if (category.label != category.key) column["labels"][category.key] = category.label;
+  const std::string value = datum(variable.id);
+  if (!variable.categorical)
+    column["text"] = textOf(variable, value);
+  else if (!std::holds_alternative<std::monostate>(variable.format))
+    column["text"] = valueText(variable.format, fmt::format("toNumber({})", value));
+  if (std::holds_alternative<DateFormat>(variable.format)) column["date"] = true;
+  return column;
+}
+
+/// The columns of all data sources, for the page's tables. Those of another source than the
+/// first name it.
 Json tableColumns(const std::vector<Excerpt>& excerpts) {
   Json columns = Json::array();
-  if (excerpts.empty()) return columns;
-  for (const Variable* variable : excerpts.front().variables) {
-    Json column{{"field", variable->id}, {"title", variable->title}};
-    for (const Category& category : variable->categories)
-      if (category.label != category.key) column["labels"][category.key] = category.label;
-    const std::string value = datum(variable->id);
-    if (!variable->categorical)
-      column["text"] = textOf(*variable, value);
-    else if (!std::holds_alternative<std::monostate>(variable->format))
-      column["text"] = valueText(variable->format, fmt::format("toNumber({})", value));
-    if (std::holds_alternative<DateFormat>(variable->format)) column["date"] = true;
-    columns.push_back(std::move(column));
-  }
+  for (const Excerpt& excerpt : excerpts)
+    for (const Variable* variable : excerpt.variables) {
+      columns.push_back(tableColumn(*variable));
+      if (&excerpt != &excerpts.front()) columns.back()["source"] = excerpt.source;
+    }
   return columns;
 }
 

@@ -21,7 +21,8 @@ std::string header(const Manifest& manifest, const Words& words) {
 
 std::string noteList(const Json& notes, const Words& words) {
   if (notes.empty()) return {};
-  std::string html = fmt::format("<h2>{}</h2>\n<ul id=\"notes\">\n", escapeHtml(words("Notes")));
+  std::string html = fmt::format("<h2>{}</h2>\n<p class=\"soft\">{}</p>\n<ul id=\"notes\">\n",
+                                 escapeHtml(words("Notes")), escapeHtml(words("About notes")));
   for (const Json& note : notes)
     html += fmt::format("<li>{}</li>\n", escapeHtml(note.get_ref<const std::string&>()));
   return html + "</ul>\n";

@@ -18,6 +18,7 @@ body { margin: 0 auto; max-width: 72rem; padding: 1rem 1.5rem 3rem; color: var(-
 a { color: var(--link); }
 h1 { font-size: 1.4rem; margin: .5rem 0 1rem; }
 h2 { font-size: 1.1rem; margin: 1.5rem 0 .5rem; }
+h3 { font-size: 1rem; margin: 1rem 0 .25rem; }
 figure { margin: 0; }
 figcaption, .soft { color: var(--soft); }
 .plot { position: relative; }
