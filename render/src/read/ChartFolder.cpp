@@ -47,6 +47,9 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
     manifest.splitHeader = json.value("splitHeader", "");
     manifest.language = json.value("language", manifest.language);
     manifest.chartTemplate = json.value("template", "");
+    if (json.contains("icicle"))
+      manifest.icicle = {.lies = json["icicle"].value("orientation", "") == "horizontal",
+                         .bars = json["icicle"].value("rows", std::size_t{0})};
     const host::NumberSymbols& usual = host::numberSymbols(manifest.language);
     const nlohmann::json signs = json.value("numberSigns", nlohmann::json::object());
     manifest.signs = {.decimal = signs.value("decimal", usual.decimal),

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 
 #include "read/Document.h"
@@ -15,6 +16,12 @@ struct NumberSigns {
   std::string grouping = ",";
 };
 
+/// An icicle plot: which way its bars hang, and how many there are.
+struct Icicle {
+  bool lies = false; ///< the cases stand below each other, not side by side
+  std::size_t bars = 0;
+};
+
 /// What a chart's manifest says that its document does not.
 struct Manifest {
   std::string name;
@@ -22,6 +29,7 @@ struct Manifest {
   std::string splitHeader{};
   std::string language = "en";
   std::string chartTemplate{}; ///< names the theme that it is drawn in
+  std::optional<Icicle> icicle{};
   NumberSigns signs{};         ///< those of the language, unless the manifest has its own
 
   /// Reads manifest.json of a chart folder; a folder without one has a manifest

@@ -116,6 +116,8 @@ void noteMissingRows(const Chart& chart, Notes& notes) {
 }
 
 void readCoordinates(Chart& chart, Notes& notes) {
+  const std::optional<Icicle>& icicle = chart.folder->manifest.icicle;
+  chart.isTransposed = icicle && icicle->lies;
   for (const Node& node : chart.plot->children) {
     if (node.kind != "coordinateTransform") continue;
     chart.isTransposed = chart.isTransposed || node.attribute("method") == "transpose";

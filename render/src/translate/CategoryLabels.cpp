@@ -1,6 +1,7 @@
 #include "translate/CategoryLabels.h"
 
 #include <algorithm>
+#include <functional>
 #include <variant>
 
 #include <fmt/format.h>
@@ -20,12 +21,16 @@ constexpr std::size_t mostLines = 3;
 struct LabelLayout {
   int width; ///< of a label, in pixels
   std::size_t lines;
-  bool slanted = false;
+  int angle = 0;
 
   WrapLimits limits() const {
     return {.width = width, .fontSize = theme::labelSize, .lines = lines};
   }
 };
+
+bool isBlank(const Category& category) {
+  return category.expression.empty() && category.label.find_first_not_of(' ') == std::string::npos;
+}
 
 /// How many lines fit into the room of a category.
 std::size_t linesIn(double room) {
@@ -40,7 +45,8 @@ bool fits(const Category& category, const LabelLayout& layout, double widthOfCom
 LabelLayout layoutOf(const Dimension& dimension, const Context& context) {
   constexpr int gap = 10;
   constexpr double slant = 1.42; // lines at 45 degrees lie that much farther apart
-  const double count = std::max(1.0, static_cast<double>(dimension.categories.size()));
+  const auto labelled = std::ranges::count_if(dimension.categories, std::not_fn(isBlank));
+  const double count = std::max(1.0, static_cast<double>(labelled));
   if (!isAcross(dimension.role, context.chart))
     return {.width = theme::legendWidth, .lines = linesIn(context.layout.panelHeight / count)};
 
@@ -54,7 +60,18 @@ LabelLayout layoutOf(const Dimension& dimension, const Context& context) {
     return fits(category, upright, widthOfComputed);
   });
   if (allFit) return upright;
-  return {.width = theme::legendWidth, .lines = linesIn(room / slant), .slanted = true};
+  // Where not even one line fits at 45 degrees, labels go straight up.
+  if (room < slant * lineHeight && room >= lineHeight)
+    return {.width = theme::legendWidth, .lines = 1, .angle = -90};
+  return {.width = theme::legendWidth, .lines = linesIn(room / slant), .angle = -45};
+}
+
+/// A category whose label is blank has no tick.
+void leaveOutBlanks(Json& axis, const Dimension& dimension) {
+  if (std::ranges::none_of(dimension.categories, isBlank)) return;
+  axis["values"] = Json::array();
+  for (const Category& category : dimension.categories)
+    if (!isBlank(category)) axis["values"].push_back(category.key);
 }
 
 /// Vega puts the first line beside the tick, not the middle of the lines.
@@ -82,8 +99,9 @@ void labelCategories(Json& axis, const Dimension& dimension, Context& context) {
   axis["encode"]["labels"]["update"]["text"] = {{"scale", labels}, {"field", "value"}};
   axis["labelLimit"] = 0;
   if (!across) axis["encode"]["labels"]["update"]["dy"] = middleOf(labels);
-  if (!layout.slanted) return;
-  axis["labelAngle"] = -45;
+  leaveOutBlanks(axis, dimension);
+  if (layout.angle == 0) return;
+  axis["labelAngle"] = layout.angle;
   axis["labelAlign"] = "right";
   axis["labelBaseline"] = "middle";
 }

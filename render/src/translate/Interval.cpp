@@ -70,7 +70,8 @@ Json sectorMark(const Element& element, Context& context) {
 
 Json barMark(const Element& element, Context& context) {
   Json update = Json::object();
-  addBarWidth(update, element, theme::barBand, context);
+  // The bars of an icicle plot touch each other.
+  addBarWidth(update, element, context.chart.folder->manifest.icicle ? 1 : theme::barBand, context);
   addMeasure(update, element, context);
   update["fill"] = filling(element, context);
   update["fillOpacity"] = {{"value", theme::barOpacity}};

@@ -81,6 +81,17 @@ double aspectOf(const Chart& chart, Notes& notes) {
   return 0;
 }
 
+/// The side along which the bars of an icicle plot stand has room for a label at every
+/// second one.
+void makeRoomForIcicles(Layout& layout, const Chart& chart) {
+  constexpr double least = 8; // of a bar
+  constexpr std::size_t most = 1000;
+  const std::optional<Icicle>& icicle = chart.folder->manifest.icicle;
+  if (!icicle || chart.facets.isSplit()) return;
+  double& side = chart.isTransposed ? layout.panelHeight : layout.panelWidth;
+  side = std::max(side, least * static_cast<double>(std::min(icicle->bars, most)));
+}
+
 double sum(const std::vector<double>& values) {
   return std::accumulate(values.begin(), values.end(), 0.0);
 }
@@ -114,8 +125,9 @@ Layout Layout::of(const Chart& chart, Notes& notes) {
                 .panelHeight = height,
                 .left = placesOf(across, width),
                 .top = placesOf(down, height)};
-  layout.width = layout.left.back() + width;
-  layout.height = layout.top.back() + height;
+  makeRoomForIcicles(layout, chart);
+  layout.width = layout.left.back() + layout.panelWidth;
+  layout.height = layout.top.back() + layout.panelHeight;
   return layout;
 }
 
