@@ -1,4 +1,4 @@
-// How long a browser takes from opening a file to the frame that shows its picture.
+// How long a browser takes from opening a file to the frame that shows all of its picture.
 
 import {pathToFileURL} from 'node:url';
 import {chromium} from 'playwright-core';
@@ -7,12 +7,13 @@ import {median} from './measure.mjs';
 const patience = 60_000;
 const flags = ['--no-sandbox', '--disable-gpu', '--no-first-run', '--disable-background-networking'];
 
-/** Runs in the page before anything else: notes the frame after the first marks are there. */
+/** Runs in the page before anything else: notes the frame after file and marks are there. */
 function watch() {
   const look = () => {
-    if (!document.querySelector('svg path, svg use, path, use')) return requestAnimationFrame(look);
+    const isThere = document.readyState === 'complete' && document.querySelector('path, use');
+    if (!isThere) return requestAnimationFrame(look);
     requestAnimationFrame(() => requestAnimationFrame(() => {
-      globalThis.firstPicture = performance.now();
+      globalThis.wholePicture = performance.now();
     }));
   };
   requestAnimationFrame(look);
@@ -22,10 +23,10 @@ async function open(browser, file) {
   const page = await browser.newPage({viewport: {width: 1200, height: 900}});
   try {
     await page.addInitScript(watch);
-    await page.goto(pathToFileURL(file).href, {timeout: patience});
+    await page.goto(pathToFileURL(file).href, {timeout: patience, waitUntil: 'commit'});
     const end = Date.now() + patience;
     while (Date.now() < end) {
-      const seconds = await page.evaluate('globalThis.firstPicture');
+      const seconds = await page.evaluate('globalThis.wholePicture');
       if (seconds !== undefined) return seconds / 1000;
       await page.waitForTimeout(5);
     }
@@ -38,11 +39,15 @@ async function open(browser, file) {
   }
 }
 
-/** Least and median seconds to the first picture of each file; each in a browser of its own. */
-export async function firstPictures(files, runs) {
+/**
+ * Least and median seconds to the whole picture of each file, each in a browser of its own.
+ * A file that takes longer than a minute is tried once.
+ */
+export async function wholePictures(files, runs) {
   const results = files.map(() => []);
   for (let run = 0; run < runs; ++run)
     for (const [i, file] of files.entries()) {
+      if (results[i].includes(Infinity)) continue;
       process.stderr.write(`browser, run ${run + 1} of ${runs}: ${file}\n`);
       const browser = await chromium.launch({executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium', args: flags});
       results[i].push(await open(browser, file));

@@ -38,9 +38,9 @@ export function race(what, contenders, runs) {
 
 const digits = (value, count) => value.toLocaleString('en', {maximumSignificantDigits: count, useGrouping: false});
 
-/** Three digits of a number; a text as it is. */
-export const short = (value) =>
-  typeof value !== 'number' ? value : value >= 1000 ? Math.round(value).toString() : digits(value, 3);
+/** Three digits of a number; a text as it is, and what never came as none. */
+const short = (value) =>
+  typeof value !== 'number' ? value : value === Infinity ? '-' : value >= 1000 ? Math.round(value).toString() : digits(value, 3);
 
 export function printTable(title, head, rows) {
   const line = (cells) => `| ${cells.join(' | ')} |`;

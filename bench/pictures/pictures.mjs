@@ -1,12 +1,12 @@
 // The chart of procedure penguins, drawn from its data by us and by other programs: how
-// long it takes, how large it is, and when a browser shows it. Tables go to standard
+// long it takes, how large it is, and when a browser shows it whole. Tables go to standard
 // output, progress to standard error.
 //
 // usage: node pictures.mjs <build folder> <folder to work in> [runs]
 import {cpSync, mkdirSync, rmSync, statSync} from 'node:fs';
 import {cpus} from 'node:os';
 import {join, resolve} from 'node:path';
-import {firstPictures} from './browser.mjs';
+import {wholePictures} from './browser.mjs';
 import {writePenguins} from './penguins.mjs';
 import {printTable, race} from './measure.mjs';
 
@@ -60,12 +60,12 @@ async function fromDataToPicture() {
     rowsOf(rows, results, 0).forEach((row, i) => table.push([...row, size(...results[i].files)]));
     if (rows === sizes[0]) continue;
     const pictures = results.filter(({name}) => name !== 'chartxml, SVG');
-    const seconds = await firstPictures(pictures.map(({files}) => files[0]), runs);
+    const seconds = await wholePictures(pictures.map(({files}) => files[0]), runs);
     pictures.forEach(({name, files}, i) =>
       shown.push([rows, name, size(...files), seconds[i].least, seconds[i].wall, seconds[i].wall / seconds[0].wall]));
   }
   printTable('From a data file to a page or an SVG', [...head, 'kB'], table);
-  printTable('From opening the file to the first picture in Chromium',
+  printTable('From opening the file to the whole picture in Chromium',
     ['rows', 'program', 'kB', 'least s', 'median s', 'ratio'], shown);
 }
 

@@ -87,6 +87,11 @@ summaries <- list(mean = mean, median = median, standardDeviation = sd, sum = su
 for (name in names(summaries)) add(paste0("documents/", name), "e", by_groups(penguins, "species", function(d)
   data.frame(value = summaries[[name]](rep(d$bill_depth_mm, d$flipper_length_mm)))))
 
+drugs <- read("sleep")
+add("sleep/0001-sleep", "element_differenceline_1",
+    data.frame(variable6 = as.character(drugs$patient), low = pmin(drugs$drug_1, drugs$drug_2),
+               high = pmax(drugs$drug_1, drugs$drug_2)))
+
 # Hexagons, 20 across: their middles and how many rows they hold.
 cells <- hexbin::hexbin(flipper, mass, xbins = 20, shape = 1)
 middles <- hexbin::hcell2xy(cells)

@@ -10,7 +10,7 @@ read_chart <- function(folder) {
     labels <- vapply(column$categories, `[[`, "", "label")
     texts <- ifelse(values %in% from, labels[match(values, from)], as.character(values))
     # Numbers stand in their own order, texts in that of the alphabet.
-    factor(texts, levels = if (is.numeric(values)) labels else sort(unique(texts)))
+    factor(texts, levels = if (is.numeric(values)) unique(texts[order(values)]) else sort(unique(texts)))
   }
   columns <- lapply(source$columns, relabelled)
   named <- vapply(source$columns, function(column)

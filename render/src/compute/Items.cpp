@@ -68,15 +68,26 @@ void addRange(const Element& element, std::size_t row, std::vector<Item>& items)
   items.push_back(measured(itemAt(element, row, placeOf(element.place(), row)), low, high));
 }
 
-std::vector<Item> itemOfEachRow(const Element& element, const Rows& rows) {
+/// Whether a mark reaches from the lowest of a row's values to the highest.
+bool isRangeOfRow(const Element& element) {
   const bool hasOnePlace = element.place() == nullptr || element.place()->members.empty();
-  const bool isRange =
-      hasOnePlace && element.measure() != nullptr && !element.measure()->members.empty() &&
-      (element.hasBase || (element.summary != nullptr && element.summary->name == "range"));
+  return hasOnePlace && element.measure() != nullptr && !element.measure()->members.empty() &&
+         (element.hasBase || (element.summary != nullptr && element.summary->name == "range"));
+}
+
+std::vector<Item> itemOfEachRow(const Element& element, const Rows& rows) {
+  const bool isRange = isRangeOfRow(element);
   std::vector<Item> items;
+  items.reserve(rows.size());
   for (const std::size_t row : rows)
     isRange ? addRange(element, row, items) : addPoints(element, row, items);
   return items;
+}
+
+/// Whether marks reach from one value to another; others reach from their base.
+bool isRange(const Element& element) {
+  if (element.method == Method::none) return isRangeOfRow(element);
+  return element.method == Method::summary && element.summary->name == "range";
 }
 
 Sample sampleOf(const Element& element, const Rows& rows) {
@@ -215,7 +226,7 @@ std::vector<Item> itemsOf(const Element& element, const Rows& rows, const Bins* 
   std::vector<Item> items;
   if (!drawn.empty()) items = made(element, drawn, bins);
 
-  if (element.hasBase)
+  if (element.hasBase && !isRange(element))
     for (Item& item : items)
       if (item.low == item.high && item.part == BoxPart::none) item.low = 0;
   if (isStack(element.modifier)) stack(element, items);

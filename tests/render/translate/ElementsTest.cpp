@@ -189,11 +189,15 @@ TEST_F(ElementsTest, AVariableOfSeveralOthersIsARange) {
   const std::string range = R"(<x variable="v3"/><y variable="r"/>)";
   constexpr std::string_view variable =
       R"(<variable id="r" expression="v1 + v2" categorical="false"/>)";
-  constexpr std::string_view table = "A,B,Group\n4,2,a\n1,3,b\n,5,b\n";
+  constexpr std::string_view table = "A,B,Group\n4,2,a\n1,3,b\n,5,b\n6,6,a\n";
   EXPECT_EQ(drawn(element("interval", range), table, {"v3", "low", "high"}, variable),
-            json::parse(R"([["a",2,4],["b",1,3],["b",0,5]])"));
-  EXPECT_EQ(drawn(element("point", range), table, {"v3", "high", "member"}, variable),
-            json::parse(R"([["a",4,0],["a",2,1],["b",1,0],["b",3,1],["b",5,1]])"));
+            json::parse(R"([["a",2,4],["b",1,3],["b",5,5],["a",6,6]])"));
+  EXPECT_EQ(
+      drawn(element("point", range), table, {"v3", "high", "member"}, variable),
+      json::parse(R"([["a",4,0],["a",2,1],["b",1,0],["b",3,1],["b",5,1],["a",6,0],["a",6,1]])"));
+  EXPECT_EQ(drawn(element("interval", std::string(placed) + statistic("range")),
+                  "A,B,Group\n1,4,a\n2,7,a\n3,5,b\n4,5,b\n", {"v3", "low", "high"}),
+            json::parse(R"([["a",4,7],["b",5,5]])"));
 }
 
 TEST_F(ElementsTest, CategoriesAlongYMakeBarsLieAcross) {
