@@ -1,7 +1,10 @@
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <vector>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "compute/Sample.h"
 #include "text/Expression.h"
@@ -37,10 +40,10 @@ std::string textOf(const Element& element, const Variable& variable, Context& co
 
 /// One line for each labeling.
 std::string linesOf(const Element& element, Context& context) {
-  std::string lines;
+  std::vector<std::string> lines;
   for (const Variable* variable : element.labels)
-    lines += (lines.empty() ? "" : ",") + textOf(element, *variable, context);
-  return element.labels.size() == 1 ? lines : fmt::format("[{}]", lines);
+    lines.push_back(textOf(element, *variable, context));
+  return lines.size() == 1 ? lines.front() : fmt::format("[{}]", fmt::join(lines, ","));
 }
 
 /// An expression for a letter color that can be read on a color.
