@@ -30,7 +30,7 @@ struct Manifest {
   std::string language = "en";
   std::string chartTemplate{}; ///< names the theme that it is drawn in
   std::optional<Icicle> icicle{};
-  NumberSigns signs{};         ///< those of the language, unless the manifest has its own
+  NumberSigns signs{}; ///< those of the language, unless the manifest has its own
 
   /// Reads manifest.json of a chart folder; a folder without one has a manifest
   /// that names the folder. Throws RenderError.

@@ -37,12 +37,27 @@ Json lineMark(const Element& element, Context& context) {
           {"encode", {{"update", std::move(update)}}}};
 }
 
+/// Items are in the order of their categories, rows are not.
+void sortByCategory(const Element& element, Json& data, const Context& context) {
+  std::string keys;
+  for (const Category& category : context.along(placeRole(element)).categories)
+    keys += fmt::format("{}{}", keys.empty() ? "" : ",", literal(category.key));
+  data["transform"].push_back(
+      {{"type", "formula"},
+       {"expr", fmt::format("indexof([{}],{})", keys, datum(element.place()->id))},
+       {"as", "order"}});
+  data["transform"].push_back({{"type", "collect"}, {"sort", {{"field", "order"}}}});
+}
+
 /// A line goes along its place; a path as its rows do.
-void sort(const Element& element, Json& data) {
+void sort(const Element& element, Json& data, const Context& context) {
   const bool isPath = element.type() != "line";
   const Variable* place = element.place();
   if (isPath || place == nullptr) return;
-  if (!element.isPlain() && place->categorical) return; // in its order already
+  if (place->categorical) {
+    if (element.isPlain()) sortByCategory(element, data, context);
+    return;
+  }
   const std::string field = element.isPlain() ? fieldPath(place->id) : "place";
   data["transform"].push_back({{"type", "collect"}, {"sort", {{"field", field}}}});
 }
@@ -55,7 +70,7 @@ void translateLine(const Node& node, Context& context) {
   if (element == nullptr) return;
   if (lookOf(node) == Look::hidden) return addLabelsAlone(*element, context);
   Json data = elementData(*element, context);
-  sort(*element, data);
+  sort(*element, data, context);
   context.parts.data.push_back(std::move(data));
   addMark(*element, lineMark(*element, context), true, context);
   addLabels(*element, context);

@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "resolve/ScaleMethod.h"
 #include "resolve/Ticks.h"
 #include "text/Expression.h"
 #include "translate/Groups.h"
@@ -73,11 +74,16 @@ Json textOf(const Dimension& dimension, double value) {
   return {{"signal", valueText(dimension.format(), literal(value))}};
 }
 
+/// How far from the middle a value lies, 1 at the end of the scale.
+double shareOf(double value, const Dimension& dimension) {
+  const double low = scaled(dimension.low, dimension);
+  return (scaled(value, dimension) - low) / (scaled(dimension.high, dimension) - low);
+}
+
 void addCircles(const Dimension& dimension, Context& context) {
   if (dimension.categorical) return;
   for (const double value : ticksWithin(dimension.low, dimension.high, circles).values) {
-    const double share = (value - dimension.low) / (dimension.high - dimension.low);
-    const double radius = share * radiusOf(context);
+    const double radius = shareOf(value, dimension) * radiusOf(context);
     if (radius > 0) addCircle(radius, context);
     context.parts.marks.push_back(textMark(context.layout.panelWidth / 2 + 4,
                                            context.layout.panelHeight / 2 - radius,

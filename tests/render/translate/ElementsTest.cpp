@@ -247,6 +247,53 @@ TEST_F(ElementsTest, OfAHiddenElementTheLabelsAreDrawnAtItsPlaces) {
   }
 }
 
+TEST_F(ElementsTest, ALineOfRowsGoesThroughCategoriesInTheirOrder) {
+  drawn(element("line", placed), "A,B,Group\n1,10,10\n1,30,9\n", {});
+  EXPECT_EQ(spec_["data"][1]["transform"].back()["sort"]["field"], "order");
+  EXPECT_EQ(spec_["data"][1]["transform"][1],
+            json::parse(R"json({"type":"formula","as":"order",
+                            "expr":"indexof([\"9\",\"10\"],datum[\"v3\"])"
+})json");
+}
+
+TEST_F(ElementsTest, TheBarsOfAnIciclePlotTouchAndHaveRoomForALabelAtEverySecond) {
+  constexpr std::string_view blank =
+      R"(<variable id="v5" sourceName="Group" source="source0" categorical="true">
+      <relabel from="b" to=" "/></variable>)";
+  const std::string plot = R"(<dimension role="x"><axis id="a"><majorTicks/></axis></dimension>)" +
+                           element("interval", R"(<x variable="v5"/><y variable="v2"/>)");
+  struct Case {
+    const char* orientation;
+    const char* length;
+    json size;
+  };
+  const Case cases[] = {{"vertical", "width", {1600, 480}}, {"horizontal", "height", {720, 1600}}};
+  for (const auto& [orientation, length, size] : cases) {
+    folder_.write("manifest.json",
+                  fmt::format(R"({{"icicle":{{"orientation":"{}","rows":200}}}})", orientation));
+    const json drawn = spec(plot, parts, blank);
+    EXPECT_EQ(json({drawn["width"], drawn["height"]}), size);
+    const json& group = drawn["marks"][0];
+    EXPECT_EQ(group["marks"][0]["encode"]["update"][length],
+              json::parse(R"({"scale":"x","band":1.0})"));
+    EXPECT_EQ(group["axes"][0]["values"], json({"a"})) << "a blank label has no tick";
+  }
+}
+
+TEST_F(ElementsTest, CirclesLieWhereTheScaleHasTheirValues) {
+  drawn(R"(<coordinateTransform method="polar"/><dimension role="y" upperMargin="0%">
+        <scale method="power"><parameter name="exponent" value="0.5"/></scale>
+        <axis id="a"><majorTicks/></axis></dimension>)" +
+            element("interval", placed),
+        "A,B,Group\n1,100,a\n1,30,b\n", {});
+  std::vector<std::string> circles;
+  for (const json& mark : spec_["marks"][0]["marks"])
+    if (const json& update = mark["encode"]["update"]; update.contains("path"))
+      circles.push_back(update["path"]["value"].get<std::string>().substr(0, 8));
+  EXPECT_THAT(circles,
+              testing::ElementsAre("M107.331", "M151.789", "M185.903", "M214.663", "M240,0A2"));
+}
+
 TEST_F(ElementsTest, PiecesOfAPieAndBarsInPolarCoordinatesAreSectors) {
   constexpr std::string_view polar = R"(<coordinateTransform method="polar"/>)";
   const std::string pie = fmt::format(R"(<theta variable="v2"/>{}{})", statistic("sum"), grouped);

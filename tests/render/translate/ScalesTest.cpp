@@ -83,6 +83,19 @@ TEST_F(ScalesTest, ALabelOfANumberStandsInItsPlaceAtTicksInTooltipsAndInTheTable
   EXPECT_THAT(tooltip, testing::HasSubstr(textOf(datum, otherwise)));
 }
 
+TEST_F(ScalesTest, LabelsOfManyCategoriesGoStraightUpWhereTheyFitSo) {
+  const std::pair<int, json> angleOfCount[] = {{20, -45}, {40, -90}, {60, -45}};
+  for (const auto& [count, angle] : angleOfCount) {
+    std::string table = "A,B,Group\n";
+    for (int i = 0; i < count; ++i)
+      table += fmt::format("1,1,a category with a long name {}\n", i);
+    drawn("x", "", "",
+          R"(<element type="point" id="e"><x variable="v3"/><y variable="v2"/></element>)", "",
+          table);
+    EXPECT_EQ(spec_["marks"][0]["axes"][0]["labelAngle"], angle) << count;
+  }
+}
+
 TEST_F(ScalesTest, ASafeLogarithmGoesThroughZeroAndAnUnsafeOneLeavesValuesOut) {
   constexpr std::string_view table = "A,B,Group\n-10,1,a\n0,2,a\n1000,3,a\n";
   const json through = drawn(
