@@ -28,8 +28,8 @@ void noteTemplate(const Manifest& manifest, Notes& notes) {
 
 //   read        chart.xml, CSV, manifest      -> ChartFolder
 //   resolve     references, extents, groups   -> Chart
-//   translate   one translator a node kind    -> Parts
 //   thin        rows and columns that are drawn -> Excerpts
+//   translate   one translator a node kind    -> Parts
 //   assemble    one Vega chart                -> JSON
 Json specification(const ChartFolder& folder, const Words& words) {
   Notes notes;
@@ -37,8 +37,12 @@ Json specification(const ChartFolder& folder, const Words& words) {
   Chart chart = resolve(folder, notes);
   const Layout layout = Layout::of(chart, notes);
   makeUnitsEqual(chart, layout, notes);
+  const std::vector<Excerpt> excerpts = excerptsOf(chart);
+  for (const Excerpt& excerpt : excerpts)
+    if (excerpt.isThinned())
+      chart.drawnRows[excerpt.source].insert(excerpt.rows.begin(), excerpt.rows.end());
   Parts parts = translate(chart, layout, notes);
-  return assemble(chart, layout, std::move(parts), excerptsOf(chart), words, notes);
+  return assemble(chart, layout, std::move(parts), excerpts, words, notes);
 }
 
 /// The gallery page, with its list made by one of the writers and the shared scripts.

@@ -138,6 +138,12 @@ const Format& Dimension::format() const {
   return none;
 }
 
+bool Chart::draws(const Element& element, const Item& item) const {
+  const bool isOfRow = element.method == Method::none && !isStack(element.modifier);
+  const auto rows = drawnRows.find(sourceOf(element));
+  return !isOfRow || rows == drawnRows.end() || rows->second.contains(item.row);
+}
+
 const Element* Chart::find(const Node& node) const {
   const auto found = std::ranges::find(elements, &node, &Element::node);
   return found == elements.end() ? nullptr : &*found;
@@ -150,10 +156,15 @@ const Variable* Chart::variableOf(const Node& aesthetic) const {
 
 const Node* Chart::dimensionNode(std::string_view role) const {
   if (plot == nullptr) return nullptr;
-  const auto found = std::ranges::find_if(plot->children, [role](const Node& child) {
-    return child.kind == "dimension" && child.attribute("role") == role;
-  });
-  return found == plot->children.end() ? nullptr : &*found;
+  const auto find = [this](std::string_view name) {
+    const auto found = std::ranges::find_if(plot->children, [name](const Node& child) {
+      return child.kind == "dimension" && child.attribute("role") == name;
+    });
+    return found == plot->children.end() ? nullptr : &*found;
+  };
+  const Node* node = find(role);
+  if (node != nullptr || !isPolar || role == "z") return node;
+  return find(role == "x" ? "theta" : "r");
 }
 
 Chart resolve(const ChartFolder& folder, Notes& notes) {

@@ -6,6 +6,7 @@
 #include <map>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "read/ChartFolder.h"
@@ -68,7 +69,11 @@ struct Chart {
   const Node* space = nullptr;        ///< tells how a box of three dimensions is seen; or null
   Facets facets{};
   std::vector<Panel> panels{}; ///< at least one
+  /// Of sources with too many rows those that are drawn one by one.
+  std::unordered_map<std::string_view, std::unordered_set<std::size_t>> drawnRows{};
 
+  /// Whether an item that stands for one row of its own is drawn.
+  bool draws(const Element& element, const Item& item) const;
   /// The element of a node, or null when it cannot be drawn.
   const Element* find(const Node& node) const;
   /// The variable that a node names, or null.

@@ -16,22 +16,40 @@ namespace {
 /// Domains may refer to each other in a circle.
 constexpr int deepestReference = 10;
 
-/// The end of an interval; a text that is no number leaves it to the data.
-void widen(std::optional<double>& end, std::string_view text, bool isLower) {
+/// One end of a domain.
+struct End {
+  std::optional<double>& value;
+  bool& isExact;
+  bool& isNice;
+  bool isLower;
+};
+
+/// A number fixes the end; a word tells how the data do.
+void widen(const End& end, std::string_view text, const Node& interval, Notes& notes) {
   const double value = numberOf(text);
-  if (std::isnan(value)) return;
-  if (!end)
-    end = value;
+  end.isExact = end.isExact || text == "exact";
+  end.isNice = end.isNice || text == "nice";
+  if (std::isnan(value)) {
+    const bool isKnown = text.empty() || text == "auto" || text == "exact" || text == "nice";
+    if (!isKnown)
+      notes.add(fmt::format("{}: {}=\"{}\" is not drawn", interval.name(),
+                            end.isLower ? "min" : "max", shown(text)));
+    return;
+  }
+  if (!end.value)
+    end.value = value;
   else
-    end = isLower ? std::min(*end, value) : std::max(*end, value);
+    end.value = end.isLower ? std::min(*end.value, value) : std::max(*end.value, value);
 }
 
-void collect(const Node& node, Domain& domain, const Chart& chart, int depth) {
+void collect(const Node& node, Domain& domain, const Chart& chart, int depth, Notes& notes) {
   if (depth > deepestReference) return;
   for (const Node& child : node.children) {
     if (child.kind == "interval") {
-      widen(domain.min, child.attribute("min"), true);
-      widen(domain.max, child.attribute("max"), false);
+      widen({domain.min, domain.isExactBelow, domain.isNiceBelow, true}, child.attribute("min"),
+            child, notes);
+      widen({domain.max, domain.isExactAbove, domain.isNiceAbove, false}, child.attribute("max"),
+            child, notes);
     } else if (child.kind == "sort" && depth == 0) {
       domain.sort = &child;
     } else if (child.kind == "domainReference") {
@@ -41,7 +59,9 @@ void collect(const Node& node, Domain& domain, const Chart& chart, int depth) {
       if (variable != chart.variableOfId.end())
         domain.references.push_back(variable->second);
       else if (referred != nullptr)
-        collect(*referred, domain, chart, depth + 1);
+        collect(*referred, domain, chart, depth + 1, notes);
+      else
+        notes.add(fmt::format("{}: the domain {} is not in the chart", node.name(), shown(id)));
     }
   }
 }
@@ -115,7 +135,7 @@ Domain domainOf(const Dimension& dimension, const Chart& chart, Notes& notes) {
     notes.add(fmt::format("the domain {} of {} is not in the chart", shown(id), dimension.role));
     return domain;
   }
-  collect(*node, domain, chart, 0);
+  collect(*node, domain, chart, 0, notes);
   if (domain.hasRange()) return domain;
   notes.add(fmt::format("{} is not drawn: it ends before it begins", node->name()));
   domain.min = domain.max = std::nullopt;

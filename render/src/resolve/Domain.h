@@ -11,6 +11,10 @@ namespace render {
 struct Domain {
   std::optional<double> min{}; ///< of its intervals, where they are numbers
   std::optional<double> max{};
+  bool isExactBelow = false; ///< ends at the values themselves
+  bool isExactAbove = false;
+  bool isNiceBelow = false; ///< ends at round numbers
+  bool isNiceAbove = false;
   std::vector<const Variable*> references{}; ///< whose values belong to it too
   const Node* sort = nullptr;
 

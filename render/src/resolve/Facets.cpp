@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <string>
 
 #include <fmt/format.h>
 
@@ -94,6 +95,43 @@ private:
   Notes& notes_;
 };
 
+/// The labels of levels that go the other way, counted from 1 with the columns first.
+std::vector<bool> reversedLevels(const Chart& chart, std::size_t count) {
+  std::vector<bool> reversed(count);
+  const Node* labeling = chart.plot->child("facetLabeling");
+  if (labeling == nullptr) return reversed;
+  for (const Node& label : labeling->children)
+    for (std::size_t level = 0; level < count; ++level)
+      if (label.attribute("level") == std::to_string(level + 1))
+        reversed[level] = label.attribute("reverse") == "true";
+  return reversed;
+}
+
+/// Turns the order of categories about where the label of their level is reversed;
+/// variables keep theirs.
+void reverse(std::vector<FacetCell>& cells, std::size_t firstLevel, const Chart& chart) {
+  if (cells.empty()) return;
+  const std::vector<bool> reversed = reversedLevels(chart, firstLevel + cells.front().size());
+  std::vector<const Variable*> variables;
+  for (const FacetCell& cell : cells)
+    for (const FacetValue& value : cell)
+      if (std::ranges::find(variables, value.variable) == variables.end())
+        variables.push_back(value.variable);
+  const auto rankOf = [&](const FacetCell& cell) {
+    std::vector<double> rank;
+    for (std::size_t i = 0; i < cell.size(); ++i) {
+      const bool isReversed = firstLevel + i < reversed.size() && reversed[firstLevel + i];
+      const auto category = static_cast<double>(cell[i].category);
+      rank.push_back(
+          static_cast<double>(std::ranges::find(variables, cell[i].variable) - variables.begin()));
+      rank.push_back(isReversed ? -category : category);
+    }
+    return rank;
+  };
+  if (std::ranges::find(reversed, true) != reversed.end())
+    std::ranges::stable_sort(cells, {}, rankOf);
+}
+
 void limit(std::vector<FacetCell>& cells, std::string_view what, Notes& notes) {
   if (cells.size() <= mostPanels) return;
   notes.add(
@@ -143,6 +181,8 @@ Facets readFacets(const Chart& chart, Notes& notes) {
     split.rows = product(split.rows, more.rows, false);
     isTable = isTable || node.kind == "tableFacet";
   }
+  reverse(split.columns, 0, chart);
+  reverse(split.rows, split.columns.empty() ? 0 : split.columns.front().size(), chart);
   limit(split.columns, "columns", notes);
   limit(split.rows, "rows", notes);
   Facets facets;

@@ -57,7 +57,8 @@ public:
     element.x = position("x", "theta");
     element.y = position("y", "r");
     element.z = position("z", "z");
-    element.isSlice = roleNode(node_, "theta") != nullptr;
+    element.isSlice = type.hasBase && roleNode(node_, "theta") != nullptr &&
+                      roleNode(node_, "r") == nullptr && element.y == nullptr;
     element.hasBase = type.hasBase;
     readMethod(element);
     readModifier(element);

@@ -15,6 +15,7 @@
 
 #include "resolve/Domain.h"
 #include "resolve/ScaleMethod.h"
+#include "resolve/Ticks.h"
 
 namespace render {
 namespace {
@@ -144,7 +145,7 @@ private:
                              "take them",
                              dimension_.role));
     widen(extent);
-    addMargins(extent);
+    addMargins(extent, domain);
     if (domain.min && takes(*domain.min, dimension_)) dimension_.low = *domain.min;
     if (domain.max && takes(*domain.max, dimension_)) dimension_.high = *domain.max;
     if (dimension_.low < dimension_.high) return;
@@ -185,9 +186,12 @@ private:
     extent.high += half;
   }
 
-  void addMargins(const Extent& extent) {
+  void addMargins(const Extent& extent, const Domain& domain) {
     const auto margin = [&](std::string_view name, double end) {
-      if (extent.hasBase && end == 0) return 0.0;
+      const bool isLower = name == "lowerMargin";
+      const bool isAsked = isLower ? domain.isExactBelow || domain.isNiceBelow
+                                   : domain.isExactAbove || domain.isNiceAbove;
+      if (isAsked || (extent.hasBase && end == 0)) return 0.0;
       return percentage(node_, name, notes_).value_or(usualMargin);
     };
     const double low = scaled(extent.low, dimension_);
@@ -201,6 +205,16 @@ private:
     };
     dimension_.low = moved(low, -below, extent.low);
     dimension_.high = moved(high, above, extent.high);
+    if (dimension_.type == ScaleType::linear) roundEnds(domain);
+  }
+
+  /// To the next of the round numbers that ticks have.
+  void roundEnds(const Domain& domain) {
+    if (!domain.isNiceBelow && !domain.isNiceAbove) return;
+    constexpr int count = 7;
+    const double step = stepWithin(dimension_.high - dimension_.low, count);
+    if (domain.isNiceBelow) dimension_.low = std::floor(dimension_.low / step) * step;
+    if (domain.isNiceAbove) dimension_.high = std::ceil(dimension_.high / step) * step;
   }
 
   Dimension& dimension_;

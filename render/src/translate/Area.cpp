@@ -1,4 +1,6 @@
-#include <fmt/format.h>
+#include <algorithm>
+#include <map>
+#include <ranges>
 
 #include "translate/Encode.h"
 #include "translate/Filling.h"
@@ -7,15 +9,77 @@
 #include "translate/Translator.h"
 
 namespace render {
+namespace {
+
+/// What tells the areas apart, and the order along each.
+using Outline = std::map<std::vector<std::string>, std::map<double, Json>>;
+
+Outline outlineOf(const Element& element, const Json& rows) {
+  const Variable* place = element.place();
+  Outline outline;
+  for (const Json& row : rows) {
+    std::vector<std::string> key;
+    std::vector<const Variable*> telling = element.splits;
+    telling.push_back(element.group);
+    for (const Variable* variable : telling)
+      if (variable != nullptr) key.push_back(row[variable->id].get<std::string>());
+    double at = 0;
+    if (place->categorical)
+      at = static_cast<double>(
+          std::ranges::find(place->categories, row[place->id].get<std::string>(), &Category::key) -
+          place->categories.begin());
+    else
+      at = row["place"].get<double>();
+    outline[std::move(key)].try_emplace(at, row);
+  }
+  return outline;
+}
+
+/// Along the upper ends and back along the lower ones; around a circle of categories each
+/// comes back to where it began.
+Json cornersOf(const Outline& outline, bool goesAround) {
+  Json corners = Json::array();
+  const auto add = [&corners](Json row, bool isLow) {
+    if (isLow) row["high"] = row["low"];
+    corners.push_back(std::move(row));
+  };
+  for (const auto& [key, rows] : outline) {
+    for (const auto& [at, row] : rows)
+      add(row, false);
+    if (goesAround) {
+      add(rows.begin()->second, false);
+      add(rows.begin()->second, true);
+    }
+    for (const auto& [at, row] : rows | std::views::reverse)
+      add(row, true);
+  }
+  return corners;
+}
+
+void addPolarArea(const Element& element, Context& context) {
+  Json data = elementData(element, context);
+  data["values"] = cornersOf(outlineOf(element, data["values"]), element.place()->categorical);
+  Json update = positions(element, context);
+  update["interpolate"] = {{"value", "linear-closed"}};
+  // Areas that lie on each other all have to show.
+  update["fill"] = color(element, context);
+  update["fillOpacity"] = {
+      {"value", isStack(element.modifier) ? theme::areaOpacity : theme::areaOpacity / 2}};
+  update["stroke"] = color(element, context);
+  update["strokeWidth"] = {{"value", theme::thinWidth}};
+  context.parts.data.push_back(std::move(data));
+  addMark(element,
+          {{"type", "line"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}}, true,
+          context);
+}
+
+} // namespace
 
 /// An area from low to high along the places of each group.
 void translateArea(const Node& node, Context& context) {
   const Element* element = context.find(node);
   if (element == nullptr || lookOf(node) == Look::hidden) return;
-  if (context.chart.isPolar) {
-    context.notes.add(fmt::format("{} is not drawn yet in polar coordinates", node.name()));
-    return;
-  }
+  if (context.chart.isPolar) return addPolarArea(*element, context);
   const std::string_view place = placeRole(*element);
   const std::string_view measure = measureRole(*element);
   const Channels across = channelsOf(place, context.chart);

@@ -42,7 +42,7 @@ bool fits(const Category& category, const LabelLayout& layout, double widthOfCom
   return wrapsWhole(category.label, layout.limits());
 }
 
-LabelLayout layoutOf(const Dimension& dimension, const Context& context) {
+LabelLayout layoutOf(const Dimension& dimension, bool isStaggered, const Context& context) {
   constexpr int gap = 10;
   constexpr double slant = 1.42; // lines at 45 degrees lie that much farther apart
   const auto labelled = std::ranges::count_if(dimension.categories, std::not_fn(isBlank));
@@ -55,7 +55,8 @@ LabelLayout layoutOf(const Dimension& dimension, const Context& context) {
   const double widthOfComputed =
       date != nullptr ? widestDate(*date, context.chart.folder->manifest.language, theme::labelSize)
                       : 0;
-  const LabelLayout upright{.width = static_cast<int>(room) - gap, .lines = mostLines};
+  const double width = isStaggered ? 2 * room : room;
+  const LabelLayout upright{.width = static_cast<int>(width) - gap, .lines = mostLines};
   const bool allFit = std::ranges::all_of(dimension.categories, [&](const Category& category) {
     return fits(category, upright, widthOfComputed);
   });
@@ -80,10 +81,18 @@ Json middleOf(const std::string& labels) {
   return {{"signal", fmt::format("isArray({0})?(1-length({0}))*{1}:0", label, lineHeight / 2)}};
 }
 
+std::size_t mostLinesOf(const Dimension& dimension, const LabelLayout& layout) {
+  std::size_t lines = 1;
+  for (const Category& category : dimension.categories)
+    lines = std::max(lines, wrap(category.label, layout.limits()).size());
+  return lines;
+}
+
 } // namespace
 
-void labelCategories(Json& axis, const Dimension& dimension, Context& context) {
-  const LabelLayout layout = layoutOf(dimension, context);
+std::size_t labelCategories(Json& axis, const Dimension& dimension, bool isStaggered,
+                            Context& context) {
+  const LabelLayout layout = layoutOf(dimension, isStaggered, context);
   const bool across = isAcross(dimension.role, context.chart);
   const bool isShared = !context.chart.facets.isSplit() ||
                         dimension.categories.size() ==
@@ -100,10 +109,11 @@ void labelCategories(Json& axis, const Dimension& dimension, Context& context) {
   axis["labelLimit"] = 0;
   if (!across) axis["encode"]["labels"]["update"]["dy"] = middleOf(labels);
   leaveOutBlanks(axis, dimension);
-  if (layout.angle == 0) return;
+  if (layout.angle == 0) return mostLinesOf(dimension, layout);
   axis["labelAngle"] = layout.angle;
   axis["labelAlign"] = "right";
   axis["labelBaseline"] = "middle";
+  return 1;
 }
 
 } // namespace render

@@ -5,7 +5,9 @@
 namespace render {
 
 /// Labels the ticks of a categorical axis: wrapped, and slanted where they would not
-/// stand side by side. Adds the scale of the dimension's labels.
-void labelCategories(Json& axis, const Dimension& dimension, Context& context);
+/// stand side by side; staggered ones have twice the room. Adds the scale of the dimension's
+/// labels. Returns the most lines of an upright label.
+std::size_t labelCategories(Json& axis, const Dimension& dimension, bool isStaggered,
+                            Context& context);
 
 } // namespace render

@@ -1,13 +1,11 @@
 #include <algorithm>
-#include <cmath>
 
 #include <fmt/format.h>
 
-#include "resolve/DateTicks.h"
-#include "resolve/Ticks.h"
 #include "text/Expression.h"
 #include "text/Show.h"
 #include "text/Wrap.h"
+#include "translate/AxisTicks.h"
 #include "translate/CategoryLabels.h"
 #include "translate/Encode.h"
 #include "translate/FacetLabels.h"
@@ -23,116 +21,41 @@ namespace {
 constexpr int ticksAlongX = 9;
 constexpr int ticksAlongY = 7;
 
-void setTicks(Json& axis, const std::vector<double>& values, std::string text) {
-  axis["values"] = Json::array();
-  for (const double value : values)
-    axis["values"].push_back(jsonNumber(value));
-  axis["encode"]["labels"]["update"]["text"] = {{"signal", std::move(text)}};
-}
-
-/// At places of the calendar; far outside of it there are none.
-std::vector<double> timeTicks(const Dimension& dimension, const DateFormat& format,
-                              const Context& context) {
+/// As many as the panel has room for.
+TickRoom roomOf(const Dimension& dimension, const Context& context) {
   constexpr double gap = 16;
   constexpr int mostDates = 12;
-  int most = ticksAlongY;
-  if (isAcross(dimension.role, context.chart)) {
-    const double width =
-        gap + widestDate(format, context.chart.folder->manifest.language, theme::labelSize);
-    most = std::clamp(static_cast<int>(context.layout.panelWidth / width), 2, mostDates);
-  }
-  const auto ticks = format.isDuration() ? durationTicks : dateTicks;
-  return ticks(dimension.low, dimension.high, format.resolution(), static_cast<std::size_t>(most));
-}
-
-/// As many as the panel has room for.
-int tickCount(const Dimension& dimension, const Context& context) {
   const bool across = isAcross(dimension.role, context.chart);
   const double whole = across ? theme::plotWidth : theme::plotHeight;
   const double length = across ? context.layout.panelWidth : context.layout.panelHeight;
-  return std::max(3, static_cast<int>((across ? ticksAlongX : ticksAlongY) * length / whole));
-}
-
-/// At multiples of "delta", at powers, or at round numbers.
-Ticks ticksOf(const Dimension& dimension, const Node* majorTicks, const Context& context) {
-  const std::string_view text = majorTicks ? majorTicks->attribute("delta") : std::string_view();
-  const double delta = numberOf(text);
-  constexpr double mostSteps = 100;
-  if (delta > 0 && (dimension.high - dimension.low) / delta <= mostSteps)
-    return ticksEvery(delta, dimension.low, dimension.high);
-  if (!text.empty())
-    context.notes.add(
-        fmt::format("{}: delta=\"{}\" is not drawn", majorTicks->name(), shown(text)));
-  if (dimension.type == ScaleType::log)
-    return ticksOfPowers(dimension.parameter, dimension.low, dimension.high);
-  if (dimension.type == ScaleType::symmetricLog)
-    return ticksOfLogarithm(dimension.parameter, dimension.low, dimension.high);
-  return ticksWithin(dimension.low, dimension.high, tickCount(dimension, context));
-}
-
-bool showsPercent(const Node& axis) {
-  const Node* transform = axis.child("transform");
-  return transform != nullptr && transform->attribute("method") == "percent";
-}
-
-/// The axis's own format, else that of the values along it.
-std::optional<NumberFormat> formatOf(const Node& axis, const Format& usual, Notes& notes) {
-  if (const Node* own = axis.child("numberFormat")) return NumberFormat::read(*own, notes);
-  const auto* number = std::get_if<NumberFormat>(&usual);
-  return number != nullptr ? std::optional(*number) : std::nullopt;
-}
-
-/// What a delta asks for and ticks at categories or dates do not have.
-void refuseDelta(const Node* majorTicks, Notes& notes) {
-  if (majorTicks == nullptr || majorTicks->attribute("delta").empty()) return;
-  notes.add(fmt::format("{}: delta=\"{}\" is not drawn", majorTicks->name(),
-                        shown(majorTicks->attribute("delta"))));
-}
-
-/// The labels of values along a dimension: those of the first variable that has some.
-const std::vector<ValueLabel>& valueLabelsOf(const Dimension& dimension) {
-  static const std::vector<ValueLabel> none;
-  for (const Variable* variable : dimension.variables)
-    if (!variable->valueLabels.empty()) return variable->valueLabels;
-  return none;
+  TickRoom room{.numbers = std::max(
+                    3, static_cast<int>((across ? ticksAlongX : ticksAlongY) * length / whole)),
+                .dates = ticksAlongY};
+  const auto* date = std::get_if<DateFormat>(&dimension.format());
+  if (!across || date == nullptr) return room;
+  const double width =
+      gap + widestDate(*date, context.chart.folder->manifest.language, theme::labelSize);
+  room.dates = std::clamp(static_cast<int>(length / width), 2, mostDates);
+  return room;
 }
 
 void labelNumbers(Json& json, const Dimension& dimension, const Node& axis,
                   const Context& context) {
-  const Node* majorTicks = axis.child("majorTicks");
-  const Format& format = dimension.format();
-  if (const auto* date = std::get_if<DateFormat>(&format)) {
-    const std::vector<double> values = timeTicks(dimension, *date, context);
-    refuseDelta(majorTicks, context.notes);
-    if (!values.empty()) return setTicks(json, values, dateText(*date, "datum.value"));
-  }
-  const Ticks ticks = ticksOf(dimension, majorTicks, context);
-  const bool isPercent = showsPercent(axis);
-  const double magnitude = std::max(std::abs(dimension.low), std::abs(dimension.high));
-  std::string text = tickText(formatOf(axis, format, context.notes),
-                              isPercent ? "(datum.value*100)" : "datum.value",
-                              isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
-                              isPercent ? 100 * magnitude : magnitude);
-  setTicks(json, ticks.values, labelled(valueLabelsOf(dimension), "datum.value", std::move(text)));
+  const AxisTicks ticks = axisTicks(dimension, &axis, roomOf(dimension, context), context);
+  json["values"] = Json::array();
+  for (const double value : ticks.values)
+    json["values"].push_back(jsonNumber(value));
+  json["encode"]["labels"]["update"]["text"] = {{"signal", ticks.label}};
 }
 
 /// How long the ticks are, and on which side of the axis they stand.
 void setTickLength(Json& json, const Node& majorTicks, const Context& context) {
   constexpr double usual = 5;
-  constexpr double most = 50;
-  const std::string_view text = majorTicks.attribute("length");
-  double length = numberOf(text);
-  const bool isDrawn = length >= 0 && length <= most;
-  if (!isDrawn) {
-    if (!text.empty())
-      context.notes.add(
-          fmt::format("{}: length=\"{}\" is not drawn", majorTicks.name(), shown(text)));
-    length = usual;
-  }
-  const bool isInside = majorTicks.attribute("position") == "inside";
-  if (length == usual && !isInside) return;
-  json["tickSize"] = jsonNumber(isInside ? -length : length);
-  if (isInside) json["labelPadding"] = jsonNumber(usual + length);
+  const double length = tickLength(majorTicks, usual, context.notes);
+  if (length == usual) return;
+  json["tickSize"] = jsonNumber(length);
+  if (majorTicks.attribute("position") == "inside")
+    json["labelPadding"] = jsonNumber(usual - length);
 }
 
 /// The angle of the labels that the document asks for.
@@ -223,15 +146,29 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
     json["gridScale"] = dimension.role == "x" ? "y" : "x";
     if (!isUntitled && !context.chart.facets.isMatrix) centreTitle(json, across, context);
   }
+  std::size_t lines = 1;
   if (dimension.categorical) {
     refuseDelta(ticks, context.notes);
-    labelCategories(json, dimension, context);
+    lines = labelCategories(json, dimension, isStaggered(ticks), context);
   } else {
     labelNumbers(json, dimension, axis, context);
   }
-  if (ticks != nullptr) setTickStyle(json, *ticks, context);
+  if (ticks != nullptr) {
+    setTickStyle(json, *ticks, context);
+    const bool hasAll = dimension.categorical && !json.contains("values");
+    const std::size_t count = hasAll ? dimension.categories.size() : json["values"].size();
+    stagger(json, *ticks, count, lines, context.notes);
+  }
   if (json["grid"] == true) hideGridOnBaseline(json, dimension);
   return json;
+}
+
+/// Polar roles are those of the flat plot going around and outward, but for a pie.
+std::string_view positionRole(std::string_view role, const Chart& chart) {
+  const bool isPie = std::ranges::all_of(chart.elements, &Element::isSlice);
+  if (!chart.isPolar || isPie) return role;
+  if (role == "theta") return "x";
+  return role == "r" ? "y" : role;
 }
 
 } // namespace
@@ -250,7 +187,7 @@ std::string axisTitle(const Node& axis, const Dimension& dimension) {
 
 /// The axes of a dimension; its scale is there whether it has a node or not.
 void translateDimension(const Node& node, Context& context) {
-  const std::string_view role = node.attribute("role");
+  const std::string_view role = positionRole(node.attribute("role"), context.chart);
   if (context.chart.space != nullptr && (role == "x" || role == "y" || role == "z"))
     return addSpatialAxis(node, context);
   if (role == "z") context.notes.add(fmt::format("{}: role=\"z\" is not drawn yet", node.name()));
@@ -259,7 +196,7 @@ void translateDimension(const Node& node, Context& context) {
       context.notes.add(fmt::format("the axis of {} is not drawn yet", shown(role)));
     return;
   }
-  if (context.chart.isPolar) return addPolarAxis(node, context);
+  if (context.chart.isPolar) return addPolarAxis(node, role, context);
   for (const Node& child : node.children) {
     if (child.kind != "axis") continue;
     Json axis = axisOf(child, context.along(role), context);

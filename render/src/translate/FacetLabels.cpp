@@ -1,10 +1,12 @@
 #include "translate/FacetLabels.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <fmt/format.h>
 
 #include "compute/Bins.h"
+#include "text/Show.h"
 #include "text/Wrap.h"
 #include "translate/Encode.h"
 #include "translate/Theme.h"
@@ -101,6 +103,35 @@ Text labelOf(const Run& run) {
           .limit = run.length};
 }
 
+void noteTicks(const Node& ticks, const Node& label, Notes& notes) {
+  for (const std::string_view attribute : {"delta", "length", "stagger"}) {
+    const std::string_view value = ticks.attribute(attribute);
+    if (!value.empty() && value != "false" && value != "0")
+      notes.add(fmt::format("{}: {}=\"{}\" is not drawn at panels", label.name(), attribute,
+                            shown(value)));
+  }
+  if (ticks.child("gridLines") != nullptr)
+    notes.add(fmt::format("{}: grid lines are not drawn at panels", label.name()));
+}
+
+/// The angle that the axis of a level asks for: upright labels read up or down. What else
+/// its ticks ask for has no place at panels.
+double angleOf(std::size_t level, double usual, Context& context) {
+  const Node* label = facetLabel(level, context.chart);
+  const Node* axis = label != nullptr ? label->child("axis") : nullptr;
+  const Node* ticks = axis != nullptr ? axis->child("majorTicks") : nullptr;
+  if (ticks == nullptr) return usual;
+  noteTicks(*ticks, *label, context.notes);
+  const std::string_view text = ticks->attribute("labelAngle");
+  const double angle = numberOf(text);
+  const bool isDrawn = usual == 0 ? angle == 0 : std::abs(angle) == usual;
+  if (isDrawn) return angle;
+  if (!text.empty())
+    context.notes.add(
+        fmt::format("{}: labelAngle=\"{}\" is not drawn", label->name(), shown(text)));
+  return usual;
+}
+
 void labelColumns(Context& context) {
   const std::vector<FacetCell>& columns = context.chart.facets.columns;
   const bool alongAxis = context.chart.facets.areAlongAxis;
@@ -109,6 +140,7 @@ void labelColumns(Context& context) {
   double y = alongAxis ? layout.height + axisRoom(context) + lineHeight * (depth - 0.5)
                        : -lineHeight * (depth - 0.5);
   for (std::size_t level = 0; level < depthOf(columns); ++level) {
+    angleOf(level + 1, 0, context);
     for (const Run& run : runsOf(columns, level, layout.left, layout.panelWidth)) {
       Text text = labelOf(run);
       text.y = y;
@@ -131,14 +163,16 @@ void labelRows(Context& context) {
   const Layout& layout = context.layout;
   const std::size_t depth = depthOf(rows);
   constexpr double downwards = 90;
-  for (std::size_t level = 0; level < depth; ++level)
+  const std::size_t firstLevel = 1 + depthOf(context.chart.facets.columns);
+  for (std::size_t level = 0; level < depth; ++level) {
+    const double angle = angleOf(firstLevel + level, downwards, context);
     for (const Run& run : runsOf(rows, level, layout.top, layout.panelHeight)) {
       Text text = labelOf(run);
       text.x = layout.width + lineHeight * (static_cast<double>(depth - level) - 0.5) + 2;
-      text.angle = downwards;
+      text.angle = angle;
       addText(text, context);
     }
-  const std::size_t firstLevel = 1 + depthOf(context.chart.facets.columns);
+  }
   addText({.text = titleOf(rows, firstLevel, context.chart),
            .x = layout.width + lineHeight * (static_cast<double>(depth) + 0.5) + 4,
            .y = layout.height / 2,

@@ -122,7 +122,8 @@ Json flatData(const Element& element, const Context& context) {
   const std::set<double> slots = slotsOf(element, context);
   Json values = Json::array();
   for (const Item& item : context.panel().items[element.index])
-    if (isDrawn(element, item, context)) values.push_back(fieldsOf(element, item, slots, context));
+    if (context.chart.draws(element, item) && isDrawn(element, item, context))
+      values.push_back(fieldsOf(element, item, slots, context));
   return {{"name", context.inPanel(element.node->id())},
           {"values", std::move(values)},
           {"transform", Json::array()}};

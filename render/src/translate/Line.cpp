@@ -11,6 +11,12 @@
 namespace render {
 namespace {
 
+/// A line through all categories of a circle comes back to the first.
+bool goesAround(const Element& element, const Context& context) {
+  return context.chart.isPolar && element.type() == "line" && element.place() != nullptr &&
+         element.place()->categorical;
+}
+
 Json lineMark(const Element& element, Context& context) {
   Json update = positions(element, context);
   // A curve over bars of the first color has to differ from them.
@@ -19,6 +25,8 @@ Json lineMark(const Element& element, Context& context) {
   update["strokeWidth"] = {{"value", theme::lineWidth}};
   if (const std::string_view steps = interpolationOf(*element.node); steps != "linear")
     update["interpolate"] = {{"value", steps}};
+  else if (goesAround(element, context))
+    update["interpolate"] = {{"value", "linear-closed"}};
   if (element.group != nullptr) {
     const Variable& dashed = element.shape != nullptr ? *element.shape : *element.group;
     if (element.shape != nullptr || !hasPoints(dashed, context.chart)) {

@@ -5,12 +5,13 @@
 #include <fmt/format.h>
 
 #include "text/Show.h"
+#include "translate/AxisTicks.h"
 
 namespace render {
 namespace {
 
 constexpr double most = 20;
-constexpr int tickLength = 3;
+constexpr double usualLength = 3;
 
 /// How many ticks stand between two major ones; 0 when that cannot be drawn.
 double countOf(const Node& minorTicks, Notes& notes) {
@@ -43,14 +44,15 @@ void addMinorTicks(const Json& major, const Node& minorTicks, const Dimension& d
   const double start = std::ceil((dimension.low - first) / step);
   for (double i = start; first + i * step <= dimension.high; ++i)
     places.push_back(jsonNumber(first + i * step));
-  context.parts.axes.push_back({{"scale", dimension.role},
-                                {"orient", major["orient"]},
-                                {"values", std::move(places)},
-                                {"domain", false},
-                                {"labels", false},
-                                {"grid", minorTicks.child("gridLines") != nullptr},
-                                {"ticks", major["ticks"]},
-                                {"tickSize", tickLength}});
+  context.parts.axes.push_back(
+      {{"scale", dimension.role},
+       {"orient", major["orient"]},
+       {"values", std::move(places)},
+       {"domain", false},
+       {"labels", false},
+       {"grid", minorTicks.child("gridLines") != nullptr},
+       {"ticks", major["ticks"]},
+       {"tickSize", jsonNumber(tickLength(minorTicks, usualLength, context.notes))}});
 }
 
 } // namespace render

@@ -7,8 +7,8 @@
 #include <fmt/format.h>
 
 #include "resolve/ScaleMethod.h"
-#include "resolve/Ticks.h"
 #include "text/Expression.h"
+#include "translate/AxisTicks.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
 
@@ -70,33 +70,32 @@ void addRay(double angle, Json text, Context& context) {
                                          context));
 }
 
-Json textOf(const Dimension& dimension, double value) {
-  return {{"signal", valueText(dimension.format(), literal(value))}};
-}
-
 /// How far from the middle a value lies, 1 at the end of the scale.
 double shareOf(double value, const Dimension& dimension) {
   const double low = scaled(dimension.low, dimension);
   return (scaled(value, dimension) - low) / (scaled(dimension.high, dimension) - low);
 }
 
-void addCircles(const Dimension& dimension, Context& context) {
+void addCircles(const Dimension& dimension, const Node& axis, Context& context) {
   if (dimension.categorical) return;
-  for (const double value : ticksWithin(dimension.low, dimension.high, circles).values) {
+  const AxisTicks ticks =
+      axisTicks(dimension, &axis, {.numbers = circles, .dates = circles}, context);
+  for (const double value : ticks.values) {
     const double radius = shareOf(value, dimension) * radiusOf(context);
     if (radius > 0) addCircle(radius, context);
     context.parts.marks.push_back(textMark(context.layout.panelWidth / 2 + 4,
                                            context.layout.panelHeight / 2 - radius,
-                                           textOf(dimension, value), "left", context));
+                                           {{"signal", ticks.labelOf(value)}}, "left", context));
   }
 }
 
-void addRays(const Dimension& dimension, Context& context) {
+void addRays(const Dimension& dimension, const Node& axis, Context& context) {
   constexpr double turn = 2 * std::numbers::pi;
   if (!dimension.categorical) {
-    for (const double value : ticksWithin(dimension.low, dimension.high, rays).values)
-      addRay(turn * (value - dimension.low) / (dimension.high - dimension.low),
-             textOf(dimension, value), context);
+    const AxisTicks ticks = axisTicks(dimension, &axis, {.numbers = rays, .dates = rays}, context);
+    for (const double value : ticks.values)
+      if (value < dimension.high) // where the circle begins again
+        addRay(turn * shareOf(value, dimension), {{"signal", ticks.labelOf(value)}}, context);
     return;
   }
   const auto count = static_cast<double>(dimension.categories.size());
@@ -110,13 +109,17 @@ void addRays(const Dimension& dimension, Context& context) {
 
 } // namespace
 
-void addPolarAxis(const Node& node, Context& context) {
-  if (node.child("axis") == nullptr) return;
-  const std::string_view role = node.attribute("role");
+void addPolarAxis(const Node& node, std::string_view role, Context& context) {
+  const Node* axis = node.child("axis");
+  if (axis == nullptr) return;
+  const Dimension& dimension = context.along(role);
+  if (axis->child("majorTicks") != nullptr && dimension.categorical)
+    refuseDelta(axis->child("majorTicks"), context.notes);
+  noteStraightAxis(*axis, "in polar coordinates", false, context.notes);
   if (role == "x")
-    addRays(context.along(role), context);
+    addRays(dimension, *axis, context);
   else
-    addCircles(context.along(role), context);
+    addCircles(dimension, *axis, context);
 }
 
 } // namespace render

@@ -13,10 +13,10 @@
 
 #include "compute/Bins.h"
 #include "compute/View.h"
-#include "resolve/Ticks.h"
 #include "text/Expression.h"
 #include "text/Show.h"
 #include "text/Wrap.h"
+#include "translate/AxisTicks.h"
 #include "translate/Theme.h"
 
 namespace render {
@@ -72,9 +72,21 @@ double inBox(double value, const Dimension& dimension) {
   return dimension.isInverted ? -share : share;
 }
 
-std::vector<double> ticksAlong(std::string_view role, const Context& context) {
-  const Dimension& dimension = context.along(role);
-  return ticksWithin(dimension.low, dimension.high, ticksAlongEdge).values;
+AxisTicks ticksAlong(std::string_view role, const Context& context) {
+  const Node* node = context.chart.dimensionNode(role);
+  const Node* axis = node != nullptr ? node->child("axis") : nullptr;
+  return axisTicks(context.along(role), axis, {.numbers = ticksAlongEdge, .dates = ticksAlongEdge},
+                   context);
+}
+
+/// The angle of the labels that the document asks for.
+double labelAngle(const Node& majorTicks, Notes& notes) {
+  const std::string_view text = majorTicks.attribute("labelAngle");
+  const double angle = numberOf(text);
+  if (angle >= -360 && angle <= 360) return angle;
+  if (!text.empty())
+    notes.add(fmt::format("{}: labelAngle=\"{}\" is not drawn", majorTicks.name(), shown(text)));
+  return 0;
 }
 
 std::string pathOf(const std::vector<BoxPlace>& places, const View& view) {
@@ -173,17 +185,22 @@ void addAxis(const Node& axis, std::size_t along, Context& context) {
   const Dimension& dimension = context.along(roles[along]);
   const BoxPlace edge = edgeOf(along, view);
   const auto [outX, outY] = wayOut(edge, along, view);
-  if (axis.child("majorTicks") != nullptr)
-    for (const double value : ticksAlong(roles[along], context)) {
+  noteStraightAxis(axis, "in space", true, context.notes);
+  if (const Node* majorTicks = axis.child("majorTicks")) {
+    const double angle = labelAngle(*majorTicks, context.notes);
+    const AxisTicks ticks = ticksAlong(roles[along], context);
+    for (const double value : ticks.values) {
       BoxPlace place = edge;
       place[along] = inBox(value, dimension);
       const View::Point point = view.at(place);
-      addLabel({.text = {{"signal", valueText(dimension.format(), literal(value))}},
+      addLabel({.text = {{"signal", ticks.labelOf(value)}},
                 .x = point.x + labelGap * outX,
                 .y = point.y + labelGap * outY,
-                .align = alignOf(outX)},
+                .align = alignOf(outX),
+                .angle = angle},
                context);
     }
+  }
   const View::Point middle = view.at(edge);
   const bool isUpright = std::abs(outX) > 0.8;
   const double gap = isUpright ? uprightGap : titleGap;
@@ -256,11 +273,13 @@ void translatePlane(const Node& guide, Context& context) {
       pathOf({place(-0.5, -0.5), place(-0.5, 0.5), place(0.5, 0.5), place(0.5, -0.5)}, view);
   addPath({{"fill", {{"signal", "faint"}}}, {"fillOpacity", {{"value", opacity}}}}, side + "Z",
           context);
-  for (const double value : ticksAlong(roles[first], context)) {
+  const AxisTicks ticksOfFirst = ticksAlong(roles[first], context);
+  for (const double value : ticksOfFirst.values) {
     const double at = inBox(value, context.along(roles[first]));
     addLine(place(at, -0.5), place(at, 0.5), view, "faint", context);
   }
-  for (const double value : ticksAlong(roles[second], context)) {
+  const AxisTicks ticksOfSecond = ticksAlong(roles[second], context);
+  for (const double value : ticksOfSecond.values) {
     const double at = inBox(value, context.along(roles[second]));
     addLine(place(-0.5, at), place(0.5, at), view, "faint", context);
   }

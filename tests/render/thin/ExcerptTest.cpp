@@ -79,6 +79,32 @@ TEST(Excerpt, KeepsTheExtremesOfEachVariableOfAMatrix) {
     EXPECT_TRUE(std::ranges::any_of(values, [y](const json& row) { return row["v2"] == y; })) << y;
 }
 
+TEST(Excerpt, HoldsTheRowsThatPanelsDrawOneByOneButNotThoseOfStatistics) {
+  constexpr std::size_t count = render::mostRows * 2;
+  const auto drawn = [&](const std::string& element) {
+    const std::string facet = R"(<tableFacet><facetVariable role="x" variable="v3"/></tableFacet>)";
+    const TestFolder folder;
+    const json spec = folder.write("chart.xml", document(facet + element))
+                          .write("source0.csv", rows(count))
+                          .spec();
+    std::vector<double> sums; // of items and of what they show, over the panels
+    sums.assign(2, 0);
+    for (const json& data : spec["data"])
+      if (data["name"].get<std::string>().starts_with("e_"))
+        for (const json& item : data["values"]) {
+          sums[0] += 1;
+          sums[1] += item.value("value", 0.0);
+        }
+    return sums;
+  };
+  EXPECT_EQ(
+      drawn(R"(<element type="point" id="e"><x variable="v1"/><y variable="v2"/></element>)")[0],
+      render::mostRows);
+  EXPECT_EQ(drawn(R"(<element type="interval" id="e"><x variable="v3"/><statistic method="count"/>
+    </element>)")[1],
+            count);
+}
+
 TEST(Excerpt, LeavesExtentsAndDescriptionToAllRows) {
   const json spec = specOf(render::mostRows * 2);
   const std::string description = spec["description"];

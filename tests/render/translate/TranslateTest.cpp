@@ -235,7 +235,7 @@ TEST_F(TranslateTest, TextsGoWhereTheirIdsSay) {
 TEST_F(TranslateTest, WhatIsNotDrawnIsNoted) {
   const std::string unknown =
       std::string(point) +
-      R"xml(<dimension role="z"/><dimension role="x"><scale method="logit"/><axis><majorTicks stagger="true"/>
+      R"xml(<dimension role="z"/><dimension role="x"><scale method="logit"/><axis><majorTicks position="middle"/>
       </axis></dimension><element type="cloud"/><element type="point" id="e"><x variable="v1"/>
       </element><guide id="g" type="function"><parameter name="y" value="sin(x)"/></guide>
       <wonder color="&#10;red"><inner/></wonder>)xml";
@@ -245,7 +245,7 @@ TEST_F(TranslateTest, WhatIsNotDrawnIsNoted) {
       json({"more is not drawn yet: a chart shows one plot",
             "e is not drawn: it has no y variable with data", "the scale logit is not drawn yet",
             missingRow, "dimension: role=\"z\" is not drawn yet",
-            "majorTicks: stagger=\"true\" is not drawn yet",
+            "majorTicks: position=\"middle\" is not drawn yet",
             "element of type cloud in data is not drawn yet", refusedFormula,
             "wonder in data is not drawn yet", "s: fill:red is not drawn yet"}));
 }
