@@ -252,8 +252,7 @@ TEST_F(ElementsTest, ALineOfRowsGoesThroughCategoriesInTheirOrder) {
   EXPECT_EQ(spec_["data"][1]["transform"].back()["sort"]["field"], "order");
   EXPECT_EQ(spec_["data"][1]["transform"][1],
             json::parse(R"json({"type":"formula","as":"order",
-                            "expr":"indexof([\"9\",\"10\"],datum[\"v3\"])"
-})json");
+                            "expr":"indexof([\"9\",\"10\"],datum[\"v3\"])"})json"));
 }
 
 TEST_F(ElementsTest, TheBarsOfAnIciclePlotTouchAndHaveRoomForALabelAtEverySecond) {
