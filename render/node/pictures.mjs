@@ -10,12 +10,12 @@ import {Resvg} from '@resvg/resvg-js';
 import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
 import {pngWithTexts, svgWithTexts, textsOfPicture} from '../page/pictureTexts.js';
 import {nameFaces} from './faces.mjs';
+import {fontOptions, missingFamilies} from './fonts.mjs';
 import {textWidth} from './textWidth.mjs';
 
 textMetrics.width = (item, text) => textWidth(text, item.fontSize ?? 11, item.fontWeight);
 
 const pngScale = 2;
-const fonts = {loadSystemFonts: true, defaultFontFamily: 'DejaVu Sans'};
 
 /** Writes a file so that it appears whole or not at all. */
 function writeWhole(file, bytes) {
@@ -47,13 +47,16 @@ async function draw(folder, {svg, png}) {
   const texts = textsOfPicture(spec);
   if (svg) writeWhole(join(folder, 'chart.svg'), svgWithTexts(picture, texts));
   if (png) {
-    const zoom = {fitTo: {mode: 'zoom', value: pngScale}, font: fonts};
+    const zoom = {fitTo: {mode: 'zoom', value: pngScale}, font: fontOptions()};
     const pixels = new Resvg(nameFaces(anchorClippedGroups(picture)), zoom).render().asPng();
     writeWhole(join(folder, 'chart.png'), pngWithTexts(pixels, texts));
   }
 }
 
+const missing = missingFamilies();
 const {folders, ...formats} = JSON.parse(readFileSync(0, 'utf8'));
+if (formats.png && missing.length > 0)
+  console.error(`chartxml: fonts that are not installed: ${missing.join(', ')}; other fonts take their place in PNG pictures, or characters are missing`);
 const showLine = (text) => process.stderr.isTTY && process.stderr.write(`\r\x1B[K${text}`);
 for (const [index, folder] of folders.entries()) {
   showLine(`[${index + 1}/${folders.length}] ${basename(folder)}, pictures`);
