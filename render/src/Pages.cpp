@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "assemble/Assemble.h"
+#include "check/Check.h"
 #include "page/ChartPage.h"
 #include "page/Files.h"
 #include "page/Gallery.h"
@@ -18,12 +19,13 @@ namespace {
 
 //   read        chart.xml, CSV, manifest      -> ChartFolder
 //   resolve     references, extents, groups   -> Chart
+//   check       what cannot be meant          -> Notes
 //   translate   one translator a node kind    -> Parts
 //   thin        rows and columns that are drawn -> Excerpts
 //   assemble    one Vega specification        -> JSON
-Json specification(const ChartFolder& folder, const Words& words) {
-  Notes notes;
+Json specification(const ChartFolder& folder, const Words& words, Notes& notes) {
   Chart chart = resolve(folder, notes);
+  check(chart, notes);
   const Layout layout = Layout::of(chart, notes);
   makeUnitsEqual(chart, layout, notes);
   Parts parts = translate(chart, layout, notes);
@@ -53,16 +55,18 @@ Manifest manifestOf(const std::filesystem::path& folder) {
 
 } // namespace
 
-void writeChart(const std::filesystem::path& chartFolder) {
+Findings writeChart(const std::filesystem::path& chartFolder) {
   const std::filesystem::path folder =
       chartFolder.has_filename() ? chartFolder : chartFolder.parent_path();
   const std::filesystem::path page = folder / "chart.html";
   try {
     const ChartFolder chart = ChartFolder::read(folder);
     const Words words(chart.manifest.language);
-    const Json spec = specification(chart, words);
+    Notes notes;
+    const Json spec = specification(chart, words, notes);
     writeFile(folder / "chart.vg.json", laidOut(spec));
     writeFile(page, chartPage(chart.manifest, spec, words));
+    return notes.findings();
   } catch (const RenderError& e) {
     const std::string_view reason = e.what();
     const std::string prefix = folder.native() + "/";
@@ -71,6 +75,13 @@ void writeChart(const std::filesystem::path& chartFolder) {
                           reason.starts_with(prefix) ? reason.substr(prefix.size()) : reason));
     throw;
   }
+}
+
+Findings findingsOf(const std::filesystem::path& chartFolder) {
+  const ChartFolder chart = ChartFolder::read(chartFolder);
+  Notes notes;
+  check(resolve(chart, notes), notes);
+  return notes.findings();
 }
 
 void writeGallery(const std::filesystem::path& outputFolder) {

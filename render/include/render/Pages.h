@@ -4,6 +4,9 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <vector>
+
+#include <host/Finding.h>
 
 /// Turns finished chart folders into Vega specifications and HTML pages.
 namespace render {
@@ -15,12 +18,19 @@ public:
   using std::runtime_error::runtime_error;
 };
 
+using Findings = std::vector<host::Finding>;
+
 /// Writes chart.vg.json and chart.html into a chart folder, from its chart.xml,
 /// its CSV files and, when it is there, its manifest.json. The same folder gives
 /// the same bytes; each file appears whole or not at all. What the chart asks for
-/// and is not drawn is named in the page's notes. Throws RenderError when the
+/// and is not drawn is named in the page's notes, and so is what the checks of the
+/// document against its data found, which is returned. Throws RenderError when the
 /// chart cannot be read; a page that says so is written all the same.
-void writeChart(const std::filesystem::path& chartFolder);
+Findings writeChart(const std::filesystem::path& chartFolder);
+
+/// The checks of a chart folder alone; nothing is written. Throws RenderError when the
+/// chart cannot be read.
+Findings findingsOf(const std::filesystem::path& chartFolder);
 
 /// Writes index.html, the gallery of the charts in an output folder in the order of
 /// their names, gallery.js, the list that it shows, and runtime/, the scripts that the

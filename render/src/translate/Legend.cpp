@@ -80,11 +80,7 @@ void addEntry(const Element& element, const Variable& group, std::vector<Entry>&
 void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entries,
                Context& context) {
   const Node* node = context.chart.folder->document.find(target.attribute("element"));
-  if (node == nullptr) {
-    context.notes.add(fmt::format("{}: the element {} is not in the chart", target.name(),
-                                  shown(target.attribute("element"))));
-    return;
-  }
+  if (node == nullptr) return; // a lost target
   // A function line has its entry by its name, an element that is not drawn none.
   const Element* element = context.chart.find(*node);
   if (element == nullptr) return;
