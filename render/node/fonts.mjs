@@ -1,50 +1,55 @@
-// The faces that a bitmap is drawn with.
-//
-// To read every face of a machine takes longer than to draw a chart. Where all characters
-// of a picture are in the faces whose widths are known, and these are found, they are
-// enough; the picture is the same.
+// The fonts that pictures are drawn with, which a picture's texts are measured by and
+// checked against: no others, so that a picture is the same wherever they are.
 
-import {readdirSync} from 'node:fs';
-import {homedir} from 'node:os';
-import {join} from 'node:path';
-import {eastAsian, familyOf} from './textWidth.mjs';
+import {existsSync} from 'node:fs';
+import {familyOf} from './textWidth.mjs';
 
-const folders = ['/usr/share/fonts', '/usr/local/share/fonts',
-  join(homedir(), '.local/share/fonts'), join(homedir(), '.fonts')];
-const latin = ['LiberationSans-Regular.ttf', 'LiberationSans-Bold.ttf', 'DejaVuSans.ttf', 'DejaVuSans-Bold.ttf'];
-const eastern = [...latin, 'NotoSansCJK-Regular.ttc', 'NotoSansCJK-Bold.ttc'];
+const debian = '/usr/share/fonts';
 
-function filesBelow(folder) {
-  try {
-    return readdirSync(folder, {recursive: true}).map((file) => join(folder, file));
-  } catch {
-    return []; // it need not be there
-  }
-}
+/** Their files by weight, where Debian's packages put them. */
+export const fonts = [
+  {
+    family: 'Liberation Sans',
+    regular: `${debian}/truetype/liberation/LiberationSans-Regular.ttf`,
+    bold: `${debian}/truetype/liberation/LiberationSans-Bold.ttf`,
+  },
+  {
+    family: 'DejaVu Sans',
+    regular: `${debian}/truetype/dejavu/DejaVuSans.ttf`,
+    bold: `${debian}/truetype/dejavu/DejaVuSans-Bold.ttf`,
+  },
+  {
+    family: 'Noto Sans CJK',
+    regular: `${debian}/opentype/noto/NotoSansCJK-Regular.ttc`,
+    bold: `${debian}/opentype/noto/NotoSansCJK-Bold.ttc`,
+    isLarge: true,
+  },
+];
 
-let all;
+const filesOf = (families) => families.flatMap(({regular, bold}) => [regular, bold]);
 
-/** The paths of these files; null when one is missing. */
-function find(names) {
-  all ??= folders.flatMap(filesBelow);
-  const found = names.map((name) => all.find((file) => file.endsWith(`/${name}`)));
-  return found.every(Boolean) ? found : null;
-}
+export const fontFiles = () => filesOf(fonts);
 
-const isLatin = (character) => character === '\n' || familyOf(character) !== undefined;
-const isEastern = (character) => eastAsian.test(character) && character.length === 1;
+/** The families that are not installed. */
+export const missingFamilies = () =>
+  fonts
+    .filter(({regular, bold}) => !existsSync(regular) || !existsSync(bold))
+    .map(({family}) => family);
 
-/** The files that have all characters; null where that is not known. */
-function filesOf(characters) {
-  const others = characters.filter((character) => !isLatin(character));
-  if (others.length === 0) return find(latin);
-  return others.every(isEastern) ? find(eastern) : null;
-}
+const isInSmallFonts = (character) => character === '\n' || familyOf(character) !== undefined;
 
-/** What the renderer of bitmaps is told of the faces for an SVG. */
+/**
+ * What the renderer of bitmaps loads for an SVG. To read large fonts takes longer than to
+ * draw a chart: only characters that the others do not have ask for them. Where a family
+ * is missing it looks through all that the system has, which may have its characters.
+ */
 export function fontsOf(svg) {
-  const characters = new Set(svg.replaceAll(/<[^>]*>/g, ''));
-  const files = filesOf([...characters]);
-  const faces = files ? {loadSystemFonts: false, fontFiles: files} : {loadSystemFonts: true};
-  return {...faces, defaultFontFamily: 'DejaVu Sans'};
+  const characters = [...new Set(svg.replaceAll(/<[^>]*>/g, ''))];
+  const needed = characters.every(isInSmallFonts) ? fonts.filter(({isLarge}) => !isLarge) : fonts;
+  return {
+    loadSystemFonts: missingFamilies().length > 0,
+    fontFiles: filesOf(needed).filter((file) => existsSync(file)),
+    defaultFontFamily: 'DejaVu Sans',
+    sansSerifFamily: 'DejaVu Sans',
+  };
 }

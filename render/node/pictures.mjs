@@ -10,7 +10,7 @@ import {setImmediate} from 'node:timers/promises';
 import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
 import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from '../page/pictureTexts.js';
 import {nameFaces} from './faces.mjs';
-import {fontsOf} from './fonts.mjs';
+import {fontsOf, missingFamilies} from './fonts.mjs';
 import {textWidth} from './textWidth.mjs';
 
 textMetrics.width = (item, text) => textWidth(text, item.fontSize ?? 11, item.fontWeight);
@@ -59,7 +59,10 @@ async function draw(folder, {svg, png, pdf}) {
   }
 }
 
+const missing = missingFamilies();
 const {folders, ...formats} = JSON.parse(readFileSync(0, 'utf8'));
+if (formats.png && missing.length > 0)
+  console.error(`chartxml: fonts that are not installed: ${missing.join(', ')}; other fonts take their place in PNG pictures, or characters are missing`);
 const showLine = (text) => process.stderr.isTTY && process.stderr.write(`\r\x1B[K${text}`);
 for (const [index, folder] of folders.entries()) {
   showLine(`[${index + 1}/${folders.length}] ${basename(folder)}, pictures`);

@@ -2,7 +2,7 @@
 #include <render/Pages.h>
 
 host::PageWriter host::defaultPageWriter() {
-  return {.writeChart = [](const auto& folder) { render::writeChart(folder); },
+  return {.writeChart = [](const auto& folder) { return render::writeChart(folder); },
           .writeGallery = render::updateGallery,
           .versions = render::versions()};
 }

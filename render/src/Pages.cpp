@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "assemble/Assemble.h"
+#include "check/Check.h"
 #include "page/ChartPage.h"
 #include "page/Files.h"
 #include "page/Gallery.h"
@@ -28,13 +29,14 @@ void noteTemplate(const Manifest& manifest, Notes& notes) {
 
 //   read        chart.xml, CSV, manifest      -> ChartFolder
 //   resolve     references, extents, groups   -> Chart
+//   check       what cannot be meant          -> Notes
 //   thin        rows and columns that are drawn -> Excerpts
 //   translate   one translator a node kind    -> Parts
 //   assemble    one Vega chart                -> JSON
-Json specification(const ChartFolder& folder, const Words& words) {
-  Notes notes;
+Json specification(const ChartFolder& folder, const Words& words, Notes& notes) {
   noteTemplate(folder.manifest, notes);
   Chart chart = resolve(folder, notes);
+  check(chart, notes);
   const Layout layout = Layout::of(chart, notes);
   makeUnitsEqual(chart, layout, notes);
   const std::vector<Excerpt> excerpts = excerptsOf(chart);
@@ -68,7 +70,7 @@ Manifest manifestOf(const std::filesystem::path& folder) {
 
 } // namespace
 
-void writeChart(const std::filesystem::path& chartFolder, const std::string& theme) {
+Findings writeChart(const std::filesystem::path& chartFolder, const std::string& theme) {
   const std::filesystem::path folder =
       chartFolder.has_filename() ? chartFolder : chartFolder.parent_path();
   const std::filesystem::path page = folder / "chart.html";
@@ -76,13 +78,22 @@ void writeChart(const std::filesystem::path& chartFolder, const std::string& the
     ChartFolder chart = ChartFolder::read(folder);
     if (!theme.empty()) chart.manifest.chartTemplate = theme;
     const Words words(chart.manifest.language);
-    const Json spec = specification(chart, words);
+    Notes notes;
+    const Json spec = specification(chart, words, notes);
     writeFile(folder / "chart.vg.json", laidOut(spec));
     writeFile(page, chartPage(chart.manifest, spec, words));
+    return notes.findings();
   } catch (const RenderError& e) {
     writeFile(page, refusedPage(manifestOf(folder), reasonWithin(folder, e)));
     throw;
   }
+}
+
+Findings findingsOf(const std::filesystem::path& chartFolder) {
+  const ChartFolder chart = ChartFolder::read(chartFolder);
+  Notes notes;
+  check(resolve(chart, notes), notes);
+  return notes.findings();
 }
 
 std::vector<std::string> themes() {

@@ -184,6 +184,7 @@ contains
     call set_number_format_suffix(chart, format, ' kg')
     call expect('a format is found', get_variable_num_format(chart, variable), format)
     call expect_fragment('and set', 'suffix=" kg"')
+    call load(chart, variable, [7, 8, 9])
   end subroutine
 
   !> Every row has the number of its row.
@@ -223,8 +224,8 @@ contains
 
     table = contents(trim(folder)//'/0001-calls/source0.csv')
     table = table(index(table, nl) + 1:)
-    call expect('columns are rows of the data', table, ',1,1,3,a,6,-6'//nl// &
-      ',2,2,2, b,4,-4'//nl//',3,3.25,1,7,2,-2'//nl)
+    call expect('columns are rows of the data', table, '7,1,1,3,a,6,-6'//nl// &
+      '8,2,2,2, b,4,-4'//nl//'9,3,3.25,1,7,2,-2'//nl)
   end subroutine
 
   !> Looks for a part of the chart's document.

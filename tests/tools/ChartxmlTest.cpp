@@ -107,8 +107,21 @@ INSTANTIATE_TEST_SUITE_P(
     Validate, CommandOnChart,
     testing::Values(
         Case{"cp '" GOOD_CHART "' chart.xml",
-             "validate charts charts/0001-small/chart.xml",
-             {0, "2 documents, 0 findings\n"}},
+             "validate charts/0001-small/chart.xml",
+             {0, "1 document, 0 findings\n"}},
+        Case{"cp '" GOOD_CHART "' chart.xml",
+             "validate charts",
+             {1, "charts/0001-small/chart.xml: element5/color: its variable names a node that has "
+                 "no id, and nothing is drawn of it; name a variable of the chart\n"
+                 "charts/0001-small/chart.xml: variable1: it has no values; load them, or leave it "
+                 "out\n"
+                 "1 document, 2 findings\n"}},
+        Case{"cp '" GOOD_CHART "' chart.xml; echo '\"' >source0.csv",
+             "validate charts",
+             {1,
+              "charts/0001-small/chart.xml: charts/0001-small/source0.csv:1:1: the quoted field is "
+              "not closed\n"
+              "1 document, 1 finding\n"}},
         Case{"printf '<graph>\\n<odd></graph>' >chart.xml",
              "validate charts",
              {1, "charts/0001-small/chart.xml:2:6: graph/odd: does not belong here\n"
@@ -197,6 +210,19 @@ TEST_F(Command, RendersWhatWasChangedWithoutListingTheChange) {
   EXPECT_THAT(scratch.read("charts/0001-small/chart.html"), HasSubstr("An edit"));
   EXPECT_EQ(chartxml("verify charts"),
             (Outcome{1, "charts/0001-small/chart.xml: changed\n1 chart, 1 finding\n"}));
+}
+
+TEST_F(Command, TellsWhatIsFoundInAChartThatIsRendered) {
+  ASSERT_EQ(shell("cd charts/0001-small && sed -i '1s/B,/C,/' source0.csv"), (Outcome{0, ""}));
+  const std::string finding = "v2: \"b\" has no values; load them, or leave it out";
+  EXPECT_EQ(chartxml("render charts"), (Outcome{0, "chartxml: charts/0001-small: " + finding +
+                                                       "\nopen /charts/index.html\n"}));
+  const auto manifest = nlohmann::json::parse(scratch.read("charts/0001-small/manifest.json"));
+  ASSERT_EQ(manifest["findings"].size(), 1U);
+  EXPECT_EQ(manifest["findings"][0]["text"], finding);
+  ASSERT_EQ(shell("cd charts/0001-small && sed -i '1s/C,/B,/' source0.csv && "
+                  "cd ../.. && chartxml render charts && chartxml verify charts"),
+            (Outcome{0, "open /charts/index.html\n1 chart, 0 findings\n"}));
 }
 
 TEST_F(Command, NamesChartsThatCannotBeDrawnAndDrawsTheOthers) {

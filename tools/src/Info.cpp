@@ -48,12 +48,13 @@ ordered_json notesIn(const fs::path& folder) {
   return notes.is_array() ? notes : ordered_json::array();
 }
 
-/// The manifest without hashes, and what only the folder tells.
+/// The manifest without what it tells of single files and nodes, and what only the folder
+/// tells.
 ordered_json infoOf(const fs::path& folder) {
   ordered_json info{{"folder", folder.native()}};
   const ordered_json manifest = readJson(folder / host::manifestName);
   for (const auto& [key, value] : manifest.items())
-    if (key != "files") info[key] = value;
+    if (key != "files" && key != "calls") info[key] = value;
   info["notes"] = notesIn(folder);
   info["files"] = sizesIn(folder);
   return info;

@@ -17,18 +17,27 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Makes the page; what went wrong, if anything did, is said and told.
-std::vector<std::string> drawPage(const fs::path& chart, const std::string& theme,
-                                  const Progress& progress) {
+/// What came of drawing a page.
+struct Drawn {
+  std::vector<std::string> errors{}; ///< why there is none
+  render::Findings findings{};
+};
+
+/// Makes the page; what went wrong and what was found is said and told.
+Drawn drawPage(const fs::path& chart, const std::string& theme, const Progress& progress) {
   try {
-    render::writeChart(chart, theme);
-    return {};
+    Drawn drawn{.findings = render::writeChart(chart, theme)};
+    if (!drawn.findings.empty()) progress.clear();
+    for (const host::Finding& finding : drawn.findings)
+      std::cerr << fmt::format("chartxml: {}: {}\n", chart.native(), finding.text);
+    return drawn;
   } catch (const render::RenderError& error) {
     progress.clear();
     std::cerr << "chartxml: " << error.what() << '\n';
     const std::string_view reason = error.what();
     const std::string place = chart.native() + "/";
-    return {std::string(reason.starts_with(place) ? reason.substr(place.size()) : reason)};
+    return {
+        .errors = {std::string(reason.starts_with(place) ? reason.substr(place.size()) : reason)}};
   }
 }
 
@@ -45,12 +54,11 @@ host::ChartFiles listedIn(const fs::path& chart) {
 
 /// Lists what was made in the manifest. What was not made is not looked at: a file that
 /// somebody changed stays one that is not as listed.
-void listMade(const fs::path& chart, const std::vector<std::string>& errors,
-              const PictureOptions& options) {
+void listMade(const fs::path& chart, const Drawn& drawn, const PictureOptions& options) {
   host::ChartFiles listed = listedIn(chart);
   if (listed.files.empty()) return;
   const std::pair<const char*, bool> made[] = {{"chart.html", true},
-                                               {"chart.vg.json", errors.empty()},
+                                               {"chart.vg.json", drawn.errors.empty()},
                                                {"chart.svg", options.svg},
                                                {"chart.png", options.png},
                                                {"chart.pdf", options.pdf}};
@@ -59,7 +67,8 @@ void listMade(const fs::path& chart, const std::vector<std::string>& errors,
       listed.files[name] = host::hashOf(chart / name);
   for (const auto& [name, version] : render::versions())
     listed.versions[name] = version;
-  listed.errors = errors;
+  listed.errors = drawn.errors;
+  listed.findings = drawn.findings;
   host::writeChartFiles(chart, listed);
 }
 
@@ -68,14 +77,14 @@ void listMade(const fs::path& chart, const std::vector<std::string>& errors,
 Status render(const Arguments& folders, const PictureOptions& options) {
   const std::vector<fs::path> charts = findCharts(folders);
   std::vector<fs::path> drawn;
-  std::vector<std::vector<std::string>> errors;
+  std::vector<Drawn> pages;
   std::set<fs::path> galleries;
   {
     Progress progress(charts.size());
     for (const fs::path& chart : charts) {
       progress.step(chart.filename().native() + ", page");
-      errors.push_back(drawPage(chart, options.theme, progress));
-      if (errors.back().empty()) drawn.push_back(chart);
+      pages.push_back(drawPage(chart, options.theme, progress));
+      if (pages.back().errors.empty()) drawn.push_back(chart);
       galleries.insert(fs::absolute(chart).parent_path());
     }
   }
@@ -85,7 +94,7 @@ Status render(const Arguments& folders, const PictureOptions& options) {
     allDrawn = false;
   }
   for (std::size_t i = 0; i < charts.size(); ++i)
-    listMade(charts[i], errors[i], options);
+    listMade(charts[i], pages[i], options);
   for (const fs::path& gallery : galleries) {
     render::writeGallery(gallery);
     std::cout << "open " << (gallery / "index.html").native() << '\n';

@@ -10,6 +10,7 @@
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
+#include <render/Pages.h>
 #include <schema/SchemaCheck.h>
 
 #include "Charts.h"
@@ -22,15 +23,20 @@ namespace {
 namespace fs = std::filesystem;
 using nlohmann::ordered_json;
 
-std::vector<fs::path> documentsOf(const Arguments& filesOrFolders) {
-  std::vector<fs::path> documents;
+struct ToValidate {
+  fs::path document;
+  bool hasData = false; ///< it is that of a chart folder
+};
+
+std::vector<ToValidate> documentsOf(const Arguments& filesOrFolders) {
+  std::vector<ToValidate> documents;
   for (const std::string& argument : filesOrFolders) {
     if (!fs::is_directory(argument)) {
-      documents.emplace_back(argument);
+      documents.push_back({argument});
       continue;
     }
     for (const fs::path& chart : findCharts({argument}))
-      documents.push_back(chart / "chart.xml");
+      documents.push_back({chart / "chart.xml", true});
   }
   return documents;
 }
@@ -41,6 +47,18 @@ std::string read(const fs::path& file) {
   std::string bytes(std::istreambuf_iterator<char>(stream), {});
   if (stream && !stream.bad()) return bytes;
   throw std::runtime_error(fmt::format("{}: {}", file.native(), std::strerror(errno)));
+}
+
+/// What the checks of a chart folder's document against its data find, without a place.
+std::vector<std::string> dataFindings(const fs::path& folder) {
+  std::vector<std::string> found;
+  try {
+    for (const host::Finding& finding : render::findingsOf(folder))
+      found.push_back(" " + finding.text);
+  } catch (const render::RenderError& error) {
+    found.push_back(fmt::format(" {}", error.what()));
+  }
+  return found;
 }
 
 /// {"line": 3, "column": 12, "reason": "..."}; a finding about the whole document has no
@@ -63,12 +81,13 @@ ordered_json findingJson(std::string_view finding) {
 } // namespace
 
 Status validate(const Arguments& filesOrFolders, bool asJson) {
-  const std::vector<fs::path> documents = documentsOf(filesOrFolders);
+  const std::vector<ToValidate> documents = documentsOf(filesOrFolders);
   const schema::SchemaCheck check;
   ordered_json json = ordered_json::array();
   std::size_t count = 0;
-  for (const fs::path& document : documents) {
-    const std::vector<std::string> found = check.findings(read(document));
+  for (const auto& [document, hasData] : documents) {
+    std::vector<std::string> found = check.findings(read(document));
+    if (found.empty() && hasData) found = dataFindings(document.parent_path());
     count += found.size();
     ordered_json list = ordered_json::array();
     for (const std::string& finding : found) {

@@ -12,7 +12,8 @@ namespace tools {
 
 using Arguments = std::vector<std::string>;
 
-/// Checks chart documents against the grammar.
+/// Checks chart documents against the grammar, those of chart folders against their data
+/// too.
 Status validate(const Arguments& filesOrFolders, bool asJson);
 /// Checks chart folders against the hashes in their manifests.
 Status verify(const Arguments& folders, bool asJson);

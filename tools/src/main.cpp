@@ -94,7 +94,7 @@ private:
   }
 
   void addValidate() {
-    CLI::App& verb = add("validate", "Check chart documents against their grammar",
+    CLI::App& verb = add("validate", "Check chart documents against their grammar and their data",
                          "chartxml validate charts/0001-penguins/chart.xml",
                          [this] { return tools::validate(arguments_, asJson_); });
     verb.add_option("file", arguments_,

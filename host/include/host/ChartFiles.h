@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include <host/Finding.h>
+
 /// What a chart folder is made of, as the end of its manifest lists it.
 namespace host {
 
@@ -16,6 +18,7 @@ struct ChartFiles {
   std::vector<std::string> errors;             ///< what the folder lacks, and why
   std::map<std::string, std::string> versions; ///< of what made it: library, renderer, ...
   std::map<std::string, std::string> files;    ///< "sha256:<64 hex digits>" by name
+  std::vector<Finding> findings{};             ///< of the checks that drawing ran
 };
 
 /// "sha256:<64 hex digits>" of a file's bytes. Throws ChartException.
@@ -25,8 +28,8 @@ std::string hashOf(const std::filesystem::path& file);
 /// Throws ChartException.
 std::vector<std::string> filesIn(const std::filesystem::path& chartFolder);
 
-/// Reads the end of a chart folder's manifest; empty members where it has none. Throws
-/// DataError.
+/// Reads the end of a chart folder's manifest but its findings; empty members where it has
+/// none. Throws DataError.
 ChartFiles readChartFiles(const std::filesystem::path& chartFolder);
 
 /// Writes the end of a chart folder's manifest anew and leaves the rest as it is; the

@@ -6,8 +6,11 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <host/Export.h>
+#include <host/Finding.h>
+#include <host/NodeCalls.h>
 #include <host/VarDataProcessor.h>
 #include <host/XDocument.h>
 
@@ -24,6 +27,7 @@ struct SentChart {
   const std::string& language;
   const ZephVisualization& visualization;
   const VarDataProcessor* data; ///< may be null: a chart without data
+  NodeCalls calls = {};         ///< of the document's nodes; may be empty
 };
 
 class KORVA_API ChartSink {
@@ -47,9 +51,10 @@ KORVA_API void setChartSink(std::unique_ptr<ChartSink> sink);
 /// being written aside, and the gallery page of the whole output folder. Either
 /// may be empty. They tell of a failure by an exception, best a std::exception or
 /// ChartException, which say why. A chart folder has all but the end of its manifest
-/// when its pages are written; `versions` go there, of what writes them.
+/// when its pages are written; `versions` go there, of what writes them, and so does what
+/// was found while the chart was drawn, which is reported as well.
 struct PageWriter {
-  std::function<void(const std::filesystem::path& chartFolder)> writeChart;
+  std::function<std::vector<Finding>(const std::filesystem::path& chartFolder)> writeChart;
   std::function<void(const std::filesystem::path& outputFolder)> writeGallery;
   std::map<std::string, std::string> versions = {};
 };

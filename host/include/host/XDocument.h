@@ -12,6 +12,7 @@
 #include <vector>
 
 #include <host/ChartString.h>
+#include <host/NodeCalls.h>
 #include <host/VarDataProcessor.h>
 
 /// The statistics that a procedure recorded for a variable, as the output keeps
@@ -165,6 +166,8 @@ public:
   void SetSplitHeader(const ChartString& header);
   void SetChartTemplate(const std::string& name);
   void SetChartData(const VarDataProcessor* data) { data_ = data; }
+  /// Which calls made the nodes of the document.
+  void SetCalls(host::NodeCalls calls) { calls_ = std::move(calls); }
 
   /// Sends the chart to the sink (host/ChartSink.h). False when the sink refused it
   /// with a ChartException, which is reported; other exceptions pass. The flags are
@@ -179,4 +182,5 @@ private:
   std::string splitHeader_;
   std::string template_;
   const VarDataProcessor* data_ = nullptr;
+  host::NodeCalls calls_;
 };

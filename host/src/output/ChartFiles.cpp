@@ -23,8 +23,21 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* errorsKey = "errors";
+constexpr const char* findingsKey = "findings";
 constexpr const char* versionsKey = "versions";
 constexpr const char* filesKey = "files";
+constexpr std::array endKeys{errorsKey, findingsKey, versionsKey, filesKey};
+
+nlohmann::ordered_json findingsJson(const std::vector<Finding>& findings) {
+  auto json = nlohmann::ordered_json::array();
+  for (const Finding& finding : findings) {
+    nlohmann::ordered_json one{{"check", finding.check}, {"node", finding.node}};
+    if (finding.call > 0) one.update({{"call", finding.call}, {"name", finding.callName}});
+    one["text"] = finding.text;
+    json.push_back(std::move(one));
+  }
+  return json;
+}
 
 /// Copies a manifest up to its end, which is written anew.
 class CopyManifest final : public nlohmann::json_sax<nlohmann::json> {
@@ -43,7 +56,7 @@ public:
   bool binary(binary_t&) override { return false; } // no JSON text holds one
 
   bool key(string_t& name) override {
-    if (depth_ == 1) skips_ = name == errorsKey || name == versionsKey || name == filesKey;
+    if (depth_ == 1) skips_ = std::ranges::find(endKeys, name) != endKeys.end();
     if (!skips_) writer_.key(name);
     return true;
   }
@@ -82,6 +95,7 @@ private:
   void writeEnd() {
     skips_ = false;
     writer_.member(errorsKey, files_.errors);
+    writer_.member(findingsKey, findingsJson(files_.findings));
     writer_.member(versionsKey, files_.versions);
     writer_.member(filesKey, files_.files);
   }
@@ -148,7 +162,8 @@ ChartFiles readChartFiles(const fs::path& chartFolder) {
   const nlohmann::json manifest = readJson(chartFolder / manifestName);
   ChartFiles files{.errors = {},
                    .versions = textsOf(manifest, versionsKey),
-                   .files = textsOf(manifest, filesKey)};
+                   .files = textsOf(manifest, filesKey),
+                   .findings = {}};
   if (const nlohmann::json* errors = member(manifest, errorsKey); errors && errors->is_array())
     for (const nlohmann::json& text : *errors)
       if (text.is_string()) files.errors.push_back(text.get<std::string>());

@@ -4,6 +4,7 @@
 #include <optional>
 #include <source_location>
 #include <string>
+#include <vector>
 
 #include <fmt/format.h>
 #include <host/ChartError.h>
@@ -41,8 +42,9 @@ void writeSources(const fs::path& folder, const SentChart& chart) {
 
 /// The pages read the manifest, and the manifest knows their hashes: its end comes last.
 void writeManifestEnd(const fs::path& folder, const std::optional<std::string>& failure,
+                      const std::vector<Finding>& findings,
                       const std::map<std::string, std::string>& versions) {
-  ChartFiles files{.errors = {}, .versions = versions, .files = {}};
+  ChartFiles files{.errors = {}, .versions = versions, .files = {}, .findings = findings};
   if (failure) files.errors.push_back(*failure);
   files.versions.emplace("library", libraryVersion());
   for (const std::string& name : filesIn(folder))
@@ -71,6 +73,12 @@ std::optional<std::string> failureOf(const std::function<void(const fs::path&)>&
   for (auto at = failure.find(place); at != std::string::npos; at = failure.find(place, at))
     failure.erase(at, place.size());
   return failure;
+}
+
+void reportFinding(const Finding& finding, const std::string& place) {
+  reportError({.message = fmt::format("{}: {}", place, finding.text),
+               .source = finding.where.file_name(),
+               .line = finding.where.line()});
 }
 
 void reportGallery(const std::optional<std::string>& failure, const fs::path& output) {
@@ -102,8 +110,13 @@ void FolderSink::send(const SentChart& chart) {
   writeSources(draft.path(), chart);
   writeDataPackage(draft.path(), chart, name);
   writeManifest(draft.path(), chart, name);
-  const auto pageFailure = failureOf(pages_.writeChart, draft.path());
-  writeManifestEnd(draft.path(), pageFailure, pages_.versions);
+  std::vector<Finding> findings;
+  const auto pageFailure = failureOf(
+      [&](const fs::path& chartFolder) {
+        if (pages_.writeChart) findings = pages_.writeChart(chartFolder);
+      },
+      draft.path());
+  writeManifestEnd(draft.path(), pageFailure, findings, pages_.versions);
 
   std::string folder;
   std::optional<std::string> galleryFailure;
@@ -113,9 +126,11 @@ void FolderSink::send(const SentChart& chart) {
     galleryFailure = failureOf(pages_.writeGallery, output);
   }
   // Whoever takes the reports may send a chart of its own, which needs the turn.
+  const std::string place = (output / folder).native();
+  for (const Finding& finding : findings)
+    reportFinding(finding, place);
   if (pageFailure)
-    reportError(fmt::format("the page of {} was not written: {}", (output / folder).native(),
-                            *pageFailure));
+    reportError(fmt::format("the page of {} was not written: {}", place, *pageFailure));
   reportGallery(galleryFailure, output);
 }
 

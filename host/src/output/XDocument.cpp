@@ -104,7 +104,7 @@ bool XDocument::SendChart(bool, bool, bool) {
   const std::string language = OLang::GetLanguageCode();
   try {
     host::chartSink().send({name_, xml_, description_, splitHeader_, template_, language,
-                            graph_.getImplementation(), data_});
+                            graph_.getImplementation(), data_, calls_});
     return true;
   } catch (const ChartException& refusal) {
     ChartErrorHandler::error(refusal);

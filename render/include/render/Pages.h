@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include <host/Finding.h>
+
 /// Turns finished chart folders into Vega charts and HTML pages.
 namespace render {
 
@@ -16,13 +18,20 @@ public:
   using std::runtime_error::runtime_error;
 };
 
+using Findings = std::vector<host::Finding>;
+
 /// Writes chart.vg.json and chart.html into a chart folder, from its chart.xml,
 /// its CSV files and, when it is there, its manifest.json. The same folder gives
 /// the same bytes; each file appears whole or not at all. What the chart asks for
-/// and is not drawn is named in the page's notes. Throws RenderError when the
+/// and is not drawn is named in the page's notes, and so is what the checks of the
+/// document against its data found, which is returned. Throws RenderError when the
 /// chart cannot be read; a page that says so is written all the same.
 /// `theme` is one of themes(); empty: the one that the chart's template names.
-void writeChart(const std::filesystem::path& chartFolder, const std::string& theme = {});
+Findings writeChart(const std::filesystem::path& chartFolder, const std::string& theme = {});
+
+/// The checks of a chart folder alone; nothing is written. Throws RenderError when the
+/// chart cannot be read.
+Findings findingsOf(const std::filesystem::path& chartFolder);
 
 /// The names of the themes that charts are drawn in, the usual one first.
 std::vector<std::string> themes();

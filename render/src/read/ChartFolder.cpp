@@ -25,9 +25,10 @@ std::map<std::string, Table, std::less<>> readTables(const std::filesystem::path
   return tables;
 }
 
-/// A manifest of many columns would take much memory, and pages need none of them.
-bool skipColumns(int /*depth*/, nlohmann::json::parse_event_t event, nlohmann::json& parsed) {
-  return event != nlohmann::json::parse_event_t::key || parsed != "columns";
+/// What a manifest tells of each column and each node would take much memory, and pages
+/// need none of it.
+bool skipLongParts(int /*depth*/, nlohmann::json::parse_event_t event, nlohmann::json& parsed) {
+  return event != nlohmann::json::parse_event_t::key || (parsed != "columns" && parsed != "calls");
 }
 
 } // namespace
@@ -39,7 +40,7 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
   std::ifstream stream(file);
   if (!stream) return manifest;
   try {
-    const nlohmann::json json = nlohmann::json::parse(stream, skipColumns);
+    const nlohmann::json json = nlohmann::json::parse(stream, skipLongParts);
     if (!json.is_object()) throw RenderError(fmt::format("{}: not an object", file.native()));
     const std::string name = json.value("name", "");
     if (!name.empty()) manifest.name = name;
@@ -63,7 +64,7 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
 ChartFolder ChartFolder::read(const std::filesystem::path& folder) {
   Document document = Document::read(folder / "chart.xml");
   auto tables = readTables(folder, document.graph());
-  return {Manifest::read(folder), std::move(document), std::move(tables)};
+  return {Manifest::read(folder), std::move(document), std::move(tables), folder};
 }
 
 } // namespace render

@@ -42,6 +42,7 @@ struct ChartFolder {
   Manifest manifest;
   Document document;
   std::map<std::string, Table, std::less<>> tables; ///< by source id
+  std::filesystem::path path;
 
   /// Throws RenderError for a file that is missing or malformed.
   static ChartFolder read(const std::filesystem::path& folder);

@@ -33,6 +33,7 @@ struct Dimension {
   bool isInverted = false;
   double lowerMapping = 0; ///< where along the frame its ends stand, 0 to 1
   double upperMapping = 1;
+  std::size_t notPositive = 0; ///< marks where a logarithmic scale has no logarithm
 
   /// That of the first of the variables that has one: a fitted value is shown as the
   /// values that it is fitted to.

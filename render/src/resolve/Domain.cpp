@@ -131,8 +131,9 @@ Domain domainOf(const Dimension& dimension, const Chart& chart, Notes& notes) {
   const std::string_view id = domainId(dimension, chart);
   if (id.empty() || isOfMatrix(id, chart)) return domain;
   const Node* node = chart.folder->document.find(id);
-  if (node == nullptr || node->kind != "domain") {
-    notes.add(fmt::format("the domain {} of {} is not in the chart", shown(id), dimension.role));
+  if (node == nullptr) return domain; // a lost reference
+  if (node->kind != "domain") {
+    notes.add(fmt::format("the domain {} of {} is no domain", shown(id), dimension.role));
     return domain;
   }
   collect(*node, domain, chart, 0, notes);

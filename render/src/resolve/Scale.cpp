@@ -42,8 +42,7 @@ std::optional<bool> isCategorical(const Element& element, std::string_view role)
 struct Extent {
   double low = std::numeric_limits<double>::infinity();
   double high = -low;
-  bool hasBase = false;   ///< zero is where bars begin
-  bool leavesOut = false; ///< values that the scale does not take
+  bool hasBase = false; ///< zero is where bars begin
 
   void hold(double value) {
     if (!std::isfinite(value)) return; // a sum can be too large for a number
@@ -140,10 +139,6 @@ private:
       extent.low = 1;
       extent.high = 10;
     }
-    if (extent.leavesOut)
-      notes_.add(fmt::format("values of zero and less are left out along {}: its scale does not "
-                             "take them",
-                             dimension_.role));
     widen(extent);
     addMargins(extent, domain);
     if (domain.min && takes(*domain.min, dimension_)) dimension_.low = *domain.min;
@@ -157,23 +152,24 @@ private:
     const bool isMeasure = element.measuresAlong(dimension_.role);
     const bool isLogarithm =
         dimension_.type != ScaleType::linear && dimension_.type != ScaleType::power;
+    bool isPositive = true;
     const auto take = [&](double value) {
-      if (takes(value, dimension_))
-        extent.hold(value);
-      else
-        extent.leavesOut = true;
+      isPositive = isPositive && value > 0;
+      if (takes(value, dimension_)) extent.hold(value);
     };
     for (const Item& item : items) {
       if (dimension_.role == "z") {
         take(element.z->numbers[item.row]);
         continue;
       }
+      isPositive = true;
       take(isMeasure ? item.high : item.to);
       const double start = isMeasure ? item.low : item.from;
       // A logarithm has no zero: bars begin where the scale does.
       const bool isBase = isMeasure && element.hasBase && start == 0;
       if (!isBase || !isLogarithm) take(start);
       if (isBase) extent.hasBase = true;
+      if (isLogarithm && !isPositive) ++dimension_.notPositive;
     }
   }
 
@@ -248,7 +244,10 @@ void fitRole(Dimension Panel::* along, Chart& chart, Notes& notes) {
     Dimension& first = panels.front()->*along;
     Fit(first, panels, chart, notes).fit();
     for (Panel* panel : panels)
-      if (&(panel->*along) != &first) panel->*along = first;
+      if (&(panel->*along) != &first) {
+        panel->*along = first;
+        (panel->*along).notPositive = 0; // counted once for all
+      }
   }
 }
 

@@ -76,11 +76,7 @@ void addEntry(const Element& element, const Variable& group, std::vector<Entry>&
 void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entries,
                Context& context) {
   const Node* node = context.chart.folder->document.find(target.attribute("element"));
-  if (node == nullptr) {
-    context.notes.add(fmt::format("{}: the element {} is not in the chart", target.name(),
-                                  shown(target.attribute("element"))));
-    return;
-  }
+  if (node == nullptr) return; // a lost target
   const bool isLine = node->kind == "guide" &&
                       (node->attribute("type") == "function" || node->attribute("type") == "line");
   if (isLine) return addNamed(*node, legend, context);

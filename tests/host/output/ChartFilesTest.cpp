@@ -92,6 +92,7 @@ TEST_F(ChartFiles, are_listed_with_their_hashes_and_what_made_them) {
   host::PageWriter pages;
   pages.writeChart = [](const std::filesystem::path& folder) {
     std::ofstream(folder / "chart.html") << "abc";
+    return Findings();
   };
   pages.versions = {{"renderer", "7"}};
   send("chart", pages);
@@ -124,10 +125,28 @@ TEST_F(ChartFiles, are_listed_anew_without_touching_the_rest_of_the_manifest) {
     }
   })";
   const std::string folder = scratch.path().native();
-  scratch.write("manifest.json", begin + R"(, "files": {"old": [1, {"x": 2}]}, "errors": ["e"]})");
-  host::writeChartFiles(folder, {{}, {{"library", "1"}}, {{"n", "sha256:0"}}});
+  scratch.write("manifest.json", begin + R"(, "files": {"old": [1, {"x": 2}]}, "errors": ["e"],
+                                          "findings": [{"check": "old"}]})");
+  const host::Finding known{
+      .check = "c", .node = "e/x", .call = 7, .callName = "cx_addx_", .text = "t"};
+  const host::Finding unknown{.check = "d", .node = "", .text = "u"};
+  host::writeChartFiles(folder, {{}, {{"library", "1"}}, {{"n", "sha256:0"}}, {known, unknown}});
   EXPECT_EQ(read(folder + "/manifest.json"), begin + R"(,
   "errors": [],
+  "findings": [
+    {
+      "check": "c",
+      "node": "e/x",
+      "call": 7,
+      "name": "cx_addx_",
+      "text": "t"
+    },
+    {
+      "check": "d",
+      "node": "",
+      "text": "u"
+    }
+  ],
   "versions": {
     "library": "1"
   },

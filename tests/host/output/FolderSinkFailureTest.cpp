@@ -58,7 +58,10 @@ TEST_F(FolderSinkFailure, refuses_an_output_folder_that_is_a_file) {
 
 TEST_F(FolderSinkFailure, refuses_a_chart_whose_output_folder_vanishes) {
   host::PageWriter pages;
-  pages.writeChart = [&](const std::filesystem::path&) { std::filesystem::remove_all(output); };
+  pages.writeChart = [&](const std::filesystem::path&) {
+    std::filesystem::remove_all(output);
+    return Findings();
+  };
   EXPECT_THAT(refusalOf([&] { send("a", pages); }),
               testing::MatchesRegex("can't read " + output.native() +
                                     "/.tmp-[0-9]+-[0-9]+: No such file or directory"));
@@ -121,6 +124,7 @@ TEST_F(FolderSinkFailure, leaves_nothing_of_a_chart_whose_draft_vanishes) {
   host::PageWriter pages;
   pages.writeChart = [](const std::filesystem::path& folder) {
     std::filesystem::remove_all(folder);
+    return Findings();
   };
   EXPECT_THAT(refusalOf([&] { send("a", pages); }),
               testing::MatchesRegex("can't read " + output.native() +
@@ -141,6 +145,7 @@ TEST_F(FolderSinkFailure, publishes_no_chart_into_a_folder_that_becomes_read_onl
   host::PageWriter pages;
   pages.writeChart = [&](const std::filesystem::path&) {
     permissions(output, perms::owner_read | perms::owner_exec);
+    return Findings();
   };
   EXPECT_TRUE(succeeded(start([&] {
     if (!heedPermissions()) return false;
@@ -157,8 +162,8 @@ TEST_F(FolderSinkFailure, publishes_no_chart_into_a_folder_that_becomes_read_onl
 
 // Whatever is thrown on the way, the chart is there whole or not at all.
 TEST_F(FolderSinkFailure, takes_every_exception_of_the_page_writers) {
-  const auto goBack = [](const std::filesystem::path&) { throw KorvaGoToCaller(); };
-  const auto unknown = [](const std::filesystem::path&) { throw 7; };
+  const auto goBack = [](const std::filesystem::path&) -> Findings { throw KorvaGoToCaller(); };
+  const auto unknown = [](const std::filesystem::path&) -> Findings { throw 7; };
   EXPECT_THROW(send("gone", {goBack, {}}), KorvaGoToCaller);
   EXPECT_EQ(names(output), Names{".lock"});
   EXPECT_THROW(send("there", {{}, goBack}), KorvaGoToCaller);

@@ -94,8 +94,8 @@ TEST_F(FolderSink, writes_the_same_files_for_the_same_chart) {
                              R"("label":"\"A\""},{"value":"2","label":"two"}]}]},)"
                              R"({"name":"source1","file":"","rows":0,"columns":[]}],)"
                              R"("statistics":{"aggregate":)"
-                             R"({"statistic":"range","min":1.0,"max":null}},"errors":[],)"
-                             R"("versions":{"library":")" +
+                             R"({"statistic":"range","min":1.0,"max":null}},"calls":{},)"
+                             R"("errors":[],"findings":[],"versions":{"library":")" +
                                  std::string(host::libraryVersion()) + R"("}})");
   EXPECT_EQ(reports, Names{});
 }
@@ -181,6 +181,7 @@ TEST_F(FolderSink, lets_the_pages_be_written_before_and_after_the_chart_appears)
     }
     EXPECT_EQ(names(folder), (Names{"chart.xml", "manifest.json"}));
     std::ofstream(folder / "chart.html") << "page";
+    return Findings();
   };
   pages.writeGallery = [&](const std::filesystem::path& folder) {
     std::ranges::copy(names(folder), std::back_inserter(seen));
@@ -192,7 +193,7 @@ TEST_F(FolderSink, lets_the_pages_be_written_before_and_after_the_chart_appears)
 
 TEST_F(FolderSink, delivers_a_chart_whose_pages_fail_and_says_so) {
   host::PageWriter pages;
-  pages.writeChart = [](const std::filesystem::path& folder) {
+  pages.writeChart = [](const std::filesystem::path& folder) -> Findings {
     throw std::runtime_error((folder / "chart.xml").native() + ":1:1: not drawn");
   };
   pages.writeGallery = [](const std::filesystem::path&) {
@@ -205,6 +206,19 @@ TEST_F(FolderSink, delivers_a_chart_whose_pages_fail_and_says_so) {
   EXPECT_EQ(reports, (Names{"the page of " + (output / "0001-bare").native() +
                                 " was not written: chart.xml:1:1: not drawn",
                             "the gallery of " + output.native() + " was not written: no gallery"}));
+}
+
+TEST_F(FolderSink, tells_in_log_and_manifest_what_was_found_while_a_chart_was_drawn) {
+  host::PageWriter pages;
+  pages.writeChart = [](const std::filesystem::path&) {
+    return Findings{{.check = "c", .node = "n", .text = "n: nothing in it"},
+                    {.check = "c", .node = "m", .text = "m: nothing either"}};
+  };
+  send("empty", pages);
+  const std::string place = (output / "0001-empty").native();
+  EXPECT_EQ(reports, (Names{place + ": n: nothing in it", place + ": m: nothing either"}));
+  EXPECT_THAT(read(output / "0001-empty/manifest.json"),
+              testing::HasSubstr(R"("text": "m: nothing either")"));
 }
 
 TEST_F(FolderSink, removes_what_a_process_left_that_died_while_writing) {

@@ -26,6 +26,8 @@ template <class Action> std::string refusalOf(Action action) {
   }
 }
 
+using Findings = std::vector<host::Finding>;
+
 /// An output folder of its own, a folder sink without pages, and the reports made.
 class OutputTest : public testing::Test {
 protected:

@@ -1,10 +1,10 @@
-// Prints for each text whether all faces of the machine are read for it, and whether that
-// gives the same bitmap as the faces that are handed over.
+// Prints for each text how many font files are read for it, and whether all fonts of
+// pictures give the same bitmap.
 //
 // usage: node faces.mjs <font families> <text> …
 import {Resvg} from '@resvg/resvg-js';
 import {nameFaces} from '../../../render/node/faces.mjs';
-import {fontsOf} from '../../../render/node/fonts.mjs';
+import {fontFiles, fontsOf} from '../../../render/node/fonts.mjs';
 
 const [families, ...texts] = process.argv.slice(2);
 
@@ -13,7 +13,7 @@ const results = texts.map((text) => {
 font-family="${families}" font-size="30px" transform="translate(20,40)">${text}</text></svg>`);
   const drawn = (font) => new Resvg(svg, {font}).render().pixels;
   const font = fontsOf(svg);
-  const all = {loadSystemFonts: true, defaultFontFamily: font.defaultFontFamily};
-  return [font.loadSystemFonts, drawn(font).equals(drawn(all))];
+  const all = {...font, fontFiles: fontFiles()};
+  return [font.fontFiles.length, drawn(font).equals(drawn(all))];
 });
 console.log(JSON.stringify(results));

@@ -1,5 +1,6 @@
 // Panels: which there are, what they hold, where they stand and what is written at them.
 
+#include <algorithm>
 #include <map>
 #include <string>
 
@@ -81,7 +82,8 @@ TEST_F(FacetsTest, CombinatorsMakePanelsOfTheValuesOfTheirVariables) {
     draw(facets);
     EXPECT_EQ(counts(), expected) << facets;
     EXPECT_EQ(labels(), texts) << facets;
-    EXPECT_EQ(spec_["usermeta"]["notes"], json::array()) << facets;
+    const auto empty = static_cast<std::size_t>(std::ranges::count(expected, 0U));
+    EXPECT_EQ(spec_["usermeta"]["notes"].size(), empty) << facets; // tells of empty panels
   }
 }
 
@@ -155,7 +157,6 @@ TEST_F(FacetsTest, AFacetVariableOrTheLabelOfItsLevelTellsTheGapAndTheTitle) {
   EXPECT_EQ(update["x"], json({{"value", 324 + 72}}));
   EXPECT_EQ(update["y"], json({{"value", 216 + 48}}));
   EXPECT_EQ(labels().back(), "Which kind");
-  EXPECT_EQ(spec_["usermeta"]["notes"], json::array());
 }
 
 TEST_F(FacetsTest, FacetsThatCannotBeDrawnAreNoted) {

@@ -258,7 +258,9 @@ TEST_F(TranslateTest, ValuesThatCannotBeDrawnAreCounted) {
 
 TEST_F(TranslateTest, AChartWithoutRowsOrWithoutAPlotIsStillAChart) {
   EXPECT_EQ(notes(point, "", "A,B,Group\n"),
-            json({"there are no values to draw along x", "there are no values to draw along y"}));
+            json({"there are no values to draw along x", "there are no values to draw along y",
+                  "source0: the chart uses its variables and it has no rows; add rows and load "
+                  "their values"}));
   EXPECT_EQ(notes(""), json({"the chart has no frame with dimensions or elements to draw"}));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <source_location>
@@ -16,6 +17,7 @@
 #include <host/ChartError.h>
 #include <host/ChartString.h>
 #include <host/Data.h>
+#include <host/NodeCalls.h>
 #include <host/VarDataProcessor.h>
 #include <host/XDocument.h>
 
@@ -104,7 +106,8 @@ public:
   // Handles, ids and styles
 
   /// Gives an element the next handle, which it answers.
-  int mapElement(xercesc::DOMElement* element);
+  int mapElement(xercesc::DOMElement* element,
+                 std::source_location where = std::source_location::current());
   /// The element under a handle, or null.
   xercesc::DOMElement* getElement(int handle) const;
   /// The handle of an element, or -1.
@@ -425,11 +428,22 @@ public:
   /// Turns the y scale's "safe" parameter off. Returns -1 in every case.
   int SetLogUnsafe();
 
+  // Who made the nodes
+
+  /// Counts the call that is running, once.
+  void countCall();
+  /// Tells which calls made the nodes.
+  void visitCalls(const host::TakeCall& take) const;
+
 private:
   using Where = std::source_location;
   using Element = xercesc::DOMElement;
 
   struct MeasureRule;
+  struct Maker {
+    const char* name; ///< the entry point, or the function of an operation
+    unsigned call;    ///< counts from 1
+  };
 
   // Checks of arguments that several operations share
   bool validString(int string, const char* what, Where where) const;
@@ -444,8 +458,10 @@ private:
   // Making nodes
   Element& makeElement(const XMLCh* name);
   Element& appendElement(Element& parent, const XMLCh* name);
-  int append(Element& parent, Element& child);
-  int place(Element& parent, Element& child, ConstChartStringSet before);
+  int append(Element& parent, Element& child, Where where = Where::current());
+  int place(Element& parent, Element& child, ConstChartStringSet before,
+            Where where = Where::current());
+  Maker makerNow(Where where);
   int addChild(int parent, const ChildRule& rule, Where where);
   void takeOut(Element& child);
 
@@ -490,8 +506,8 @@ private:
                           Where where);
   Element& makeColumnVariable(int source, int column, const std::u16string& name);
   int enterColumnVariable(Element& variable, const Element& source, int column,
-                          const std::u16string& name);
-  int placeVariable(Element& variable);
+                          const std::u16string& name, Where where = Where::current());
+  int placeVariable(Element& variable, Where where = Where::current());
   Element& copyWithoutId(const Element& original);
   void addVariableLabel(Element& variable, const XMLCh* attribute, const char* text);
   std::u16string nextVariableName() const;
@@ -514,7 +530,8 @@ private:
   bool isVariableOfGraph(const XMLCh* id) const;
   static void addTerm(std::u16string& expression, std::u16string_view term);
   void addLabelVariable(const Element& member, const std::u16string& id);
-  int addDerivedVariable(const std::u16string& expression, int shortLabel);
+  int addDerivedVariable(const std::u16string& expression, int shortLabel,
+                         Where where = Where::current());
   std::u16string aggregateName(int name);
   Element& appendRelabel(Element& variable, const XMLCh* from, const XMLCh* to);
   std::vector<Element*> groupingsOfElements(const XMLCh* name) const;
@@ -540,6 +557,9 @@ private:
   std::string chartTemplate_;
   PostProcessingChartType chartType_ = 0;
   ChartHashtable<Element> elements_;
+  std::vector<Maker> makers_; ///< of the node of handle 1, 2, ...
+  unsigned callCount_ = 0;
+  std::uint64_t latestCall_ = 0;
   std::map<int, std::vector<int>> variableLists_;
   std::multimap<int, int> variableColumns_;
   std::map<int, std::unique_ptr<VarDataProcessor::_varinfo>> variableStores_;

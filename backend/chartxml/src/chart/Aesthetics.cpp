@@ -83,7 +83,7 @@ int Chart::addMeasure(int parent, int variable, const MeasureRule& rule, Where w
     report(fmt::format("{} requires a variable id reference {}", rule.name, nameOf(bound)), where);
     return -1;
   }
-  return place(*target, makeBound(host::utf16(rule.name).c_str(), variable), rule.before);
+  return place(*target, makeBound(host::utf16(rule.name).c_str(), variable), rule.before, where);
 }
 
 int Chart::addRole(int parent, int variable, int role, ConstChartStringSet before, Where where) {
@@ -149,7 +149,7 @@ DOMElement& Chart::makeBound(const XMLCh* name, int variable) {
 
 int Chart::addAesthetic(int element, int variable, const ChildRule& rule, Where where) {
   DOMElement* target = aestheticParent(element, variable, rule.parent, where);
-  return target ? place(*target, makeBound(rule.name, variable), rule.before) : -1;
+  return target ? place(*target, makeBound(rule.name, variable), rule.before, where) : -1;
 }
 
 int Chart::AddColor(int element, int variable) {
@@ -187,7 +187,7 @@ int Chart::addStyleBy(int element, int variable, const ChildRule& rule, const XM
   DOMElement& styleBy = makeBound(rule.name, variable);
   AddIDAttribute(styleBy, -1, where);
   styleBy.setAttribute(_stylecycle, cycle);
-  return place(*target, styleBy, rule.before);
+  return place(*target, styleBy, rule.before, where);
 }
 
 int Chart::AddStyleBy(int element, int variable) {

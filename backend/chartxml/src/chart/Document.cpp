@@ -72,8 +72,9 @@ bool Chart::CreateChart() {
 
 // Handles
 
-int Chart::mapElement(DOMElement* element) {
+int Chart::mapElement(DOMElement* element, Where where) {
   putUnderHandle(elements_, nextHandle_, element);
+  makers_.push_back(makerNow(where));
   return nextHandle_++;
 }
 
@@ -193,14 +194,14 @@ DOMElement& Chart::appendElement(DOMElement& parent, const XMLCh* name) {
   return child;
 }
 
-int Chart::append(DOMElement& parent, DOMElement& child) {
+int Chart::append(DOMElement& parent, DOMElement& child, Where where) {
   childOrder_->append(parent, child);
-  return mapElement(&child);
+  return mapElement(&child, where);
 }
 
-int Chart::place(DOMElement& parent, DOMElement& child, ConstChartStringSet before) {
+int Chart::place(DOMElement& parent, DOMElement& child, ConstChartStringSet before, Where where) {
   childOrder_->insert(parent, child, before);
-  return mapElement(&child);
+  return mapElement(&child, where);
 }
 
 int Chart::addChild(int parent, const ChildRule& rule, Where where) {
@@ -208,7 +209,8 @@ int Chart::addChild(int parent, const ChildRule& rule, Where where) {
   DOMElement* target = accepted(parent, rule.parent, where);
   if (!target) return -1;
   DOMElement& child = makeElement(rule.name);
-  return rule.before.empty() ? append(*target, child) : place(*target, child, rule.before);
+  return rule.before.empty() ? append(*target, child, where)
+                             : place(*target, child, rule.before, where);
 }
 
 // A node that leaves the tree stays alive, because its handle does, but its id and

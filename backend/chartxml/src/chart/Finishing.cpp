@@ -100,6 +100,7 @@ int Chart::send() {
   output.SetSplitHeader(splitHeader_);
   output.SetChartTemplate(chartTemplate_);
   output.SetChartData(dataProcessor_.get());
+  output.SetCalls([this](const host::TakeCall& take) { visitCalls(take); });
   if (output.SendChart(true, false, false)) return 0;
   SkError(SkString("Chart XML Send Error", true), sendErrorShow, sendErrorLevel);
   return -1;

@@ -1,6 +1,9 @@
 // Charts with facets and groups: their aesthetics get variables of their own.
 #include <chartxml/Chart.h>
 
+#include <algorithm>
+#include <cstddef>
+
 #include "Nodes.h"
 #include "Placement.h"
 #include <host/ZephUni.h>
@@ -36,9 +39,14 @@ DOMElement* Chart::getAestheticVariable(DOMElement* variable, bool& made) {
     appendRelabel(copy, child->getAttribute(ZephUni::_from), child->getAttribute(ZephUni::_to));
   }
   AddID(copy, id.c_str());
+  const auto firstMade = static_cast<std::ptrdiff_t>(makers_.size());
   place(*document_->getDocumentElement(), copy, placement::variableCopy);
   copy.removeAttribute(ZephUni::_domain);
   setCreator(metaOf(copy), _internal_, ZephUni::_variable);
+  // Whoever looks for the call that made the variable means the original's.
+  if (const int original = getHandle(variable); original > 0)
+    std::fill(makers_.begin() + firstMade, makers_.end(),
+              makers_[static_cast<std::size_t>(original) - 1]);
   return &copy;
 }
 

@@ -112,12 +112,12 @@ void Chart::addLabelVariable(const DOMElement& member, const std::u16string& id)
   setCreator(metaOf(variable), _internal_, ZephUni::_variable);
 }
 
-int Chart::addDerivedVariable(const std::u16string& expression, int shortLabel) {
+int Chart::addDerivedVariable(const std::u16string& expression, int shortLabel, Where where) {
   DOMElement& variable = makeElement(ZephUni::_variable);
   AddIDAttribute(variable, -1);
   setFlag(variable, ZephUni::_categorical, false);
   variable.setAttribute(ZephUni::_expression, expression.c_str());
   setText(variable, ZephUni::_shortLabel, shortLabel);
   setCreator(metaOf(variable), _internal_, ZephUni::_variable);
-  return placeVariable(variable);
+  return placeVariable(variable, where);
 }

@@ -54,15 +54,15 @@ DOMElement& Chart::makeColumnVariable(int source, int column, const std::u16stri
 }
 
 int Chart::enterColumnVariable(DOMElement& variable, const DOMElement& source, int column,
-                               const std::u16string& name) {
-  const int handle = placeVariable(variable);
+                               const std::u16string& name, Where where) {
+  const int handle = placeVariable(variable, where);
   variableColumns_.emplace(handle, column);
   mapSourceName(handle, sourceIdOf(source), name.c_str());
   return handle;
 }
 
-int Chart::placeVariable(DOMElement& variable) {
-  return place(*document_->getDocumentElement(), variable, placement::variable);
+int Chart::placeVariable(DOMElement& variable, Where where) {
+  return place(*document_->getDocumentElement(), variable, placement::variable, where);
 }
 
 // The copy has the attributes only: no meta, and no values of its own.

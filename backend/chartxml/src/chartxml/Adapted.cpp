@@ -4,6 +4,7 @@
 #include <vector>
 
 int ChartXml::SetAxisPercent(int chart, int node, int formatParent) {
+  const CallScope running(Where::current().function_name());
   // Without a chart the node comes back as if all had gone well: the axis is then
   // drawn without percent signs, if at all.
   if (!findChart(chart)) return node;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../CallScope.h"
 #include <chartxml/ChartXml.h>
 
 /// A chart handle with the place where it was handed over: inside a forwarding
@@ -24,6 +25,7 @@ struct ChartXml::Column {
 /// none, else its operation.
 template <class Result, class... Parameters, class... Arguments> int
 ChartXml::onChart(At chart, Result (Chart::*operation)(Parameters...), Arguments&&... arguments) {
+  const CallScope running(chart.where.function_name());
   Chart* found = findChart(chart);
   return found ? (found->*operation)(std::forward<Arguments>(arguments)...) : -1;
 }
@@ -31,6 +33,7 @@ ChartXml::onChart(At chart, Result (Chart::*operation)(Parameters...), Arguments
 template <class... Parameters, class... Arguments>
 int ChartXml::onChart(At chart, int (Chart::*operation)(Parameters...) const,
                       Arguments&&... arguments) {
+  const CallScope running(chart.where.function_name());
   const Chart* found = findChart(chart);
   return found ? (found->*operation)(std::forward<Arguments>(arguments)...) : -1;
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "../CallScope.h"
 #include <chartxml/ChartXml.h>
 #include <host/Missing.h>
 
@@ -66,6 +67,7 @@ void reportException(const char* entryPoint);
 /// Runs the body of an entry point that needs no registry; -1 when it throws, which is
 /// reported.
 template <class Body> std::int64_t caught(const char* entryPoint, Body body) {
+  const CallScope running(entryPoint);
   try {
     return body();
   } catch (const KorvaGoToCaller&) {

@@ -86,9 +86,9 @@ int64_t createSkeleton(const char* entryPoint, const Skeleton& skeleton, void* p
                        void* const* dictionary, const char* name, const int64_t* nameLength,
                        int64_t* chartOut, int64_t* sourceOut, int64_t* outerOut,
                        int64_t* innerOut) {
-  const int64_t made = cx_createchart_(procedure, dictionary, name, nameLength);
-  if (store(chartOut, made) < 0) return made;
   return guarded(entryPoint, [&](ChartXml& registry) -> int64_t {
+    const int64_t made = cx_createchart_(procedure, dictionary, name, nameLength);
+    if (store(chartOut, made) < 0) return made;
     const int chart = static_cast<int>(made);
     const int source = registry.AddSource(chart);
     if (store(sourceOut, source) < 0) return source;
@@ -248,11 +248,13 @@ int64_t cx_addframewithlabel_(const int64_t* chart, const int64_t* parent, const
 
 int64_t cx_addsplitheaderex_(const int64_t* chart, const int64_t* parent, const void* values,
                              const int64_t*) {
-  const int64_t header = cx_splitheader_(values, nullptr);
-  if (header < 0) return header;
-  const int64_t kind = strings::subtitle;
-  const int64_t number = 1;
-  return cx_addframewithlabel_(chart, parent, &kind, &number, &header);
+  return caught(__func__, [&] {
+    const int64_t header = cx_splitheader_(values, nullptr);
+    if (header < 0) return header;
+    const int64_t kind = strings::subtitle;
+    const int64_t number = 1;
+    return cx_addframewithlabel_(chart, parent, &kind, &number, &header);
+  });
 }
 
 int64_t cx_addxyelementex_(const int64_t* chart, const int64_t* parent,

@@ -109,6 +109,7 @@ int ChartXml::AddYOfXLogistic(int chart, int parent, int functionArgument, const
 
 int ChartXml::AddYOfXWithAB(int chart, int parent, int formula, int functionArgument,
                             const double& b1, const double& b2) {
+  const CallScope running(Where::current().function_name());
   Chart* found = findChart(chart);
   if (!found) return -1;
   if (formula < 0) return formula;
@@ -122,6 +123,7 @@ int ChartXml::AddYOfXWithAB(int chart, int parent, int formula, int functionArgu
 
 int ChartXml::addLineOfTwo(const FitModel& model, const FitLine& line, const double& b1,
                            const double& b2) {
+  const CallScope running(line.chart.where.function_name());
   if (!findChart(line.chart)) return -1;
   const int chart = line.chart.handle;
   const int formula = CompositeString(line.dateScale ? model.overDates : model.plain);
@@ -135,6 +137,7 @@ int ChartXml::addLineOfTwo(const FitModel& model, const FitLine& line, const dou
 // added is named all the same, which reports that it is missing.
 int ChartXml::addLine(const FitModel& model, const FitLine& line,
                       std::initializer_list<double> coefficients) {
+  const CallScope running(line.chart.where.function_name());
   if (!findChart(line.chart)) return -1;
   const int chart = line.chart.handle;
   const int formula = CompositeString(line.dateScale ? model.overDates : model.plain);

@@ -125,7 +125,9 @@ Chart* ChartXml::getValidChart(int handle, const char* sourceFile, unsigned line
 }
 
 Chart* ChartXml::findChart(At chart) const {
-  return getValidChart(chart.handle, chart.where.file_name(), chart.where.line(), true);
+  Chart* found = getValidChart(chart.handle, chart.where.file_name(), chart.where.line(), true);
+  if (found) found->countCall();
+  return found;
 }
 
 Chart* ChartXml::findSilently(int chart) const { return getValidChart(chart, "", 0, false); }
