@@ -74,6 +74,15 @@ add("titanic/0002-titanic", "element_clusteredbar_1",
     data.frame(variable4 = as.character(fates$class), variable5 = as.character(fates$survived),
                low = 0, high = fates$persons))
 
+people <- read("us_population")
+people$class <- 5 * (people$age %/% 5)
+for (i in 1:3) {
+  millions <- aggregate(persons / 1e6 ~ sex + class, subset(people, year == 1990 + 10 * i), sum)
+  add(sprintf("population/%04d-population", i), "element_areabar_1",
+      data.frame(variable6 = as.character(millions$class), variable7 = as.character(millions$sex),
+                 low = 0, high = ifelse(millions$sex == 1, -1, 1) * millions[[3]]))
+}
+
 # Means with their limits, and other summaries of rows that weigh.
 limits <- function(x) mean(x) + c(-1.96, 1.96) * sd(x) / sqrt(length(x))
 means <- by_groups(penguins, c("island", "species"), function(d)
@@ -114,6 +123,21 @@ trends <- unsplit(lapply(split(economics, economics$decade), function(d)
   fitted(lm(savings_rate ~ day, d, tol = 1e-30))), economics$decade)
 add("economics/0002-economics", "element_simpleline_1",
     data.frame(variable5 = economics$day, variable7 = trends))
+
+# Scores of variance 1, turned so that the largest weight of an axis is positive.
+scores <- function(shown) {
+  components <- prcomp(shown)
+  turn <- apply(components$rotation, 2, function(weights) sign(weights[which.max(abs(weights))]))
+  found <- scale(components$x %*% diag(turn))[, 1:2]
+  data.frame(variable14 = found[, 1], variable15 = found[, 2])
+}
+states <- read("states")
+standardized <- scale(states[-(1:3)])
+crimes <- standardized[, c("murder", "assault", "rape")]
+explained <- fitted(lm(crimes ~ standardized[, -(1:3)]))
+add("ordination/0001-ordination", "source0",
+    data.frame(variable12 = states$abbreviation, scores(standardized[, 1:4])))
+add("ordination/0002-ordination", "source0", data.frame(variable12 = states$abbreviation, scores(explained)))
 
 census <- read("census")
 y <- census$population
