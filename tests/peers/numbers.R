@@ -124,21 +124,6 @@ trends <- unsplit(lapply(split(economics, economics$decade), function(d)
 add("economics/0002-economics", "element_simpleline_1",
     data.frame(variable5 = economics$day, variable7 = trends))
 
-# Scores of variance 1, turned so that the largest weight of an axis is positive.
-scores <- function(shown) {
-  components <- prcomp(shown)
-  turn <- apply(components$rotation, 2, function(weights) sign(weights[which.max(abs(weights))]))
-  found <- scale(components$x %*% diag(turn))[, 1:2]
-  data.frame(variable14 = found[, 1], variable15 = found[, 2])
-}
-states <- read("states")
-standardized <- scale(states[-(1:3)])
-crimes <- standardized[, c("murder", "assault", "rape")]
-explained <- fitted(lm(crimes ~ standardized[, -(1:3)]))
-add("ordination/0001-ordination", "source0",
-    data.frame(variable12 = states$abbreviation, scores(standardized[, 1:4])))
-add("ordination/0002-ordination", "source0", data.frame(variable12 = states$abbreviation, scores(explained)))
-
 census <- read("census")
 y <- census$population
 # Divided by its largest, x keeps the digits of its powers.
