@@ -27,6 +27,16 @@ module penguin_cases
     integer, allocatable :: code(:)
   end type
 
+  interface
+    subroutine dlasrt(id, n, d, info)
+      import :: dp
+      character, intent(in) :: id
+      integer, intent(in) :: n
+      real(dp), intent(inout) :: d(*)
+      integer, intent(out) :: info
+    end subroutine
+  end interface
+
   !> The cases without missing values.
   type, public :: penguin_sample
     type(factor) :: species, island, sex
@@ -60,43 +70,52 @@ contains
     type(data_set), intent(in) :: observations
     type(penguin_sample), intent(out) :: cases
     real(dp) :: cells(row_cells)
-    integer :: row
+    integer :: rows, row, kept
 
-    cases%species = new_factor(species_number)
-    cases%island = new_factor(island_number)
-    cases%sex = new_factor(sex_number)
-    allocate (cases%flipper(0), cases%mass(0))
-    do row = 1, observations%row_count()
+    rows = observations%row_count()
+    cases%species = new_factor(species_number, rows)
+    cases%island = new_factor(island_number, rows)
+    cases%sex = new_factor(sex_number, rows)
+    allocate (cases%flipper(rows), cases%mass(rows))
+    kept = 0
+    do row = 1, rows
       call require(observations%read_row(row, cells), 'cannot read the data set')
       if (any(cells(flipper_cell:) <= missing_value())) cycle
       if (text_of_cells(cells([sex_cell])) == '') cycle
-      call add_name(cases%species, cells(species_cells))
-      call add_name(cases%island, cells(island_cells))
-      call add_name(cases%sex, cells([sex_cell]))
-      cases%flipper = [cases%flipper, cells(flipper_cell)]
-      cases%mass = [cases%mass, cells(mass_cell)]
+      kept = kept + 1
+      call name_case(cases%species, kept, cells(species_cells))
+      call name_case(cases%island, kept, cells(island_cells))
+      call name_case(cases%sex, kept, cells([sex_cell]))
+      cases%flipper(kept) = cells(flipper_cell)
+      cases%mass(kept) = cells(mass_cell)
     end do
-    call require(size(cases%mass) > 1, 'the data set has too few complete cases')
+    call require(kept > 1, 'the data set has too few complete cases')
+    cases%species%code = cases%species%code(:kept)
+    cases%island%code = cases%island%code(:kept)
+    cases%sex%code = cases%sex%code(:kept)
+    cases%flipper = cases%flipper(:kept)
+    cases%mass = cases%mass(:kept)
   end subroutine
 
-  type(factor) function new_factor(number)
-    integer, intent(in) :: number
+  type(factor) function new_factor(number, rows)
+    integer, intent(in) :: number, rows
 
     new_factor%number = number
-    allocate (new_factor%levels(0), new_factor%labels(0), new_factor%code(0))
+    allocate (new_factor%levels(0), new_factor%labels(0), new_factor%code(rows))
   end function
 
-  subroutine add_name(to, cells)
-    type(factor), intent(inout) :: to
+  subroutine name_case(of, number, cells)
+    type(factor), intent(inout) :: of
+    integer, intent(in) :: number
     real(dp), intent(in) :: cells(:)
     character(name_length) :: level
 
     level = text_of_cells(cells)
-    if (.not. any(to%levels == level)) then
-      to%levels = [to%levels, level]
-      to%labels = [to%labels, value_label(to%number, cells)]
+    if (.not. any(of%levels == level)) then
+      of%levels = [of%levels, level]
+      of%labels = [of%labels, value_label(of%number, cells)]
     end if
-    to%code = [to%code, findloc(to%levels, level, dim=1)]
+    of%code(number) = findloc(of%levels, level, dim=1)
   end subroutine
 
   ! Statistics
@@ -112,10 +131,12 @@ contains
     real(dp), intent(in) :: values(:)
     type(box) :: numbers
     real(dp) :: sorted(size(values))
-    integer :: n, half
+    integer :: n, half, info
 
-    sorted = in_order(values)
+    sorted = values
     n = size(values)
+    call dlasrt('I', n, sorted, info)
+    call require(info == 0, 'cannot sort the values')
     half = (n + 1)/2
     numbers = box(sorted(1), median_of(sorted(:half)), median_of(sorted), &
       median_of(sorted(n - half + 1:)), sorted(n))
@@ -127,22 +148,6 @@ contains
 
     n = size(sorted)
     median_of = (sorted((n + 1)/2) + sorted(n/2 + 1))/2
-  end function
-
-  pure function in_order(values) result(sorted)
-    real(dp), intent(in) :: values(:)
-    real(dp) :: sorted(size(values)), value
-    integer :: i, j
-
-    sorted = values
-    do i = 2, size(sorted)
-      value = sorted(i)
-      do j = i - 1, 1, -1
-        if (sorted(j) <= value) exit
-        sorted(j + 1) = sorted(j)
-      end do
-      sorted(j + 1) = value
-    end do
   end function
 
 end module

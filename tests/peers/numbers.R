@@ -74,6 +74,15 @@ add("titanic/0002-titanic", "element_clusteredbar_1",
     data.frame(variable4 = as.character(fates$class), variable5 = as.character(fates$survived),
                low = 0, high = fates$persons))
 
+people <- read("us_population")
+people$class <- 5 * (people$age %/% 5)
+for (i in 1:3) {
+  millions <- aggregate(persons / 1e6 ~ sex + class, subset(people, year == 1990 + 10 * i), sum)
+  add(sprintf("population/%04d-population", i), "element_areabar_1",
+      data.frame(variable6 = as.character(millions$class), variable7 = as.character(millions$sex),
+                 low = 0, high = ifelse(millions$sex == 1, -1, 1) * millions[[3]]))
+}
+
 # Means with their limits, and other summaries of rows that weigh.
 limits <- function(x) mean(x) + c(-1.96, 1.96) * sd(x) / sqrt(length(x))
 means <- by_groups(penguins, c("island", "species"), function(d)

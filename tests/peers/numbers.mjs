@@ -78,10 +78,18 @@ function endsOf(group, name) {
   return group.marks?.map((mark) => endsOf(mark, name)).find((ends) => ends.length > 0) ?? [];
 }
 
-async function differences({chart, data, some, items}) {
+/** The chart's Vega text, and the view of it; entries of a chart follow each other. */
+const last = {};
+async function open(chart) {
+  if (last.chart === chart) return last;
   const spec = JSON.parse(readFileSync(join(output, chart, 'chart.vg.json'), 'utf8'));
+  return Object.assign(last, {chart, spec, view: await new View(parse(spec)).runAsync()});
+}
+
+async function differences({chart, data, some, items}) {
+  const {spec, view} = await open(chart);
   const [, scale] = /^scale (.*)/.exec(data) ?? [];
-  const found = scale ? endsOf(spec, scale) : (await new View(parse(spec)).runAsync()).data(data);
+  const found = scale ? endsOf(spec, scale) : view.data(data);
   if (data.startsWith('guide')) return items.filter((item) => !isOnCurve(found, item));
   const missing = items.filter((item) => !found.some((each) => isItem(each, item)));
   const extra = some ? [] : found.filter((each) => !items.some((item) => isItem(each, item)));
