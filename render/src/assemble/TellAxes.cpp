@@ -5,6 +5,7 @@
 #include "assemble/Telling.h"
 #include "translate/FacetLabels.h"
 #include "translate/Space.h"
+#include "translate/Style.h"
 
 namespace render {
 namespace {
@@ -49,13 +50,28 @@ std::string titleOf(std::string_view role, const Telling& telling) {
   return title.empty() ? telling.words("Count") : title;
 }
 
+/// Whether an element has a say in what an axis is told to show: not error bars and drop
+/// lines, which lead to what others show.
+bool counts(const Element& element, std::string_view role) {
+  const bool isMeasured = element.measuresAlong(role) && element.method != Method::none;
+  return (element.along(role) != nullptr || isMeasured) && !element.isSlice &&
+         element.method != Method::distribution && lookOf(*element.node) == Look::usual;
+}
+
+std::vector<double> valuesAlong(std::string_view role, const Element& element, const Chart& chart) {
+  const Variable* variable = element.along(role);
+  const bool isMeasured = element.measuresAlong(role) && element.method != Method::none &&
+                          element.method != Method::hexagons;
+  return isMeasured || variable == nullptr ? measuredValues(element, chart)
+                                           : drawnValues(element, *variable);
+}
+
 std::string tellAxis(std::string_view role, std::string_view key, const Telling& telling) {
   const Chart& chart = telling.chart;
   const Dimension& dimension = chart.panels.front().along(role);
-  const auto element = std::ranges::find_if(chart.elements, [&](const Element& each) {
-    return each.along(role) != nullptr || (each.measuresAlong(role) && each.method != Method::none);
-  });
-  if (element == chart.elements.end() || element->isSlice) return {};
+  const auto element = std::ranges::find_if(
+      chart.elements, [role](const Element& each) { return counts(each, role); });
+  if (element == chart.elements.end()) return {};
   const Variable* variable = element->along(role);
   const std::string title = titleOf(role, telling);
   if (dimension.categorical) {
@@ -64,11 +80,11 @@ std::string tellAxis(std::string_view role, std::string_view key, const Telling&
       labels.push_back(variable != nullptr ? telling.label(*variable, category) : category.label);
     return telling.words(key, {fmt::format("{} ({})", title, listed(labels))});
   }
-  const bool isMeasured = element->measuresAlong(role) && element->method != Method::none &&
-                          element->method != Method::hexagons;
-  const std::vector<double> values = isMeasured || variable == nullptr
-                                         ? measuredValues(*element, chart)
-                                         : drawnValues(*element, *variable);
+  std::vector<double> values;
+  for (const Element& each : chart.elements)
+    if (counts(each, role))
+      for (const double value : valuesAlong(role, each, chart))
+        values.push_back(value);
   return telling.words(key, {rangeOf(title, variable, values, telling)});
 }
 

@@ -78,7 +78,7 @@ std::string tellItem(const Told& told, const Element& element, const Telling& te
   if (element.isComposed())
     return telling.words("Range^3", {told.label, telling.value(measure, told.item->low),
                                      telling.value(measure, told.item->high)});
-  return fmt::format("{} {}", told.label, telling.value(measure, told.item->value));
+  return fmt::format("{}: {}", told.label, telling.value(measure, told.item->value));
 }
 
 /// Each value, or the ends of many.
@@ -95,8 +95,10 @@ std::string tellItems(const Telling& telling) {
       const auto code = [&item](const Variable* variable) {
         return variable != nullptr && variable->categorical ? variable->codes[item.row] : 0;
       };
+      std::string label = labelOf(item, *element, panel, telling);
+      if (label.empty()) continue;
       all.push_back({.item = &item,
-                     .label = labelOf(item, *element, panel, telling),
+                     .label = std::move(label),
                      .order = {static_cast<double>(&panel - telling.chart.panels.data()),
                                code(element->place()), code(element->group)}});
     }

@@ -22,13 +22,14 @@ std::string Telling::label(const Variable& variable, const Category& category) c
 
 std::string listed(const std::vector<std::string>& texts) {
   const bool haveCommas = std::ranges::any_of(
-      texts, [](const std::string& text) { return text.find(", ") != text.npos; });
-  const std::string_view between = haveCommas ? "; " : ", ";
+      texts, [](const std::string& text) { return text.find(',') != text.npos; });
   std::string list;
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    if (i > 0) list += between;
-    if (i == mostListed) return list + "...";
-    list += texts[i];
+  std::size_t count = 0;
+  for (const std::string& text : texts) {
+    if (text.find_first_not_of(' ') == text.npos) continue;
+    if (!list.empty()) list += haveCommas ? "; " : ", ";
+    if (count++ == mostListed) return list + "...";
+    list += text;
   }
   return list;
 }

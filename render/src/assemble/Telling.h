@@ -27,7 +27,7 @@ struct Telling {
 constexpr std::size_t mostListed = 12;
 
 /// Texts one after the other, the first `mostListed` of them, between commas; between
-/// semicolons when they have commas of their own.
+/// semicolons when they have commas of their own, in numbers too. Blank ones are left out.
 std::string listed(const std::vector<std::string>& texts);
 
 /// The values of a continuous variable in the rows that an element draws; of all its members,

@@ -62,17 +62,17 @@ TEST(Describe, TellsEachKindWithItsVariablesAndValues) {
        "Histogram. With: normal curve. x axis: A label from 1 to 9. y axis: Count from 1 to 5. "
        "Fullest bin: 5, from 0 to 5"},
       {R"(<element type="schema" id="i"><x variable="v3"/><y variable="v2"/></element>)",
-       "Box plot. x axis: Group (Ä, b). y axis: b from 4 to 45. Medians: Ä 32.5, b 7.5"},
+       "Box plot. x axis: Group (Ä, b). y axis: b from 4 to 45. Medians: Ä: 32.5, b: 7.5"},
       {R"(<coordinateTransform method="polar"/><element type="interval" id="i">
           <theta variable="v2"/><color variable="v3"/><statistic method="sum"/></element>)",
-       "Pie chart. Values: Ä 65, b 49"},
+       "Pie chart. Values: Ä: 65, b: 49"},
       {R"(<element type="interval" id="i" positionModifier="dodge"><x variable="v3"/>
           <y variable="v2"/><color variable="v3"/><statistic method="mean"/></element>
           <element type="point" id="p"><x variable="v3"/><y variable="v2"/></element>
           <guide type="line" id="g"><parameter name="y" value="20"/></guide>
           <guide type="function" id="f" name="F"><parameter name="y" value="x"/></guide>)",
        "Clustered bar chart. With: points, reference lines. x axis: Group (Ä, b). y axis: b from "
-       "12.25 to 32.5. Values: Ä 32.5, b 12.25"},
+       "4 to 45. Values: Ä: 32.5, b: 12.25"},
       {R"(<dimension role="x"><axis><label id="axis">Weeks</label></axis></dimension>
           <element type="area" id="a" positionModifier="stack"><x variable="v1"/><y variable="v2"/>
           <color variable="v3"/></element>)",
@@ -102,9 +102,11 @@ TEST(Describe, NamesTheEndsOfManyValuesAndSeparatesLabelsWithCommas) {
     table += fmt::format("0,{},g{}\n", i * i - 6 * i, i);
   EXPECT_EQ(sentences(bars, table),
             "Bar chart. x axis: Group (g0, g1, g10, g11, g12, g2, g3, g4, g5, g6, g7, g8, ...). y "
-            "axis: b from -9 to 72. Highest: g12 72; lowest: g3 -9");
+            "axis: b from -9 to 72. Highest: g12: 72; lowest: g3: -9");
+  EXPECT_EQ(sentences(bars, "A,B,Group\n0,1500,y\n0,2, \n"),
+            "Bar chart. x axis: Group (y). y axis: b from 2 to 1,500. Values: y: 1,500");
   EXPECT_EQ(sentences(bars, "A,B,Group\n0,1,\"y, z\"\n0,2,x\n"),
-            "Bar chart. x axis: Group (x; y, z). y axis: b from 1 to 2. Values: x 2; y, z 1");
+            "Bar chart. x axis: Group (x; y, z). y axis: b from 1 to 2. Values: x: 2; y, z: 1");
 }
 
 TEST(Describe, TakesTheNameOfAChartThatSaysNothing) {
