@@ -109,10 +109,10 @@ void labelNumbers(Json& json, const Dimension& dimension, const Node& axis,
   const Ticks ticks = ticksOf(dimension, majorTicks, context);
   const bool isPercent = showsPercent(axis);
   const double magnitude = std::max(std::abs(dimension.low), std::abs(dimension.high));
-  std::string text = tickText(formatOf(axis, format, context.notes),
-                              isPercent ? "(datum.value*100)" : "datum.value",
-                              isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
-                              isPercent ? 100 * magnitude : magnitude);
+  std::string text = tickText(
+      formatOf(axis, format, context.notes), isPercent ? "(datum.value*100)" : "datum.value",
+      isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
+      isPercent ? 100 * magnitude : magnitude, dimension.type == ScaleType::log);
   setTicks(json, ticks.values, labelled(valueLabelsOf(dimension), "datum.value", std::move(text)));
 }
 
