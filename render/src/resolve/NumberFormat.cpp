@@ -130,7 +130,7 @@ std::string numberText(const std::optional<NumberFormat>& format, std::string_vi
 }
 
 std::string tickText(const std::optional<NumberFormat>& format, std::string_view value,
-                     int tickDecimals, double magnitude) {
+                     int tickDecimals, double magnitude, bool areAtPowers) {
   constexpr double longestPlain = 1e12;
   constexpr int mostPlainDecimals = 9;
   const NumberFormat used = format.value_or(NumberFormat{});
@@ -141,7 +141,7 @@ std::string tickText(const std::optional<NumberFormat>& format, std::string_view
   const int most = used.maximumFractionDigits.value_or(mostDecimals);
   const int decimals =
       std::min(std::max(used.minimumFractionDigits.value_or(0), tickDecimals), most);
-  return affixed(used, fixed(used, value, decimals, decimals));
+  return affixed(used, fixed(used, value, areAtPowers ? 0 : decimals, decimals));
 }
 
 } // namespace render

@@ -34,8 +34,9 @@ std::string numberText(const std::optional<NumberFormat>& format, std::string_vi
 
 /// The same for the labels of an axis whose ticks differ from the given decimal
 /// onward: as many decimals as the format wants, and enough to tell the ticks
-/// apart. `magnitude` is the largest absolute value on the axis.
+/// apart. `magnitude` is the largest absolute value on the axis. Ticks at powers have as
+/// many decimals as each needs: 0.01, 0.1, 1.
 std::string tickText(const std::optional<NumberFormat>& format, std::string_view value,
-                     int tickDecimals, double magnitude);
+                     int tickDecimals, double magnitude, bool areAtPowers = false);
 
 } // namespace render

@@ -4,6 +4,7 @@
 
 #include "translate/Encode.h"
 #include "translate/Filling.h"
+#include "translate/PlaceOrder.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
@@ -73,6 +74,13 @@ void addPolarArea(const Element& element, Context& context) {
           context);
 }
 
+/// A band has no pattern, which would hide what it is about.
+void fill(Json& update, const Element& element, Context& context) {
+  update["fill"] = element.isComposed() ? color(element, context) : filling(element, context);
+  if (!element.isComposed()) addOutline(update, context);
+  update["fillOpacity"] = {{"value", areaOpacity(element)}};
+}
+
 } // namespace
 
 /// An area from low to high along the places of each group.
@@ -90,14 +98,11 @@ void translateArea(const Node& node, Context& context) {
   if (!isAcross(place, context.chart)) update["orient"] = {{"value", "horizontal"}};
   if (const std::string_view steps = interpolationOf(node); steps != "linear")
     update["interpolate"] = {{"value", steps}};
-  update["fill"] = filling(*element, context);
-  addOutline(update, context);
-  update["fillOpacity"] = {{"value", theme::areaOpacity}};
+  fill(update, *element, context);
   if (element->group != nullptr) update["tooltip"] = itemTooltip(*element, context);
 
   Json data = elementData(*element, context);
-  if (element->place() != nullptr && !element->place()->categorical)
-    data["transform"].push_back({{"type", "collect"}, {"sort", {{"field", "place"}}}});
+  sortAlongPlace(*element, context, data);
   context.parts.data.push_back(std::move(data));
   addMark(*element,
           {{"type", "area"},

@@ -78,10 +78,10 @@ AxisTicks axisTicks(const Dimension& dimension, const Node* axis, TickRoom room,
   const Ticks ticks = ticksOf(dimension, majorTicks, room.numbers, context);
   const bool isPercent = showsPercent(axis);
   const double magnitude = std::max(std::abs(dimension.low), std::abs(dimension.high));
-  std::string text = tickText(formatOf(axis, format, context.notes),
-                              isPercent ? "(datum.value*100)" : "datum.value",
-                              isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
-                              isPercent ? 100 * magnitude : magnitude);
+  std::string text = tickText(
+      formatOf(axis, format, context.notes), isPercent ? "(datum.value*100)" : "datum.value",
+      isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
+      isPercent ? 100 * magnitude : magnitude, dimension.type == ScaleType::log);
   return {.values = ticks.values,
           .label = labelled(valueLabelsOf(dimension), "datum.value", std::move(text))};
 }

@@ -10,7 +10,7 @@
 #include "translate/NamedLegend.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
-#include "translate/Translator.h"
+#include "translate/Tile.h"
 
 namespace render {
 namespace {
@@ -39,23 +39,29 @@ bool asksFor(const Variable& variable, const Node& target, const Element& elemen
 }
 
 /// A range of colors with the values at its ends.
-void addShadeLegend(const Element& element, const Node& legend, Context& context) {
-  const Variable& shade = *element.shade;
-  color(element, context); // adds the scale
-  const std::string name = scaleName("shade", shade.id);
-  const auto isOfShade = [&](const Json& each) {
+void addGradient(const std::string& name, const std::string& title, const Format& format,
+                 const Node& legend, Context& context) {
+  const auto hasColors = [&](const Json& each) {
     return each.contains("fill") && each["fill"] == name;
   };
-  if (std::ranges::any_of(context.parts.legends, isOfShade)) return;
+  if (std::ranges::any_of(context.parts.legends, hasColors)) return;
   const Node* label = legend.child("label");
   context.parts.legends.push_back(
       {{"fill", name},
        {"type", "gradient"},
-       {"title", legendTitle(label && !label->text.empty() ? label->text : shade.title)},
+       {"title", legendTitle(label && !label->text.empty() ? label->text : title)},
        {"gradientLength", 160},
        {"encode",
         {{"labels",
-          {{"update", {{"text", {{"signal", valueText(shade.format, "datum.value")}}}}}}}}}});
+          {{"update",
+            {{"text", {{"signal", valueText(format, "datum.value")}}},
+             {"dx", {{"value", 4}}}}}}}}}});
+}
+
+void addShadeLegend(const Element& element, const Node& legend, Context& context) {
+  const Variable& shade = *element.shade;
+  color(element, context); // adds the scale
+  addGradient(scaleName("shade", shade.id), shade.title, shade.format, legend, context);
 }
 
 void addEntry(const Element& element, const Variable& group, std::vector<Entry>& entries,
@@ -83,6 +89,8 @@ void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entri
   // An element that is not drawn has no entry.
   const Element* element = context.chart.find(*node);
   if (element == nullptr) return;
+  if (element->method == Method::hexagons && element->type() != "point")
+    return addGradient(addCountScale(*element, context), "n", Format(), legend, context);
   if (element->shade != nullptr) addShadeLegend(*element, legend, context);
   if (element->group == nullptr && element->shade == nullptr)
     return addNamed(*node, legend, context);

@@ -3,6 +3,7 @@
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
+#include "translate/PlaceOrder.h"
 #include "translate/Style.h"
 #include "translate/StyleCycle.h"
 #include "translate/Theme.h"
@@ -39,35 +40,16 @@ Json lineMark(const Element& element, Context& context) {
   } else if (Json dash = lineDash(element, context.chart); !dash.empty()) {
     update["strokeDash"] = {{"value", std::move(dash)}};
   }
+  if (const auto look = lineLookOf(*element.node); look && element.group == nullptr) {
+    update["stroke"] = {{"signal", look->stroke}};
+    update["strokeWidth"] = {{"value", theme::thinWidth}};
+    update.erase("strokeDash");
+    if (look->isDashed) update["strokeDash"] = {{"value", theme::functionDash(0)}};
+  }
   return {{"type", "line"},
           {"from", nullptr},
           {"clip", isClipped(context.chart)},
           {"encode", {{"update", std::move(update)}}}};
-}
-
-/// Items are in the order of their categories, rows are not.
-void sortByCategory(const Element& element, Json& data, const Context& context) {
-  std::string keys;
-  for (const Category& category : context.along(placeRole(element)).categories)
-    keys += fmt::format("{}{}", keys.empty() ? "" : ",", literal(category.key));
-  data["transform"].push_back(
-      {{"type", "formula"},
-       {"expr", fmt::format("indexof([{}],{})", keys, datum(element.place()->id))},
-       {"as", "order"}});
-  data["transform"].push_back({{"type", "collect"}, {"sort", {{"field", "order"}}}});
-}
-
-/// A line goes along its place; a path as its rows do.
-void sort(const Element& element, Json& data, const Context& context) {
-  const bool isPath = element.type() != "line";
-  const Variable* place = element.place();
-  if (isPath || place == nullptr) return;
-  if (place->categorical) {
-    if (element.isPlain()) sortByCategory(element, data, context);
-    return;
-  }
-  const std::string field = element.isPlain() ? fieldPath(place->id) : "place";
-  data["transform"].push_back({{"type", "collect"}, {"sort", {{"field", field}}}});
 }
 
 } // namespace
@@ -78,7 +60,8 @@ void translateLine(const Node& node, Context& context) {
   if (element == nullptr) return;
   if (lookOf(node) == Look::hidden) return addLabelsAlone(*element, context);
   Json data = elementData(*element, context);
-  sort(*element, data, context);
+  // A path goes as its rows do.
+  if (element->type() == "line") sortAlongPlace(*element, context, data);
   context.parts.data.push_back(std::move(data));
   addMark(*element, lineMark(*element, context), true, context);
   addLabels(*element, context);

@@ -41,9 +41,13 @@ Named drawnAs(const Element& element, const Context& context) {
   } else if (type == "line" || type == "path" || type == "edge") {
     named.shape = theme::lineSymbol;
     named.dash = lineDash(element, context.chart);
+    if (const auto own = lineLookOf(*element.node)) {
+      named.color = own->stroke;
+      named.dash = own->isDashed ? theme::functionDash(0) : Json::array();
+    }
   } else {
     named.shape = theme::barSymbol;
-    named.opacity = type == "area" ? theme::areaOpacity : theme::barOpacity;
+    named.opacity = type == "area" ? areaOpacity(element) : theme::barOpacity;
   }
   return named;
 }

@@ -136,6 +136,10 @@ void translatePoint(const Node& node, Context& context) {
     if (update["size"].contains("value") && element->method != Method::dots)
       update["size"] = {{"value", rimShare * update["size"]["value"].get<double>()}};
   }
+  if (isCensored(node) && element->shape == nullptr) {
+    update["shape"] = {{"value", theme::crossSymbol}};
+    update["stroke"] = element->group ? color(*element, context) : Json{{"signal", "ink"}};
+  }
   update["tooltip"] = tooltip.empty() ? itemTooltip(*element, context)
                                       : Json{{"signal", fmt::format("[{}]", tooltip)}};
 

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "text/Show.h"
+#include "translate/Theme.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -31,6 +32,20 @@ constexpr Word<std::string_view> interpolations[] = {
     {"survival_line", "step-after"},
 };
 
+constexpr LineLook centerLine{.stroke = "ink", .isDashed = false};
+constexpr LineLook limit{.stroke = "palette[1]", .isDashed = true};
+constexpr LineLook specification{.stroke = "ink", .isDashed = true};
+
+constexpr Word<std::optional<LineLook>> lineLooks[] = {
+    {"controlchart_Average", centerLine},
+    {"controlchart_LCL", limit},
+    {"controlchart_UCL", limit},
+    {"controlchart_Center_Step_LCL", limit},
+    {"controlchart_Center_Step_UCL", limit},
+    {"controlchart_LSpec", specification},
+    {"controlchart_USpec", specification},
+};
+
 template <typename Value, std::size_t count>
 Value valueOf(const Node& element, const Word<Value> (&words)[count], Value otherwise) {
   for (const auto& [word, value] : words)
@@ -44,6 +59,18 @@ Look lookOf(const Node& element) { return valueOf(element, looks, Look::usual); 
 
 std::string_view interpolationOf(const Node& element) {
   return valueOf(element, interpolations, std::string_view("linear"));
+}
+
+std::optional<LineLook> lineLookOf(const Node& element) {
+  return valueOf(element, lineLooks, std::optional<LineLook>());
+}
+
+double areaOpacity(const Element& element) {
+  return element.isComposed() ? theme::bandOpacity : theme::areaOpacity;
+}
+
+bool isCensored(const Node& element) {
+  return element.id().find("survival_censored") != std::string_view::npos;
 }
 
 void forEachProperty(std::string_view value,

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "resolve/Chart.h"
@@ -23,6 +24,23 @@ Look lookOf(const Node& element);
 /// How a line goes from point to point: "linear", or the steps that the name of its style
 /// asks for.
 std::string_view interpolationOf(const Node& element);
+
+/// How the lines of a control chart differ from those of the data.
+struct LineLook {
+  const char* stroke; ///< an expression
+  bool isDashed;
+};
+
+/// The look that the name of its style gives a line; absent for most.
+std::optional<LineLook> lineLookOf(const Node& element);
+
+/// That of an area: what a band between two values is about shows through it, other bands,
+/// lines, the grid.
+double areaOpacity(const Element& element);
+
+/// Whether the points of an element are the censored cases of survival curves, which are
+/// marked on the line instead of hiding it.
+bool isCensored(const Node& element);
 
 /// Whether the style of an element asks for hollow symbols.
 bool isHollow(const Node& element, const Chart& chart);

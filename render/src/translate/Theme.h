@@ -37,7 +37,8 @@ constexpr double outlineWidth = 1; ///< of what patterns fill
 constexpr int swatchSize = 260;    ///< the area of a pattern in a legend
 constexpr double barOpacity = 0.85;
 constexpr double areaOpacity = 0.7;
-constexpr int smallestSize = 20; ///< of symbols that a variable sizes
+constexpr double bandOpacity = 0.22; ///< of areas between two values
+constexpr int smallestSize = 20;     ///< of symbols that a variable sizes
 constexpr int largestSize = 450;
 
 constexpr double barBand = 0.8;    ///< the part of a category's room that its bars fill
@@ -110,6 +111,9 @@ constexpr std::array<Symbol, 7> symbols{{
     {"M-1.15,-0.8L0,1.2L1.15,-0.8Z", 0.58},
     {"M-0.8,-1.15L1.2,0L-0.8,1.15Z", 1.2},
 }};
+
+/// A mark on a line.
+constexpr std::string_view crossSymbol = "M-1,0H1M0,-1V1";
 
 /// A line alone, as a legend shows it.
 constexpr std::string_view lineSymbol = "M-2.6,0H2.6";

@@ -1,3 +1,5 @@
+#include "translate/Tile.h"
+
 #include <algorithm>
 
 #include <fmt/format.h>
@@ -7,27 +9,9 @@
 #include "translate/Filling.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
-#include "translate/Translator.h"
 
 namespace render {
 namespace {
-
-/// The color of a cell by how many rows it holds.
-Json colorOfCount(const Element& element, Context& context) {
-  const std::string name = scaleName("shade", element.node->id());
-  if (!context.parts.hasScale(name)) {
-    double most = 1;
-    for (const Panel& panel : context.chart.panels)
-      for (const Item& item : panel.items[element.index])
-        most = std::max(most, item.value);
-    context.parts.scales.push_back(
-        {{"name", name},
-         {"type", "linear"},
-         {"domain", {0, jsonNumber(most)}},
-         {"range", {{"signal", theme::ramp(theme::of(context.chart))}}}});
-  }
-  return {{"scale", name}, {"field", "value"}};
-}
 
 /// A hexagon around the middle of each cell, as wide and as high as the scales make it.
 void addHexagons(const Element& element, Context& context) {
@@ -48,7 +32,7 @@ void addHexagons(const Element& element, Context& context) {
                                         : "M-1,0L-0.5,1H0.5L1,0L0.5,-1H-0.5Z"}};
   update["scaleX"] = {{"value", isUpright ? length("x", reach.x) : length("y", reach.y)}};
   update["scaleY"] = {{"value", isUpright ? length("y", reach.y) : length("x", reach.x)}};
-  update["fill"] = colorOfCount(element, context);
+  update["fill"] = {{"scale", addCountScale(element, context)}, {"field", "value"}};
   update["tooltip"] = itemTooltip(element, context);
   addMark(element,
           {{"type", "path"},
@@ -59,6 +43,22 @@ void addHexagons(const Element& element, Context& context) {
 }
 
 } // namespace
+
+std::string addCountScale(const Element& element, Context& context) {
+  std::string name = scaleName("shade", element.node->id());
+  if (!context.parts.hasScale(name)) {
+    double most = 1;
+    for (const Panel& panel : context.chart.panels)
+      for (const Item& item : panel.items[element.index])
+        most = std::max(most, item.value);
+    context.parts.scales.push_back(
+        {{"name", name},
+         {"type", "sqrt"}, // a few full cells leave the others pale
+         {"domain", {0, jsonNumber(most)}},
+         {"range", {{"signal", theme::ramp(theme::of(context.chart))}}}});
+  }
+  return name;
+}
 
 /// A cell of a table of colors for each row, or a hexagon for each cell that a statistic
 /// counts in.

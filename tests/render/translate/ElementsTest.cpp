@@ -198,6 +198,10 @@ TEST_F(ElementsTest, AVariableOfSeveralOthersIsARange) {
   EXPECT_EQ(drawn(element("interval", std::string(placed) + statistic("range")),
                   "A,B,Group\n1,4,a\n2,7,a\n3,5,b\n4,5,b\n", {"v3", "low", "high"}),
             json::parse(R"([["a",4,7],["b",5,5]])"));
+  drawn(element("area", range), table, {}, variable);
+  EXPECT_EQ(spec_["marks"][0]["marks"][0]["marks"][0]["encode"]["update"]["fillOpacity"],
+            json::parse(R"({"value":0.22})"))
+      << "what a band is about shows through it";
 }
 
 TEST_F(ElementsTest, CategoriesAlongYMakeBarsLieAcross) {
@@ -208,12 +212,76 @@ TEST_F(ElementsTest, CategoriesAlongYMakeBarsLieAcross) {
   EXPECT_EQ(scale("x")["domain"][0], 0);
 }
 
+TEST_F(ElementsTest, LinesAndAreasGoAlongCategoriesInTheOrderOfTheScale) {
+  constexpr std::string_view months =
+      R"(<variable id="m" sourceName="A" source="source0" categorical="true"/>)";
+  for (const char* type : {"line", "area"}) {
+    const json drawn = spec(element(type, R"(<x variable="m"/><y variable="v2"/>)"),
+                            "A,B,Group\n10,1,a\n2,3,a\n1,2,a\n", months);
+    for (const json& data : drawn["data"]) {
+      if (data["name"] != "e") continue;
+      const json& steps = data["transform"];
+      EXPECT_EQ(steps[steps.size() - 2], json::parse(R"json({"type":"formula","as":"place",
+                  "expr":"indexof([\"1\",\"2\",\"10\"],datum[\"m\"])"})json"))
+          << type;
+      EXPECT_EQ(steps.back(), json::parse(R"({"type":"collect","sort":{"field":"place"}})"));
+    }
+  }
+}
+
 TEST_F(ElementsTest, HexagonsCountTheRowsOfTheirCells) {
   const json cells = drawn(
       element("polygon", R"(<x variable="v1"/><y variable="v2"/>)" +
                              statistic("bin", R"(<parameter name="grid" value="hex"/>)")),
       "A,B,Group\n0,0,a\n0.1,0.1,a\n20,0,a\n10,20,a\n10,20.1,a\n10.2,20,b\n", {"place", "value"});
   EXPECT_EQ(cells, json::parse("[[0,2],[10.5,3],[20,1]]"));
+}
+
+TEST_F(ElementsTest, TheColorsOfHexagonsHaveALegend) {
+  const json drawn =
+      spec(element("polygon", R"(<x variable="v1"/><y variable="v2"/>)" +
+                                  statistic("bin", R"(<parameter name="grid" value="hex"/>)")),
+           "A,B,Group\n0,0,a\n0.1,0.1,a\n20,20,a\n",
+           R"(<frame id="f"><legend id="l"><label id="t">Rows</label>
+              <legendTarget element="e"/></legend></frame>)");
+  const json& plot = drawn["marks"][0];
+  ASSERT_EQ(plot["legends"].size(), 1U);
+  EXPECT_EQ(plot["legends"][0]["fill"], "shade_e");
+  EXPECT_EQ(plot["legends"][0]["title"], json({"Rows"}));
+  for (const json& each : plot["scales"])
+    if (each["name"] == "shade_e") {
+      EXPECT_EQ(each["domain"], json({0, 2}));
+    }
+  EXPECT_EQ(drawn["usermeta"]["notes"], json::array());
+}
+
+TEST_F(ElementsTest, TheNameOfAStyleSaysWhatALineOrAPointLooksLike) {
+  const struct {
+    const char* type;
+    const char* id;
+    const char* property;
+    const char* value;
+  } cases[] = {
+      {"line", "element_simpleline_1", "strokeDash", "null"},
+      {"line", "element_controlchart_UCL_1", "strokeDash", R"({"value":[8,4]})"},
+      {"line", "element_controlchart_Center_Step_LCL_1", "interpolate", R"({"value":"step"})"},
+      {"line", "element_controlchart_LCL_1", "stroke", R"({"signal":"palette[1]"})"},
+      {"line", "element_controlchart_Average_1", "stroke", R"({"signal":"ink"})"},
+      {"line", "element_controlchart_Average_1", "strokeDash", "null"},
+      {"line", "element_controlchart_USpec_1", "stroke", R"({"signal":"ink"})"},
+      {"point", "element_survival_censored_1", "shape", R"({"value":"M-1,0H1M0,-1V1"})"},
+      {"point", "element_survival_censored_1", "stroke", R"({"signal":"ink"})"},
+  };
+  for (const auto& each : cases) {
+    const json drawn =
+        spec(fmt::format(R"(<element type="{}" id="{}"><x variable="v1"/><y variable="v2"/>
+                             </element>)",
+                         each.type, each.id),
+             parts);
+    const json& update = drawn["marks"][0]["marks"][0]["encode"]["update"];
+    EXPECT_EQ(update.value(each.property, json()), json::parse(each.value))
+        << each.id << " " << each.property;
+  }
 }
 
 TEST_F(ElementsTest, TheNameOfAStyleSaysWhatAnIntervalLooksLike) {
@@ -245,14 +313,6 @@ TEST_F(ElementsTest, OfAHiddenElementTheLabelsAreDrawnAtItsPlaces) {
     EXPECT_EQ(marks[0]["encode"]["update"]["dy"]["value"], 0);
     EXPECT_EQ(drawn["data"].back()["name"], marks[0]["from"]["data"]);
   }
-}
-
-TEST_F(ElementsTest, ALineOfRowsGoesThroughCategoriesInTheirOrder) {
-  drawn(element("line", placed), "A,B,Group\n1,10,10\n1,30,9\n", {});
-  EXPECT_EQ(spec_["data"][1]["transform"].back()["sort"]["field"], "order");
-  EXPECT_EQ(spec_["data"][1]["transform"][1], json::parse(R"json({"type":"formula","as":"order",
-                            "expr":"indexof([\"9\",\"10\"],datum[\"v3\"])"
-})json"));
 }
 
 TEST_F(ElementsTest, TheBarsOfAnIciclePlotTouchAndHaveRoomForALabelAtEverySecond) {

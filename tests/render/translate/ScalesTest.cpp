@@ -96,6 +96,24 @@ TEST_F(ScalesTest, LabelsOfManyCategoriesGoStraightUpWhereTheyFitSo) {
   }
 }
 
+TEST_F(ScalesTest, ALogarithmHasMinorTicksBetweenItsPowersAndDecimalsAsEachTickNeeds) {
+  const std::string plot =
+      R"(<dimension role="x" lowerMargin="0%" upperMargin="0%">)" + scaleNode("log", base10) +
+      R"(<axis id="a"><majorTicks/><minorTicks number="8"/></axis></dimension>)";
+  spec_ = folder_.write("chart.xml", document(plot + std::string(point)))
+              .write("source0.csv", "A,B,Group\n0.5,1,a\n30,2,a\n")
+              .spec();
+  const json axes = spec_["marks"][0]["axes"];
+  ASSERT_EQ(axes.size(), 2U);
+  EXPECT_EQ(notes(), json::array());
+  std::string places;
+  for (const json& place : axes[0]["values"])
+    places += fmt::format("{:g} ", place.get<double>());
+  EXPECT_EQ(places, "0.5 0.6 0.7 0.8 0.9 2 3 4 5 6 7 8 9 20 30 ");
+  const std::string text = axes[1]["encode"]["labels"]["update"]["text"]["signal"];
+  EXPECT_THAT(text, testing::HasSubstr("replace(")) << "zeros at the end are taken off";
+}
+
 TEST_F(ScalesTest, ASafeLogarithmGoesThroughZeroAndAnUnsafeOneLeavesValuesOut) {
   constexpr std::string_view table = "A,B,Group\n-10,1,a\n0,2,a\n1000,3,a\n";
   const json through = drawn(

@@ -89,7 +89,7 @@ int64_t chartxml_endcall_(const char* callName, const int64_t* callNameLength,
 
     const auto reports = std::exchange(held().reports, {});
     if (refused) assign(joined(reports), buffer, bufferCapacity);
-    if (refused && logical(wanted)) return 1;
+    if (logical(wanted)) return refused ? 1 : 0;
     const std::string name = Text{callName, callNameLength}.read();
     if (!programTakesThem) tell(name, reports);
     if (refused && reports.empty()) host::reportError({name + ": refused", "", 0});
