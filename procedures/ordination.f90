@@ -166,8 +166,8 @@ contains
 
     call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
       source=plot%source, graph=plot%graph, data=plot%data)
-    plot%reach = 0.5_dp*ceiling(2*maxval(abs(found%scores), dim=1) + 0.2_dp)
-    plot%lengthening = max(1, floor(minval(plot%reach)))
+    plot%reach = 0.5_dp*ceiling(2*maxval(abs(found%scores), dim=1) + 1)
+    plot%lengthening = max(1, floor(minval(plot%reach) - 0.5_dp)) ! names need room
     call draw_plane(plot)
     call draw_points(plot, cases, found, shown)
     call draw_lines(plot, measures, correlations(cases%values(:, measures), found%scores), &
@@ -271,7 +271,7 @@ contains
     type(drawing), intent(in) :: plot
     real(dp), intent(in) :: tip(2)
     integer, intent(in) :: letters
-    real(dp), parameter :: half_letter = 0.0105_dp, gap = 0.03_dp
+    real(dp), parameter :: half_letter = 0.013_dp, gap = 0.03_dp
     real(dp) :: place(2), direction(2)
 
     direction = tip/max(norm2(tip), tiny(1.0_dp))
