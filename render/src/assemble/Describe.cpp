@@ -1,5 +1,6 @@
 #include "assemble/Describe.h"
 
+#include <algorithm>
 #include <array>
 
 #include "assemble/Telling.h"
@@ -26,9 +27,7 @@ public:
 private:
   bool isEnded() const {
     static constexpr std::array<std::string_view, 6> ends{".", "!", "?", "。", "！", "？"};
-    for (const std::string_view end : ends)
-      if (text_.ends_with(end)) return true;
-    return false;
+    return std::ranges::any_of(ends, [this](std::string_view end) { return text_.ends_with(end); });
   }
 
   std::string_view stop_, gap_;

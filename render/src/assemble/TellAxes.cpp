@@ -76,6 +76,7 @@ std::string tellAxis(std::string_view role, std::string_view key, const Telling&
   const std::string title = titleOf(role, telling);
   if (dimension.categorical) {
     std::vector<std::string> labels;
+    labels.reserve(dimension.categories.size());
     for (const Category& category : dimension.categories)
       labels.push_back(variable != nullptr ? telling.label(*variable, category) : category.label);
     return telling.words(key, {fmt::format("{} ({})", title, listed(labels))});
@@ -96,6 +97,7 @@ std::string tellVariables(const Telling& telling) {
     for (const Variable* member : position->isMatrix ? position->members : std::vector{position})
       if (std::ranges::find(members, member) == members.end()) members.push_back(member);
   std::vector<std::string> texts;
+  texts.reserve(members.size());
   for (const Variable* member : members)
     texts.push_back(rangeOf(member->title, member, drawnValues(element, *member), telling));
   return telling.words("Variables^1", {listed(texts)});

@@ -108,6 +108,7 @@ std::vector<std::string> tellKind(const Telling& telling) {
     marks.erase(marks.begin());
   }
   std::vector<std::string> extras;
+  extras.reserve(marks.size() + 2);
   for (const std::string_view mark : marks)
     extras.push_back(words(mark));
   addGuides(extras, "curves", parts.functions, words);

@@ -111,6 +111,7 @@ std::string tellItems(const Telling& telling) {
                          {tellItem(*high, *element, telling), tellItem(*low, *element, telling)});
   }
   std::vector<std::string> texts;
+  texts.reserve(all.size());
   for (const Told& told : all)
     texts.push_back(tellItem(told, *element, telling));
   return telling.words(areMedians ? "Medians^1" : "Values^1", {listed(texts)});
