@@ -221,6 +221,9 @@ contains
     character(*), parameter :: nl = new_line('')
     character(:), allocatable :: table
 
+    call expect_error('what the document lacks is told', trim(folder)//'/0001-calls: '// &
+      'variable13: it has no value in any of 3 rows; load its values, or leave it out '// &
+      '(call 31, cx_addaggregate_)')
     table = contents(trim(folder)//'/0001-calls/source0.csv')
     table = table(index(table, nl) + 1:)
     call expect('columns are rows of the data', table, ',1,1,3,a,6,-6'//nl// &
