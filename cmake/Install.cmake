@@ -17,8 +17,8 @@ install(PROGRAMS $<TARGET_FILE:chartxml_command> DESTINATION ${CMAKE_INSTALL_BIN
 install(DIRECTORY backend/chartxml/include/chartxml DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
   FILES_MATCHING PATTERN *.h PATTERN Role.h EXCLUDE)
 set(host_headers ChartBase ChartError ChartSink ChartString ChartTranscoder CodePages Data DataSet
-  ErrorLog Export Finding Korva Missing NodeCalls OutputText Settings StringTables ValueColumn VarDataProcessor
-  XDocument)
+  ErrorLog Export Finding Korva Missing NodeCalls OutputText Settings StringTables ValueColumn
+  VarDataProcessor XDocument)
 list(TRANSFORM host_headers REPLACE "(.+)" "host/include/host/\\1.h")
 install(FILES ${host_headers} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/host)
 get_target_property(module_folder chartxml_fortran Fortran_MODULE_DIRECTORY)

@@ -41,12 +41,12 @@ bool isMeasured(const Variable& variable) {
 } // namespace
 
 void checkUnrepeatedNumbers(const Chart& chart, Report& report) {
-  std::set<const Variable*> told;
+  std::set<const Variable*> seen;
   for (const Panel& panel : chart.panels)
     for (const Dimension* dimension : {&panel.x, &panel.y}) {
       if (!dimension->categorical) continue;
       for (const Variable* variable : dimension->variables)
-        if (isMeasured(*variable) && told.insert(variable).second)
+        if (seen.insert(variable).second && isMeasured(*variable))
           report.add(*variable,
                      fmt::format("{} is categorical along {}, and its {} values are numbers of "
                                  "which none comes twice; make it continuous, or put its values "
