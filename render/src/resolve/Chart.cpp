@@ -7,7 +7,6 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
-#include "resolve/Beyond.h"
 #include "resolve/Panels.h"
 #include "resolve/ReadElements.h"
 #include "resolve/Scale.h"
@@ -183,7 +182,6 @@ Chart resolve(const ChartFolder& folder, Notes& notes) {
   chart.facets = readFacets(chart, notes);
   makePanels(chart, notes);
   fitDimensions(chart, notes);
-  noteValuesBeyond(chart, notes);
   noteMissingRows(chart, notes);
   return chart;
 }

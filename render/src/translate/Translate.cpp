@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "text/Show.h"
+#include "translate/Beyond.h"
 #include "translate/FacetLabels.h"
 #include "translate/PositionScale.h"
 #include "translate/Rules.h"
@@ -89,6 +90,7 @@ Parts translate(const Chart& chart, const Layout& layout, Notes& notes) {
   Context context{.chart = chart, .layout = layout, .notes = notes, .parts = {}};
   for (const std::string_view role : {"x", "y"})
     context.parts.positionScales.push_back(positionScale(role, context));
+  noteValuesBeyond(chart, notes);
   walkChildren(chart.folder->document.graph(), context);
   return std::move(context.parts);
 }

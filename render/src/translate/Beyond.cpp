@@ -1,8 +1,9 @@
-#include "resolve/Beyond.h"
+#include "translate/Beyond.h"
 
 #include <fmt/format.h>
 
 #include "resolve/ScaleMethod.h"
+#include "translate/Style.h"
 
 namespace render {
 namespace {
@@ -28,11 +29,12 @@ std::size_t countBeyond(const Element& element, std::string_view role, const Cha
 } // namespace
 
 void noteValuesBeyond(const Chart& chart, Notes& notes) {
-  if (chart.space != nullptr) return;
+  if (chart.plot == nullptr || chart.space != nullptr) return;
   const bool isCut = chart.plot->attribute("clip") == "true";
   for (const std::string_view role : {"x", "y"})
     for (const Element& element : chart.elements) {
-      const std::size_t count = element.isSlice ? 0 : countBeyond(element, role, chart);
+      const bool isDrawn = !element.isSlice && lookOf(*element.node) != Look::hidden;
+      const std::size_t count = isDrawn ? countBeyond(element, role, chart) : 0;
       if (count > 0)
         notes.add(fmt::format("{}: values beyond the ends that the chart gives {}: {}, {}",
                               element.node->name(), role, count,
