@@ -250,8 +250,7 @@ TEST_F(ElementsTest, OfAHiddenElementTheLabelsAreDrawnAtItsPlaces) {
 TEST_F(ElementsTest, ALineOfRowsGoesThroughCategoriesInTheirOrder) {
   drawn(element("line", placed), "A,B,Group\n1,10,10\n1,30,9\n", {});
   EXPECT_EQ(spec_["data"][1]["transform"].back()["sort"]["field"], "order");
-  EXPECT_EQ(spec_["data"][1]["transform"][1],
-            json::parse(R"json({"type":"formula","as":"order",
+  EXPECT_EQ(spec_["data"][1]["transform"][1], json::parse(R"json({"type":"formula","as":"order",
                             "expr":"indexof([\"9\",\"10\"],datum[\"v3\"])"})json"));
 }
 
