@@ -1,13 +1,14 @@
 ! Steps that charts of several procedures take. Texts are keys of the procedure's string
 ! table.
 module drawings
+  use, intrinsic :: iso_c_binding, only: dp => c_double
   use chartxml
   use korva, only: data_set
   use penguin_cases, only: factor
   implicit none
   private
-  public :: new_drawing, factor_variable, computed, range_of
-  public :: draw_axes, group, draw_legend
+  public :: new_drawing, factor_variable, categories, computed, range_of, domain_between
+  public :: draw_axes, group, draw_legend, name_element
 
   !> A chart under construction and the nodes that several steps refer to.
   type, public :: drawing
@@ -39,14 +40,32 @@ contains
     call add_relabels(plot%chart, factor_variable, names%number)
   end function
 
-  !> A variable whose values the procedure computes.
-  function computed(plot, label, decimals)
+  !> A variable of the run whose numbers have labels; of the first source unless another is
+  !> given.
+  function categories(plot, number, source)
+    type(drawing), intent(in) :: plot
+    integer, intent(in) :: number
+    integer, intent(in), optional :: source
+    integer :: categories, of
+
+    of = plot%source
+    if (present(source)) of = source
+    call add_variable(plot%chart, of, number, categorical=.true., handle=categories)
+    call add_relabels(plot%chart, categories, number)
+  end function
+
+  !> A variable whose values the procedure computes; of the first source unless another is
+  !> given, by itself or by a variable of it.
+  function computed(plot, label, decimals, source)
     type(drawing), intent(in) :: plot
     character(*), intent(in) :: label
     integer, intent(in) :: decimals
-    integer :: computed
+    integer, intent(in), optional :: source
+    integer :: computed, of
 
-    call add_aggregate(plot%chart, plot%source, label=translation(label), handle=computed)
+    of = plot%source
+    if (present(source)) of = source
+    call add_aggregate(plot%chart, of, label=translation(label), handle=computed)
     call set_variable_format(plot%chart, computed, packed_format(format_plain, 8, decimals))
   end function
 
@@ -62,15 +81,34 @@ contains
     call add_range_variable(plot%chart, list, handle=range_of)
   end function
 
-  subroutine draw_axes(plot, x_title, y_title)
+  !> What an axis shows: the values of some variables, and all from `low` to `high`.
+  function domain_between(plot, low, high, variables)
+    type(drawing), intent(in) :: plot
+    real(dp), intent(in) :: low, high
+    integer, intent(in) :: variables(:)
+    integer :: domain_between, i
+
+    call add_domain(plot%chart, handle=domain_between)
+    call add_interval_ex(plot%chart, real_string(low), real_string(high), domain_between)
+    do i = 1, size(variables)
+      call add_domain_reference(plot%chart, variables(i), domain_between)
+    end do
+  end function
+
+  !> y_decimals: how many decimals the y axis shows, where its values have others.
+  subroutine draw_axes(plot, x_title, y_title, x_domain, y_domain, y_decimals)
     type(drawing), intent(in) :: plot
     integer, intent(in) :: x_title, y_title
-    integer :: x_style, x_axis, y_style, y_axis
+    integer, intent(in), optional :: x_domain, y_domain, y_decimals
+    integer :: x_style, x_axis, y_style, y_axis, format
 
-    call add_xy_dimensions_with_axes(plot%chart, plot%data, x_style=x_style, x_axis=x_axis, &
-      y_style=y_style, y_axis=y_axis)
+    call add_xy_dimensions_with_axes(plot%chart, plot%data, x_domain, y_domain, &
+      x_style=x_style, x_axis=x_axis, y_style=y_style, y_axis=y_axis)
     call add_label(plot%chart, x_axis, x_style, x_title)
     call add_label(plot%chart, y_axis, y_style, y_title)
+    if (.not. present(y_decimals)) return
+    call add_number_format(plot%chart, y_axis, handle=format)
+    call set_number_format_max_fraction_digits(plot%chart, format, integer_string(y_decimals))
   end subroutine
 
   !> Colors the marks of an element by a variable and puts those at one place side by side
@@ -91,6 +129,16 @@ contains
     call add_legend_frame(plot%chart, plot%graph, explained, 1, aesthetic=string_style_by, &
       style=style, legend=legend)
     call add_label(plot%chart, legend, style, label_of_variable(titled_by))
+  end subroutine
+
+  !> Gives an element a name, a key of the string table, and a legend that explains it.
+  subroutine name_element(plot, element, name, index)
+    type(drawing), intent(in) :: plot
+    integer, intent(in) :: element, index
+    character(*), intent(in) :: name
+
+    call set_element_name(plot%chart, element, translation(name))
+    call add_legend_frame_of(plot%chart, plot%graph, element, index)
   end subroutine
 
 end module

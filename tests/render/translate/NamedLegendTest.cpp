@@ -103,6 +103,21 @@ TEST(NamedLegendTest, OneLegendHoldsAllThatIsNamed) {
   EXPECT_EQ(range("dash_named1"), json::parse("[[6,3],[],[],[],[8,4]]"));
 }
 
+TEST(NamedLegendTest, TheLinesOfAControlChartAreExplainedAsTheyLook) {
+  const json plot = specOf(element("values", "line") + element("controlchart_UCL_1", "line") +
+                               element("controlchart_Average_1", "line"),
+                           "values controlchart_UCL_1 controlchart_Average_1")["marks"][0];
+  for (const json& scale : plot["scales"]) {
+    if (scale["name"] == "stroke_named1") {
+      EXPECT_EQ(scale["range"]["signal"], "[palette[0],palette[1],ink]");
+    }
+    if (scale["name"] == "dash_named1") {
+      EXPECT_EQ(scale["range"], json::parse("[[],[8,4],[]]"));
+    }
+  }
+  EXPECT_FALSE(plot["legends"].empty());
+}
+
 TEST(NamedLegendTest, ValuesBeyondTheEndsOfTheDomainAreNoted) {
   const std::string plot = R"(<dimension role="y" domain="d"/>)" + element("p", "point", "", "32") +
                            element("b", "interval", "", "32");
