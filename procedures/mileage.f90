@@ -38,7 +38,7 @@ contains
   subroutine draw(fit)
     type(regression), intent(in) :: fit
     type(drawing) :: plot
-    integer :: x, y, points
+    integer :: x, y
 
     plot = new_drawing(observations, procedure_name, &
       'Fuel economy and engine displacement', 'Description of the curve')
@@ -48,8 +48,7 @@ contains
     call add_variable(plot%chart, plot%source, displacement, handle=x)
     call add_variable(plot%chart, plot%source, highway, handle=y)
     call load(plot%chart, [x, y], cases)
-    call add_xy_element(plot%chart, plot%data, 1, string_point, x, y, string_scatter, points)
-    call name_element(plot, points, 'Cars', 1)
+    call add_xy_element(plot%chart, plot%data, 1, string_point, x, y, string_scatter)
     call write_texts_and_send(plot, fit)
   end subroutine
 
@@ -58,7 +57,7 @@ contains
     type(drawing), intent(in) :: plot
     type(regression), intent(in) :: fit
     real(dp) :: places(places_of_curve)
-    integer :: source, x, y, group, line, i
+    integer :: source, x, y, group, i
 
     associate (low => minval(cases(:, displacement)), high => maxval(cases(:, displacement)))
       places = [(low + (high - low)*i/(places_of_curve - 1), i=0, places_of_curve - 1)]
@@ -69,28 +68,25 @@ contains
     call load(plot%chart, x, places)
     call load(plot%chart, y, fit%predicted(places))
     call add_element_group(plot%chart, plot%data, handle=group)
-    call draw_band(plot, fit, group, x, places, single=.true., name='95% prediction band')
-    call draw_band(plot, fit, group, x, places, single=.false., name='95% confidence band')
-    call add_xy_element(plot%chart, group, 1, string_line, x, y, string_simpleline, line)
-    call name_element(plot, line, 'Fitted parabola', 2)
+    call draw_band(plot, fit, group, x, places, single=.true.)
+    call draw_band(plot, fit, group, x, places, single=.false.)
+    call add_xy_element(plot%chart, group, 1, string_line, x, y, string_simpleline)
   end subroutine
 
-  subroutine draw_band(plot, fit, group, x, places, single, name)
+  subroutine draw_band(plot, fit, group, x, places, single)
     type(drawing), intent(in) :: plot
     type(regression), intent(in) :: fit
     integer, intent(in) :: group, x
     real(dp), intent(in) :: places(:)
     logical, intent(in) :: single
-    character(*), intent(in) :: name  !< a key of the string table
-    integer :: lower, upper, band
+    integer :: lower, upper
 
     lower = computed(plot, 'Lower limit', 1, x)
     upper = computed(plot, 'Upper limit', 1, x)
     call load(plot%chart, lower, fit%predicted(places) - fit%reach(places, single))
     call load(plot%chart, upper, fit%predicted(places) + fit%reach(places, single))
     call add_xy_element(plot%chart, group, merge(1, 2, single), string_area, x, &
-      range_of(plot, lower, upper), string_simplearea, band)
-    call name_element(plot, band, name, merge(4, 3, single))
+      range_of(plot, lower, upper), string_simplearea)
   end subroutine
 
   subroutine write_texts_and_send(plot, fit)
