@@ -185,7 +185,8 @@ private:
     const double there = grid_[corner + (goesUp ? cells : 1)];
     const double share = (level_ - here) / (there - here);
     const auto column = static_cast<double>(corner % cells);
-    const auto row = static_cast<double>(corner / cells);
+    const std::size_t above = corner / cells;
+    const auto row = static_cast<double>(above);
     const double place = x_.at(column + (goesUp ? 0 : share));
     const double height = y_.at(row + (goesUp ? share : 0));
     return {.row = row_, .from = place, .to = place, .low = height, .high = height};
