@@ -137,7 +137,7 @@ Json assemble(const Chart& chart, const Layout& layout, Parts parts,
     for (Json& legend : parts.legends)
       legend["offset"] = theme::legendOffset + room;
   plot["legends"] = std::move(parts.legends);
-  plot["marks"] = std::move(parts.marks);
+  plot["marks"] = parts.takeMarks();
 
   spec["data"] = sources(excerpts);
   append(spec["data"], std::move(parts.data));

@@ -168,6 +168,17 @@ Json itemTooltip(const Element& element, Context& context) {
 
 bool isClipped(const Chart& chart) { return chart.plot->attribute("clip") == "true"; }
 
+void addOnPaper(Json text, Json& marks) {
+  Json paper = text;
+  paper["aria"] = false; // one text for those who hear it
+  Json& update = paper["encode"]["update"];
+  update["fill"] = update["stroke"] = {{"signal", "paper"}};
+  update["strokeWidth"] = {{"value", theme::haloWidth}};
+  update["strokeJoin"] = {{"value", "round"}};
+  marks.push_back(std::move(paper));
+  marks.push_back(std::move(text));
+}
+
 void addMark(const Element& element, Json mark, bool isSplit, Context& context) {
   const std::string data = context.inPanel(element.node->id());
   const std::vector<std::string> fields =

@@ -62,6 +62,10 @@ bool isClipped(const Chart& chart);
 /// joins what belongs together.
 void addMark(const Element& element, Json mark, bool isSplit, Context& context);
 
+/// A text mark on the paper around its letters, which can be read on whatever it lies: two
+/// marks, one under the other.
+void addOnPaper(Json text, Json& marks);
+
 /// Writes the values of an element's labelings at its marks, or at the outliers of a box
 /// plot, which "part" names.
 void addLabels(const Element& element, Context& context);

@@ -7,10 +7,14 @@
 
 namespace render {
 
-Json filling(const Element& element, Context& context) {
-  const theme::Theme& theme = theme::of(context.chart);
+bool isPatterned(const Element& element, const Chart& chart) {
   const bool isShaded = element.shade != nullptr && element.method == Method::none;
-  if (theme.fillings.empty() || isShaded) return color(element, context);
+  return !theme::of(chart).fillings.empty() && !isShaded;
+}
+
+Json filling(const Element& element, Context& context) {
+  if (!isPatterned(element, context.chart)) return color(element, context);
+  const theme::Theme& theme = theme::of(context.chart);
   if (element.group == nullptr) return {{"value", theme::filling(theme.fillings.front())}};
   addFillScale(*element.group, context);
   return {{"scale", scaleName("fill", element.group->id)}, {"field", fieldPath(element.group->id)}};

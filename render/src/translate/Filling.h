@@ -8,6 +8,9 @@
 /// theme without colors, its pattern.
 namespace render {
 
+/// Whether that is a pattern, or may be one.
+bool isPatterned(const Element& element, const Chart& chart);
+
 /// Adds the scale that it needs.
 Json filling(const Element& element, Context& context);
 

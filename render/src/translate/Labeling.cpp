@@ -9,6 +9,7 @@
 #include "compute/Sample.h"
 #include "text/Expression.h"
 #include "translate/Encode.h"
+#include "translate/Filling.h"
 #include "translate/Groups.h"
 #include "translate/LabelPlace.h"
 #include "translate/Style.h"
@@ -168,10 +169,14 @@ void addLabels(const Element& element, Context& context) {
   const bool hasSome = update["fill"] != Json{{"signal", "ink"}};
   if (hasSome) update["opacity"] = {{"signal", "datum.label==='none'?0:1"}};
   if (element.labels.size() > 1) update["lineHeight"] = {{"value", labelLineHeight}};
-  context.parts.marks.push_back({{"type", "text"},
-                                 {"from", {{"data", context.inPanel(element.node->id())}}},
-                                 {"interactive", false},
-                                 {"encode", {{"update", std::move(update)}}}});
+  const bool isOnPattern = hasSome && isPatterned(element, context.chart);
+  if (isOnPattern) update["fill"] = {{"signal", "ink"}};
+  Json mark{{"type", "text"},
+            {"from", {{"data", context.inPanel(element.node->id())}}},
+            {"interactive", false},
+            {"encode", {{"update", std::move(update)}}}};
+  if (isOnPattern) return addOnPaper(std::move(mark), context.parts.marks);
+  context.parts.marks.push_back(std::move(mark));
 }
 
 void addOutlierLabels(const Element& element, const char* part, Context& context) {

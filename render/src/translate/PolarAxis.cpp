@@ -9,6 +9,7 @@
 #include "resolve/ScaleMethod.h"
 #include "text/Expression.h"
 #include "translate/AxisTicks.h"
+#include "translate/Encode.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
 
@@ -83,9 +84,10 @@ void addCircles(const Dimension& dimension, const Node& axis, Context& context) 
   for (const double value : ticks.values) {
     const double radius = shareOf(value, dimension) * radiusOf(context);
     if (radius > 0) addCircle(radius, context);
-    context.parts.marks.push_back(textMark(context.layout.panelWidth / 2 + 4,
-                                           context.layout.panelHeight / 2 - radius,
-                                           {{"signal", ticks.labelOf(value)}}, "left", context));
+    // Sectors would hide it.
+    addOnPaper(textMark(context.layout.panelWidth / 2 + 4, context.layout.panelHeight / 2 - radius,
+                        {{"signal", ticks.labelOf(value)}}, "left", context),
+               context.parts.overlay);
   }
 }
 

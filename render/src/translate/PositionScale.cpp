@@ -76,7 +76,7 @@ Json panelGroup(Context& context) {
           {"encode", {{"update", std::move(update)}}},
           {"scales", Json::array({positionScale("x", context), positionScale("y", context)})},
           {"axes", std::move(context.parts.axes)},
-          {"marks", std::move(context.parts.marks)}};
+          {"marks", context.parts.takeMarks()}};
 }
 
 } // namespace render

@@ -34,6 +34,7 @@ constexpr double fillOpacity = 0.55; ///< of points, so that overlapping ones sh
 constexpr double lineWidth = 2.25;
 constexpr double thinWidth = 1.5;  ///< of whiskers, error bars and outlines
 constexpr double outlineWidth = 1; ///< of what patterns fill
+constexpr int haloWidth = 4;       ///< of the paper around letters, on both sides
 constexpr int swatchSize = 260;    ///< the area of a pattern in a legend
 constexpr double barOpacity = 0.85;
 constexpr double areaOpacity = 0.7;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -79,6 +80,14 @@ bool Parts::hasScale(std::string_view name) const {
 const Element* Context::find(const Node& node) const {
   const Element* element = chart.find(node);
   return element == nullptr ? nullptr : &panel().elements[element->index];
+}
+
+Json Parts::takeMarks() {
+  Json all = std::exchange(marks, Json::array());
+  for (Json& mark : overlay)
+    all.push_back(std::move(mark));
+  overlay = Json::array();
+  return all;
 }
 
 std::string Context::inPanel(std::string_view name) const {

@@ -33,12 +33,15 @@ struct Parts {
   Json axes = Json::array();
   Json legends = Json::array();
   Json marks = Json::array();
+  Json overlay = Json::array(); ///< marks over all others of the plot or the panel
 
   std::vector<const Node*> functions; ///< the guides drawn as function lines
   std::vector<const Node*> lines;     ///< those drawn as lines across the plot
   std::vector<Named> named;           ///< in the order of the legends
 
   bool hasScale(std::string_view name) const;
+  /// The marks from the lowest to the uppermost, of which nothing is left.
+  Json takeMarks();
 };
 
 /// What a translator works with.

@@ -88,6 +88,22 @@ TEST(Themes, TellGroupsApartByPatternsInPrint) {
   }
 }
 
+TEST(Themes, PutPaperAroundLettersOnPatterns) {
+  const std::string labelled = std::string(bars).replace(
+      bars.find("</element>"), 0,
+      R"(<labeling variable="v2" style="labeling_insidedefault_style"/>)");
+  const auto lettersOf = [&](const char* theme) {
+    json letters = json::array();
+    const json spec = drawn(theme, labelled);
+    for (const json& mark : spec["marks"][0]["marks"])
+      if (mark["type"] == "text")
+        letters.push_back({mark["encode"]["update"]["fill"]["signal"], mark.value("aria", true)});
+    return letters;
+  };
+  EXPECT_EQ(lettersOf("print"), json::parse(R"([["paper", false], ["ink", true]])"));
+  EXPECT_EQ(lettersOf("default").size(), 1);
+}
+
 TEST(Themes, DashLinesBesideSymbolsInPrint) {
   constexpr std::string_view both = R"(
     <element type="point" id="p"><x variable="v1"/><y variable="v2"/><color variable="v3"/></element>
