@@ -7,6 +7,7 @@
 #include "text/PlainValue.h"
 #include "text/Wrap.h"
 #include "translate/FacetLabels.h"
+#include "translate/Filling.h"
 #include "translate/Groups.h"
 #include "translate/NamedLegend.h"
 #include "translate/Theme.h"
@@ -113,7 +114,8 @@ Json assemble(const Chart& chart, const Layout& layout, Parts parts,
               const std::vector<Excerpt>& excerpts, const Words& words, const Notes& notes) {
   const theme::Theme& theme = theme::of(chart);
   Json meta = pageMeta(chart, parts, excerpts, words, notes);
-  if (Json ofTheme = theme::meta(theme); !ofTheme.empty()) meta["theme"] = std::move(ofTheme);
+  if (Json ofTheme = theme::meta(theme, hasPatterns(chart)); !ofTheme.empty())
+    meta["theme"] = std::move(ofTheme);
   Json plot{{"type", "group"},
             {"encode",
              {{"update", {{"width", {{"signal", "width"}}}, {"height", {{"signal", "height"}}}}}}}};

@@ -308,9 +308,19 @@ private:
       readShape(element, variable);
     } else {
       element.group = &variable;
-      if (child.attribute("styleCycle").find("Pattern") != std::string_view::npos)
-        note("patterns are drawn as colors, symbols and dashes");
+      readPatterns(element, child.attribute("styleCycle"));
     }
+  }
+
+  /// Only what fills something has patterns, and those have no colors of groups.
+  void readPatterns(Element& element, std::string_view cycle) {
+    static constexpr std::array<std::string_view, 4> filled{"interval", "area", "schema", "tile"};
+    const auto names = [cycle](std::string_view word) { return cycle.find(word) != cycle.npos; };
+    if (!names("Pattern")) return;
+    element.hasPatterns =
+        !names("Color") && std::ranges::find(filled, element.type()) != filled.end();
+    if (!element.hasPatterns)
+      notes_.add(fmt::format("{}: patterns are drawn as colors, symbols and dashes", node_.name()));
   }
 
   /// Points and lines show a second grouping; others have nothing left to show it by.

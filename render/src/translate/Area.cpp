@@ -77,7 +77,7 @@ void addPolarArea(const Element& element, Context& context) {
 /// A band has no pattern, which would hide what it is about.
 void fill(Json& update, const Element& element, Context& context) {
   update["fill"] = element.isComposed() ? color(element, context) : filling(element, context);
-  if (!element.isComposed()) addOutline(update, context);
+  if (!element.isComposed()) addOutline(update, element, context);
   update["fillOpacity"] = {{"value", areaOpacity(element)}};
 }
 

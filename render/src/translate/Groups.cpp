@@ -60,7 +60,7 @@ void addGroupScales(const Variable& group, Parts& parts) {
 
 bool hasPoints(const Variable& group, const Chart& chart) {
   // Without colors, dashes tell lines apart beside the symbols too.
-  if (!theme::of(chart).fillings.empty()) return false;
+  if (theme::of(chart).hasPatterns) return false;
   return std::ranges::any_of(chart.elements, [&](const Element& element) {
     return element.group == &group && element.node->attribute("type") == "point";
   });

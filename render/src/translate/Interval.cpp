@@ -44,7 +44,7 @@ Json sliceMark(const Element& element, Context& context) {
               {"stroke", {{"signal", "paper"}}},
               {"strokeWidth", {{"value", theme::thinWidth}}},
               {"tooltip", itemTooltip(element, context)}};
-  addOutline(update, context);
+  addOutline(update, element, context);
   return {{"type", "arc"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}};
 }
 
@@ -64,7 +64,7 @@ Json sectorMark(const Element& element, Context& context) {
               {"fill", filling(element, context)},
               {"fillOpacity", {{"value", theme::barOpacity}}},
               {"tooltip", itemTooltip(element, context)}};
-  addOutline(update, context);
+  addOutline(update, element, context);
   return {{"type", "arc"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}};
 }
 
@@ -79,7 +79,7 @@ Json barMark(const Element& element, Context& context) {
     update["stroke"] = {{"signal", "paper"}};
     update["strokeWidth"] = {{"value", 0.5}};
   }
-  addOutline(update, context);
+  addOutline(update, element, context);
   update["tooltip"] = itemTooltip(element, context);
   return {{"type", "rect"},
           {"from", nullptr},

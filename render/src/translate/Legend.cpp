@@ -144,7 +144,7 @@ Json shapeLegend(const Entry& entry, Context& context) {
 }
 
 void addBarFilling(Json& json, const Variable& group, Context& context) {
-  if (theme::of(context.chart).fillings.empty()) {
+  if (!isPatterned(group, context.chart)) {
     json["fill"] = scaleName("color", group.id);
     return;
   }

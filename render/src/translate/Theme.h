@@ -74,8 +74,7 @@ struct Theme {
   int plotHeight = theme::plotHeight;
   int labelGap = 0;         ///< the least between labels of an axis
   double magnification = 1; ///< of the whole picture: a small plot so has large type and few ticks
-  /// Fill bars and areas of groups in this order; a name that is no pattern's is a color.
-  std::span<const std::string_view> fillings{};
+  bool hasPatterns = false; ///< in place of colors
 };
 
 /// The names of the themes, the usual one first.
@@ -87,9 +86,13 @@ const Theme* find(std::string_view name);
 /// That of the chart's template; the usual one without a template, or one that is not known.
 const Theme& of(const Chart& chart);
 
+/// Fill bars and areas of groups in this order, where patterns do; a name that is no
+/// pattern's is a color.
+std::span<const std::string_view> patternFillings();
+
 /// What the page and the drawing of pictures need to know of the chart's theme; empty for the
-/// usual one.
-Json meta(const Theme& theme);
+/// usual one without patterns.
+Json meta(const Theme& theme, bool hasPatterns);
 
 /// An expression for the colors of a range of values, from low to high.
 std::string ramp(const Theme& theme);

@@ -52,7 +52,7 @@ constexpr std::array table{
           .light = grays,
           .dark = grays,
           .followsReader = false,
-          .fillings = grayFillings},
+          .hasPatterns = true},
     Theme{.name = "dark", .light = light, .dark = dark, .startsDark = true, .followsReader = false},
     Theme{.name = "presentation",
           .light = light,
@@ -90,11 +90,14 @@ std::string filling(std::string_view name) {
   return pattern == nullptr ? std::string(name) : fmt::format("url(#{})", idOf(*pattern));
 }
 
-Json meta(const Theme& theme) {
-  if (&theme == table.data()) return Json::object();
+std::span<const std::string_view> patternFillings() { return grayFillings; }
+
+Json meta(const Theme& theme, bool hasPatterns) {
+  if (&theme == table.data() && !hasPatterns) return Json::object();
   Json json{{"name", theme.name}, {"followsReader", theme.followsReader}};
   if (theme.magnification != 1) json["magnification"] = theme.magnification;
-  for (const std::string_view name : theme.fillings)
+  if (!hasPatterns) return json;
+  for (const std::string_view name : patternFillings())
     if (const Pattern* pattern = patternOf(name); pattern != nullptr)
       json["patterns"].push_back({{"id", idOf(*pattern)},
                                   {"size", pattern->size},

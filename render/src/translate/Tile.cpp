@@ -81,7 +81,7 @@ void translateTile(const Node& node, Context& context) {
     update[channels.length] = {{"scale", role}, {"band", 1}};
   }
   update["fill"] = filling(*element, context);
-  addOutline(update, context);
+  addOutline(update, *element, context);
   update["tooltip"] = itemTooltip(*element, context);
   context.parts.data.push_back(elementData(*element, context));
   addMark(*element,

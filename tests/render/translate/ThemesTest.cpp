@@ -88,6 +88,37 @@ TEST(Themes, TellGroupsApartByPatternsInPrint) {
   }
 }
 
+TEST(Themes, HavePatternsWhereTheStyleCycleAsksForThem) {
+  const json pattern{{"scale", "fill_v3"}, {"field", "v3"}};
+  const json color{{"scale", "color_v3"}, {"field", "v3"}};
+  const json note{"e: patterns are drawn as colors, symbols and dashes"};
+  const struct {
+    const char* type;
+    const char* cycle;
+    const json& filling;
+    json notes;
+  } cases[] = {{"interval", "styleCyclePattern", pattern, json::array()},
+               {"area", "styleCyclePattern", pattern, json::array()},
+               {"interval", "styleCycleColor", color, json::array()},
+               {"interval", "styleCycleColor_styleCyclePattern", color, note},
+               {"point", "styleCyclePattern", color, note}};
+  for (const auto& [type, cycle, filling, notes] : cases) {
+    const json spec = drawn("", fmt::format(R"(<element type="{}" id="e"><x variable="v1"/>
+      <y variable="v2"/><styleBy variable="v3" id="by" styleCycle="{}"/></element>
+      <legend id="legend"><legendTarget id="t" element="e"/></legend>)",
+                                            type, cycle));
+    const bool isPattern = filling == pattern;
+    EXPECT_NE(spec["marks"][0]["marks"].dump().find(fmt::format("\"fill\":{}", filling.dump())),
+              std::string::npos)
+        << type << cycle;
+    EXPECT_EQ(spec["marks"][0]["legends"][0].value("fill", "") == "fill_v3", isPattern);
+    EXPECT_EQ(spec["usermeta"].contains("theme"), isPattern);
+    json told = notes;
+    told.push_back("rows left out for a missing value: 1 of 3 (e)");
+    EXPECT_EQ(spec["usermeta"]["notes"], told);
+  }
+}
+
 TEST(Themes, PutPaperAroundLettersOnPatterns) {
   const std::string labelled = std::string(bars).replace(
       bars.find("</element>"), 0,
