@@ -30,6 +30,7 @@ program diamonds
   call draw_table
   call end_library
   call observations%close()
+  deallocate (cases)
 
 contains
 

@@ -47,6 +47,7 @@ program light
   call draw(ranges_of(samples))
   call end_library
   call observations%close()
+  deallocate (rows, samples)
 
 contains
 

@@ -45,6 +45,7 @@ program lung
     'Description of curves by status', grouped(performance), has_bands=.false.)
   call end_library
   call observations%close()
+  deallocate (rows)
 
 contains
 
@@ -87,7 +88,10 @@ contains
     type(drawing) :: plot
     integer :: times, shares, g
 
-    curves = [(curve_of_group(cases, g), g=1, size(curves))]
+    ! One by one: an array constructor would not free what the curves hold.
+    do g = 1, size(curves)
+      curves(g) = curve_of_group(cases, g)
+    end do
     plot = new_drawing(observations, procedure_name, title, description)
     times = computed(plot, 'Days from entry', 0)
     shares = computed(plot, 'Share alive', 2)

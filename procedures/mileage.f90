@@ -32,6 +32,7 @@ program mileage
   call draw(regression_of(cases(:, displacement), cases(:, highway), 2, confidence))
   call end_library
   call observations%close()
+  deallocate (cases)
 
 contains
 

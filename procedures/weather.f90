@@ -35,6 +35,7 @@ program weather
   call draw(temperatures(months))
   call end_library
   call observations%close()
+  deallocate (days, months)
 
 contains
 
