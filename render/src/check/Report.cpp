@@ -20,9 +20,7 @@ void Report::begin(std::string_view rule) {
 
 void Report::add(const Node& node, std::string_view what, std::source_location where) {
   if (++count_ > mostOfRule) return;
-  if (!names_) names_.emplace(chart_.folder->document.graph());
-  if (!calls_) calls_ = Calls::read(chart_.folder->path);
-  host::Finding finding{.check = std::string(rule_), .node = names_->of(node), .where = where};
+  host::Finding finding{.check = std::string(rule_), .node = names().of(node), .where = where};
   finding.text = fmt::format("{}: {}", shown(finding.node), what);
   if (const Call* call = callOf(node)) {
     finding.call = call->number;
@@ -47,9 +45,17 @@ void Report::end() {
   count_ = 0;
 }
 
+const NodeNames& Report::names() {
+  return names_ ? *names_ : names_.emplace(chart_.folder->document.graph());
+}
+
+const Calls& Report::calls() {
+  return calls_ ? *calls_ : calls_.emplace(Calls::read(chart_.folder->path));
+}
+
 const Call* Report::callOf(const Node& node) {
-  for (const Node* at = &node; at != nullptr; at = names_->parentOf(*at))
-    if (const Call* call = calls_->find(names_->of(*at))) return call;
+  for (const Node* at = &node; at != nullptr; at = names().parentOf(*at))
+    if (const Call* call = calls().find(names().of(*at))) return call;
   return nullptr;
 }
 

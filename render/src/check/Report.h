@@ -29,12 +29,15 @@ public:
   void end();
 
 private:
+  // Read when something is found: most charts need neither.
+  const NodeNames& names();
+  const Calls& calls();
   /// The call of the nearest node around that has one.
   const Call* callOf(const Node& node);
 
   const Chart& chart_;
   Notes& notes_;
-  std::optional<NodeNames> names_; ///< most charts need neither
+  std::optional<NodeNames> names_;
   std::optional<Calls> calls_;
   std::string_view rule_;
   std::size_t count_ = 0; ///< of the rule

@@ -42,6 +42,7 @@ std::string textOf(const Element& element, const Variable& variable, Context& co
 /// One line for each labeling.
 std::string linesOf(const Element& element, Context& context) {
   std::vector<std::string> lines;
+  lines.reserve(element.labels.size());
   for (const Variable* variable : element.labels)
     lines.push_back(textOf(element, *variable, context));
   return lines.size() == 1 ? lines.front() : fmt::format("[{}]", fmt::join(lines, ","));
