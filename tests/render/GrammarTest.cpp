@@ -156,7 +156,8 @@ TEST(GrammarTest, EachAttributeOfTheSchemaIsDrawnOrNoted) {
   std::set<std::string> silent;
   for (const auto& [kind, attributes] : schemaAttributes())
     for (const std::string& attribute : attributes)
-      if (isSilent(kind, attribute, folder, pictures)) silent.insert(kind + " " + attribute);
+      if (isSilent(kind, attribute, folder, pictures))
+        silent.insert(fmt::format("{} {}", kind, attribute));
   EXPECT_EQ(silent, (std::set<std::string>{
                         "axis combineAxisLabels", // each axis shows all that is along it
                         "dimension unionDomain",  // the same: scales hold all that is drawn
