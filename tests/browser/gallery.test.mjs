@@ -46,7 +46,7 @@ test('the gallery shows the charts of a language', () =>
     const names = await choice.locator('option').allTextContents();
     assert.deepEqual(names.filter((name) => name !== attack).sort(), ['All', 'Deutsch', 'English', '日本語']);
     await choice.selectOption('ja');
-    assert.equal(await page.textContent('#found'), '2 of 5 charts');
+    assert.equal(await page.textContent('#found'), '2 of 8 charts');
     await page.getByLabel('Search names and descriptions').fill('消費支出');
     assert.equal(await shown(page), 1);
   }));
