@@ -2,8 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace render {
+
+bool Element::isLine() const {
+  static constexpr std::array<std::string_view, 3> lines{"line", "path", "edge"};
+  return std::ranges::find(lines, type()) != lines.end();
+}
 
 bool Element::isComposed() const {
   return (x != nullptr && !x->members.empty()) || (y != nullptr && !y->members.empty());

@@ -89,6 +89,8 @@ struct Element {
   }
   bool measuresAlong(std::string_view role) const { return (role == "x") == measuresX; }
   std::string_view type() const { return node->attribute("type"); }
+  /// Whether a line joins what it shows: along its place, or as the rows go.
+  bool isLine() const;
   /// Whether its marks show rows as they are.
   bool isPlain() const {
     return method == Method::none && modifier == Modifier::none && !hasBase && !isComposed();

@@ -325,8 +325,7 @@ private:
 
   /// Points and lines show a second grouping; others have nothing left to show it by.
   void readShape(Element& element, const Variable& variable) {
-    static constexpr std::array<std::string_view, 4> shaped{"point", "line", "path", "edge"};
-    const bool hasShapes = std::ranges::find(shaped, element.type()) != shaped.end();
+    const bool hasShapes = element.type() == "point" || element.isLine();
     if (!hasShapes || (element.shape != nullptr && element.shape != &variable)) {
       notes_.add(fmt::format("{}: a grouping by {} beside the others is not drawn", node_.name(),
                              variable.title));

@@ -70,7 +70,7 @@ void addEntry(const Element& element, const Variable& group, std::vector<Entry>&
   if (entry == entries.end()) entry = entries.insert(entry, {.group = &group});
   const std::string_view type = element.type();
   const bool isPoint = type == "point";
-  const bool isLine = type == "line" || type == "path" || type == "edge";
+  const bool isLine = element.isLine();
   entry->points = entry->points || isPoint;
   entry->lines = entry->lines || isLine;
   entry->bars = entry->bars || (!isPoint && !isLine);

@@ -38,7 +38,7 @@ Named drawnAs(const Element& element, const Context& context) {
     named.shape = theme::symbols[shape % theme::symbols.size()].path;
     named.opacity = isOverFillings(element, context.chart) ? 1 : theme::fillOpacity;
     if (isHollow(*element.node, context.chart)) named.opacity = 0;
-  } else if (type == "line" || type == "path" || type == "edge") {
+  } else if (element.isLine()) {
     named.shape = theme::lineSymbol;
     named.dash = lineDash(element, context.chart);
     if (const auto own = lineLookOf(*element.node)) {

@@ -1,7 +1,6 @@
 #include "translate/StyleCycle.h"
 
 #include <algorithm>
-#include <array>
 
 #include <fmt/format.h>
 
@@ -13,11 +12,6 @@ namespace render {
 namespace {
 
 constexpr std::size_t colors = 8; ///< of the palette
-
-bool isLine(const Element& element) {
-  static constexpr std::array<std::string_view, 3> lines{"line", "path", "edge"};
-  return std::ranges::find(lines, element.type()) != lines.end();
-}
 
 bool isPartOfBox(const Element& element) {
   return element.summary != nullptr && element.summary->name.starts_with("tukey");
@@ -37,7 +31,7 @@ bool showTheSame(const Element& one, const Element& other) {
   if (one.x != other.x || one.y != other.y || one.z != other.z) return false;
   if (isPartOfBox(one) && isPartOfBox(other)) return true;
   const auto isThin = [](const Element& element) {
-    return isLine(element) || element.type() == "point" || element.type() == "area";
+    return element.isLine() || element.type() == "point" || element.type() == "area";
   };
   return isThin(one) && isThin(other) && one.type() != other.type() && one.method == other.method &&
          one.summary == other.summary;
@@ -92,8 +86,8 @@ std::string ownColor(const Element& element, const Chart& chart) {
 
 std::size_t ownShape(const Element& element, const Chart& chart) {
   return static_cast<std::size_t>(std::ranges::count_if(chart.elements, [&](const Element& each) {
-    return each.index < element.index && hasOwnColor(each) && isLine(each) == isLine(element) &&
-           (isLine(each) || each.type() == element.type());
+    return each.index < element.index && hasOwnColor(each) && each.isLine() == element.isLine() &&
+           (each.isLine() || each.type() == element.type());
   }));
 }
 
