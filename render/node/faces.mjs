@@ -73,4 +73,4 @@ function cutText(open, content) {
 
 /** The SVG with its texts cut into runs of one face. */
 export const nameFaces = (svg) =>
-  svg.replaceAll(/(<text[^>]*>)(.*?)(?=<\/text>)/gs, (_, open, content) => cutText(open, content));
+  svg.replaceAll(/(<text[^>]*(?<!\/)>)(.*?)(?=<\/text>)/gs, (_, open, content) => cutText(open, content));
