@@ -114,7 +114,7 @@ Json assemble(const Chart& chart, const Layout& layout, Parts parts,
               const std::vector<Excerpt>& excerpts, const Words& words, const Notes& notes) {
   const theme::Theme& theme = theme::of(chart);
   Json meta = pageMeta(chart, parts, excerpts, words, notes);
-  if (Json ofTheme = theme::meta(theme, hasPatterns(chart)); !ofTheme.empty())
+  if (Json ofTheme = theme::meta(theme, patternsOf(chart)); !ofTheme.empty())
     meta["theme"] = std::move(ofTheme);
   Json plot{{"type", "group"},
             {"encode",

@@ -76,10 +76,11 @@ struct Element {
   Method method = Method::none;
   const Summary* summary = nullptr; ///< of Method::summary
   Modifier modifier = Modifier::none;
-  bool hasBase = false;     ///< its marks reach from a base to what they measure
-  bool measuresX = false;   ///< its places are along y
-  bool hasPatterns = false; ///< tell its groups apart, where it fills something
-  bool isSlice = false;     ///< it measures an angle and has no place
+  bool hasBase = false;            ///< its marks reach from a base to what they measure
+  bool measuresX = false;          ///< its places are along y
+  bool hasPatterns = false;        ///< tell its groups apart, where it fills something
+  bool hasColoredPatterns = false; ///< those in the colors of its groups
+  bool isSlice = false;            ///< it measures an angle and has no place
 
   const Variable* place() const { return measuresX ? y : x; }
   const Variable* measure() const { return measuresX ? x : y; }

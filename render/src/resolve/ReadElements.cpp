@@ -312,14 +312,16 @@ private:
     }
   }
 
-  /// Only what fills something has patterns, and those have no colors of groups.
+  /// Only what fills something has patterns. Points and lines show a pattern beside colors by
+  /// their symbols and dashes.
   void readPatterns(Element& element, std::string_view cycle) {
     static constexpr std::array<std::string_view, 4> filled{"interval", "area", "schema", "tile"};
     const auto names = [cycle](std::string_view word) { return cycle.find(word) != cycle.npos; };
     if (!names("Pattern")) return;
-    element.hasPatterns =
-        !names("Color") && std::ranges::find(filled, element.type()) != filled.end();
-    if (!element.hasPatterns)
+    const bool isFilled = std::ranges::find(filled, element.type()) != filled.end();
+    element.hasPatterns = isFilled && !names("Color");
+    element.hasColoredPatterns = isFilled && names("Color");
+    if (!isFilled && !names("Color"))
       notes_.add(fmt::format("{}: patterns are drawn as colors, symbols and dashes", node_.name()));
   }
 

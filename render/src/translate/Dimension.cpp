@@ -9,6 +9,7 @@
 #include "translate/CategoryLabels.h"
 #include "translate/Encode.h"
 #include "translate/FacetLabels.h"
+#include "translate/Matrix.h"
 #include "translate/MinorTicks.h"
 #include "translate/PolarAxis.h"
 #include "translate/Space.h"
@@ -137,7 +138,7 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
                           ? std::vector<std::string>()
                           : wrap(axisTitle(axis, dimension),
                                  {.width = length, .fontSize = theme::axisTitleSize, .lines = 3})},
-            {"grid", ticks != nullptr && ticks->child("gridLines") != nullptr},
+            {"grid", ticks != nullptr && hasGrid(*ticks, context)},
             {"ticks", hasTicks},
             {"labels", hasTicks}};
   if (context.chart.facets.isSplit()) {

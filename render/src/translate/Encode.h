@@ -1,7 +1,9 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "translate/Translator.h"
 
@@ -40,6 +42,12 @@ Json position(const Element& element, std::string_view role, std::string_view fi
 /// The color of the element's group, or its own when it has none; that of the value
 /// of its shade. Adds the scale of the color.
 Json color(const Element& element, Context& context);
+
+/// The items of an element that have a place in the panel, in the order of their data.
+std::vector<const Item*> drawnItems(const Element& element, const Context& context);
+
+/// The groups of an element that dodges, which stand side by side; all panels have the same.
+std::set<double> slotsOf(const Element& element, const Context& context);
 
 /// How many slots a category has for an element that dodges.
 std::size_t slotCount(const Element& element, const Context& context);

@@ -9,6 +9,7 @@
 #include "text/Show.h"
 #include "text/Wrap.h"
 #include "translate/Encode.h"
+#include "translate/FacetCells.h"
 #include "translate/Theme.h"
 
 namespace render {
@@ -40,42 +41,6 @@ void addText(const Text& text, Context& context) {
               {"fill", {{"signal", "ink"}}}};
   if (text.angle != 0) update["angle"] = {{"value", text.angle}};
   context.parts.marks.push_back({{"type", "text"}, {"encode", {{"update", std::move(update)}}}});
-}
-
-/// Neighbouring cells that are alike down to a level, and where they stand.
-struct Run {
-  const FacetValue* value;
-  double middle;
-  double length;
-};
-
-std::vector<Run> runsOf(const std::vector<FacetCell>& cells, std::size_t level,
-                        const std::vector<double>& starts, double length) {
-  std::vector<Run> runs;
-  for (std::size_t first = 0; first < cells.size();) {
-    std::size_t next = first + 1;
-    const auto isAlike = [&](const FacetCell& cell) {
-      return cell.size() > level &&
-             std::equal(cell.begin(), cell.begin() + static_cast<std::ptrdiff_t>(level) + 1,
-                        cells[first].begin());
-    };
-    while (next < cells.size() && cells[first].size() > level && isAlike(cells[next]))
-      ++next;
-    const double end = starts[next - 1] + length;
-    if (cells[first].size() > level)
-      runs.push_back({.value = &cells[first][level],
-                      .middle = (starts[first] + end) / 2,
-                      .length = end - starts[first]});
-    first = next;
-  }
-  return runs;
-}
-
-std::size_t depthOf(const std::vector<FacetCell>& cells) {
-  std::size_t depth = 0;
-  for (const FacetCell& cell : cells)
-    depth = std::max(depth, cell.size());
-  return depth;
 }
 
 /// The titles of all levels, "Island, Sex".
@@ -144,6 +109,8 @@ void labelColumns(Context& context) {
     for (const Run& run : runsOf(columns, level, layout.left, layout.panelWidth)) {
       Text text = labelOf(run);
       text.y = y;
+      if (hasCells(level + 1, context.chart))
+        addStrip({run.start(), y - lineHeight / 2, run.length, lineHeight}, context);
       addText(text, context);
     }
     y += alongAxis ? -lineHeight : lineHeight;
@@ -168,8 +135,10 @@ void labelRows(Context& context) {
     const double angle = angleOf(firstLevel + level, downwards, context);
     for (const Run& run : runsOf(rows, level, layout.top, layout.panelHeight)) {
       Text text = labelOf(run);
-      text.x = layout.width + lineHeight * (static_cast<double>(depth - level) - 0.5) + 2;
+      text.x = layout.width + lineHeight * (static_cast<double>(depth - level) - 0.5);
       text.angle = angle;
+      if (hasCells(firstLevel + level, context.chart))
+        addStrip({text.x - lineHeight / 2, run.start(), lineHeight, run.length}, context);
       addText(text, context);
     }
   }
@@ -202,6 +171,7 @@ void refuseTitles(Context& context) {
 } // namespace
 
 void addFacetLabels(Context& context) {
+  addCellFrames(context);
   if (context.chart.facets.isMatrix) return refuseTitles(context);
   if (!context.chart.facets.columns.front().empty()) labelColumns(context);
   if (!context.chart.facets.rows.front().empty()) labelRows(context);

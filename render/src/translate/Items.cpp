@@ -79,16 +79,6 @@ Json fieldsOf(const Element& element, const Item& item, const std::set<double>& 
   return fields;
 }
 
-/// The groups that stand side by side; all panels have the same.
-std::set<double> slotsOf(const Element& element, const Context& context) {
-  std::set<double> slots;
-  if (element.modifier != Modifier::dodge || element.group == nullptr) return slots;
-  for (const Panel& panel : context.chart.panels)
-    for (const Item& item : panel.items[element.index])
-      slots.insert(element.group->codes[item.row]);
-  return slots;
-}
-
 Json rowsOf(const Element& element, const Context& context) {
   std::vector<const Variable*> needed;
   const auto need = [&](const Variable* variable) {
@@ -117,19 +107,38 @@ Json rowsOf(const Element& element, const Context& context) {
 }
 
 Json flatData(const Element& element, const Context& context) {
-  const bool hasAllRows = !context.chart.facets.isSplit() || context.chart.facets.isMatrix;
-  if (element.isPlain() && hasAllRows) return rowsOf(element, context);
+  const Chart& chart = context.chart;
+  const bool hasAllRows = !chart.facets.isSplit() || chart.facets.isMatrix;
+  // Labels have a side of their own, which is none of the source's columns.
+  const bool hasSides = !element.labels.empty() && !chart.facets.isMatrix && chart.space == nullptr;
+  if (element.isPlain() && hasAllRows && !hasSides) return rowsOf(element, context);
   const std::set<double> slots = slotsOf(element, context);
   Json values = Json::array();
-  for (const Item& item : context.panel().items[element.index])
-    if (context.chart.draws(element, item) && isDrawn(element, item, context))
-      values.push_back(fieldsOf(element, item, slots, context));
+  for (const Item* item : drawnItems(element, context))
+    values.push_back(fieldsOf(element, *item, slots, context));
   return {{"name", context.inPanel(element.node->id())},
           {"values", std::move(values)},
           {"transform", Json::array()}};
 }
 
 } // namespace
+
+std::set<double> slotsOf(const Element& element, const Context& context) {
+  std::set<double> slots;
+  if (element.modifier != Modifier::dodge || element.group == nullptr) return slots;
+  for (const Panel& panel : context.chart.panels)
+    for (const Item& item : panel.items[element.index])
+      slots.insert(element.group->codes[item.row]);
+  return slots;
+}
+
+std::vector<const Item*> drawnItems(const Element& element, const Context& context) {
+  std::vector<const Item*> items;
+  for (const Item& item : context.panel().items[element.index])
+    if (context.chart.draws(element, item) && isDrawn(element, item, context))
+      items.push_back(&item);
+  return items;
+}
 
 std::size_t slotCount(const Element& element, const Context& context) {
   return std::max(std::size_t{1}, slotsOf(element, context).size());

@@ -15,28 +15,9 @@
 namespace render {
 namespace {
 
-struct Size {
-  double width;
-  double height;
-};
-
 std::string categoryLabel(const Variable& variable, const std::string& key) {
   const auto found = std::ranges::find(variable.categories, key, &Category::key);
   return found == variable.categories.end() ? key : found->label;
-}
-
-/// About as large as the label is drawn.
-Size sizeOf(const Element& element, const Json& row, const Context& context) {
-  double width = 0;
-  for (const Variable* variable : element.labels) {
-    const Json value = row.value(variable->id, row.value("value", Json()));
-    std::string text;
-    if (value.is_string()) text = categoryLabel(*variable, value.get<std::string>());
-    if (value.is_number())
-      text = PlainValue(variable->format, context.chart.folder->manifest)(value.get<double>());
-    width = std::max(width, textWidth(text, labelFontSize));
-  }
-  return {.width = width, .height = labelLineHeight * static_cast<double>(element.labels.size())};
 }
 
 bool asksForInside(const Element& element) {
@@ -69,7 +50,8 @@ double thicknessOf(const Element& element, const Json& row, const Context& conte
 }
 
 /// Whether a bar holds its label.
-bool holds(const Element& element, const Json& row, const Size& label, const Context& context) {
+bool holds(const Element& element, const Json& row, const LabelSize& label,
+           const Context& context) {
   constexpr double gap = 4;
   const std::string_view role = measureRole(element);
   const double length = lengthOf(row, "low", "high", role, context);
@@ -80,7 +62,7 @@ bool holds(const Element& element, const Json& row, const Size& label, const Con
 }
 
 /// Whether a piece of a pie holds its label: it is as wide there as the label is.
-bool sliceHolds(const Element& element, const Json& row, const Size& label,
+bool sliceHolds(const Element& element, const Json& row, const LabelSize& label,
                 const Context& context) {
   const double angle =
       (row["high"].get<double>() - row["low"].get<double>()) * turnsOf(element, context);
@@ -90,6 +72,19 @@ bool sliceHolds(const Element& element, const Json& row, const Size& label,
 }
 
 } // namespace
+
+LabelSize labelSize(const Element& element, const Json& row, const Context& context) {
+  double width = 0;
+  for (const Variable* variable : element.labels) {
+    const Json value = row.value(variable->id, row.value("value", Json()));
+    std::string text;
+    if (value.is_string()) text = categoryLabel(*variable, value.get<std::string>());
+    if (value.is_number())
+      text = PlainValue(variable->format, context.chart.folder->manifest)(value.get<double>());
+    width = std::max(width, textWidth(text, labelFontSize));
+  }
+  return {.width = width, .height = labelLineHeight * static_cast<double>(element.labels.size())};
+}
 
 double turnsOf(const Element& element, const Context& context) {
   double all = 0;
@@ -104,7 +99,7 @@ LabelPlaces placeLabels(const Element& element, Context& context) {
   const bool wantsInside = isPart || asksForInside(element);
   if (!wantsInside) return places;
   for (Json& row : context.parts.data.back()["values"]) {
-    const Size label = sizeOf(element, row, context);
+    const LabelSize label = labelSize(element, row, context);
     const bool fits = element.isSlice ? sliceHolds(element, row, label, context)
                                       : holds(element, row, label, context);
     if (fits) {

@@ -9,6 +9,14 @@ constexpr double labelFontSize = 12;
 constexpr double labelLineHeight = 15;
 constexpr double sliceShare = 0.68; ///< of the radius, where labels within a piece stand
 
+struct LabelSize {
+  double width;
+  double height;
+};
+
+/// About as large as the label of a row of the element's data is drawn.
+LabelSize labelSize(const Element& element, const Json& row, const Context& context);
+
 struct LabelPlaces {
   std::size_t inside = 0;
   std::size_t none = 0;

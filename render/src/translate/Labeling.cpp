@@ -153,7 +153,8 @@ void place(Json& update, const Element& element, Context& context) {
   const std::string_view type = element.type();
   if (type == "interval" && !context.chart.isPolar) return placeAtBar(update, element, context);
   const bool isHidden = lookOf(*element.node) == Look::hidden;
-  if (type == "point" && !isHidden) return placeBesidePoint(update, element, context);
+  const bool isBesideMark = type == "point" || element.isLine();
+  if (isBesideMark && !isHidden) return placeBesidePoint(update, element, context);
   update["dy"] = {{"value", firstLineOf(element)}};
   if (type == "tile") update["fill"] = {{"signal", readableOn(colorExpression(element, context))}};
 }
@@ -162,9 +163,6 @@ void place(Json& update, const Element& element, Context& context) {
 
 void addLabels(const Element& element, Context& context) {
   if (element.labels.empty()) return;
-  if (element.node->attribute("showCollidingLabels") == "false")
-    context.notes.add(
-        fmt::format("{}: labels that overlap are drawn all the same", element.node->name()));
   Json update = letters(element, context);
   place(update, element, context);
   const bool hasSome = update["fill"] != Json{{"signal", "ink"}};

@@ -149,8 +149,10 @@ void addBarFilling(Json& json, const Variable& group, Context& context) {
     return;
   }
   json["fill"] = addFillScale(group, context);
-  json.erase("stroke");
-  json["symbolStrokeColor"] = {{"signal", "ink"}};
+  if (!isInColors(group, context.chart)) {
+    json.erase("stroke");
+    json["symbolStrokeColor"] = {{"signal", "ink"}};
+  }
   json["symbolStrokeWidth"] = theme::outlineWidth;
   json["symbolSize"] = theme::swatchSize;
 }

@@ -6,13 +6,26 @@
 #include <vector>
 
 #include "text/Wrap.h"
+#include "translate/FacetCells.h"
 #include "translate/Theme.h"
 
 namespace render {
 
-const Node* panelStyle(const Element& element, const Context& context) {
-  const bool isDiagonal = context.chart.facets.isMatrix && element.x == element.y;
-  return isDiagonal ? element.node->child("facetStyle") : nullptr;
+const Node* panelStyle(const Node& node, const Context& context) {
+  const Facets& facets = context.chart.facets;
+  if (!facets.isMatrix) return nullptr;
+  const FacetCell& column = facets.columns[context.panel().column];
+  const FacetCell& row = facets.rows[context.panel().row];
+  const bool isDiagonal =
+      !column.empty() && !row.empty() && column.front().variable == row.front().variable;
+  return isDiagonal ? node.child("facetStyle") : nullptr;
+}
+
+bool hasGrid(const Node& ticks, const Context& context) {
+  const Node* lines = ticks.child("gridLines");
+  if (lines == nullptr) return false;
+  const Node* style = panelStyle(*lines, context);
+  return style == nullptr || !isEmptyStyle(*style, context.chart);
 }
 
 bool isEmptyStyle(const Node& facetStyle, const Chart& chart) {
@@ -28,6 +41,8 @@ void addVariableName(const Variable& variable, Context& context) {
       wrap(variable.title, {.width = static_cast<int>(layout.panelWidth) - margin,
                             .fontSize = theme::labelSize,
                             .lines = 4});
+  const bool isCell = hasCells(1, context.chart) || hasCells(2, context.chart);
+  if (isCell) addStrip({0, 0, layout.panelWidth, layout.panelHeight}, context);
   const double above = lineHeight * (static_cast<double>(lines.size()) - 1) / 2;
   Json update{{"x", {{"value", layout.panelWidth / 2}}},
               {"y", {{"value", layout.panelHeight / 2 - above}}},

@@ -6,6 +6,7 @@
 
 #include "text/Show.h"
 #include "translate/AxisTicks.h"
+#include "translate/Matrix.h"
 
 namespace render {
 namespace {
@@ -76,7 +77,7 @@ void addMinorTicks(const Json& major, const Node& minorTicks, const Dimension& d
        {"values", std::move(places)},
        {"domain", false},
        {"labels", false},
-       {"grid", minorTicks.child("gridLines") != nullptr},
+       {"grid", hasGrid(minorTicks, context)},
        {"ticks", major["ticks"]},
        {"tickSize", jsonNumber(tickLength(minorTicks, usualLength, context.notes))}});
 }

@@ -112,7 +112,7 @@ void translatePoint(const Node& node, Context& context) {
   if (element == nullptr) return;
   if (lookOf(node) == Look::hidden) return addLabelsAlone(*element, context);
 
-  const Node* style = panelStyle(*element, context);
+  const Node* style = panelStyle(node, context);
   if (style != nullptr && isEmptyStyle(*style, context.chart))
     return addVariableName(*element->x, context);
 

@@ -6,6 +6,7 @@
 #include "text/Expression.h"
 #include "text/Show.h"
 #include "translate/Encode.h"
+#include "translate/ItemPlace.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
@@ -17,6 +18,15 @@ const Category* categoryOf(const Dimension& dimension, std::string_view text) {
   for (const Category& category : dimension.categories)
     if (category.key == text || category.label == text) return &category;
   return nullptr;
+}
+
+/// Where a line stands in the panel.
+Area areaOf(double value, std::string_view role, const Context& context) {
+  const double place = placeOf(value, role, context);
+  const Layout& layout = context.layout;
+  if (isAcross(role, context.chart))
+    return {.left = place - 1, .right = place + 1, .bottom = layout.panelHeight};
+  return {.top = place - 1, .right = layout.panelWidth, .bottom = place + 1};
 }
 
 } // namespace
@@ -51,6 +61,7 @@ void translateReferenceLine(const Node& guide, Context& context) {
         {"tooltip",
          {{"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}}}};
     context.parts.lines.push_back(&guide);
+    if (!dimension.categorical) context.parts.linesAcross.push_back(areaOf(value, role, context));
     context.parts.marks.push_back({{"type", "rule"}, {"encode", {{"update", std::move(update)}}}});
   }
 }

@@ -110,7 +110,7 @@ const Rule rules[] = {
     {"element:schema", {"frame", "elementGroup"}, elementAttributes, translateBoxPlot},
     {"element:polygon", {"frame", "elementGroup"}, elementAttributes, translatePolygon},
     {"element:tile", {"frame", "elementGroup"}, elementAttributes, translateTile},
-    {"facetStyle", {"element"}, {"style", "when=matrixscatterdiagonal"}},
+    {"facetStyle", {"element", "gridLines"}, {"style", "when=matrixscatterdiagonal"}},
     {"position", {"element"}, {"id", "style"}},
     {"x", {"element", "position"}, {"id", "style", "variable"}},
     {"y", {"element", "position"}, {"id", "style", "variable"}},

@@ -90,15 +90,26 @@ const Theme& of(const Chart& chart);
 /// pattern's is a color.
 std::span<const std::string_view> patternFillings();
 
+/// The patterns among them, for what draws pictures.
+Json patterns();
+
 /// What the page and the drawing of pictures need to know of the chart's theme; empty for the
 /// usual one without patterns.
-Json meta(const Theme& theme, bool hasPatterns);
+Json meta(const Theme& theme, Json patterns);
 
 /// An expression for the colors of a range of values, from low to high.
 std::string ramp(const Theme& theme);
 
 /// A filling of the theme as Vega takes it: a color, or a reference to a pattern.
 std::string filling(std::string_view name);
+
+/// Patterns in the colors of groups: each cycle goes on by itself, so that color and pattern
+/// together tell more groups apart than either. Of light and of dark, as a page may turn.
+constexpr std::size_t coloredFillings = 56;
+std::string coloredFilling(const Theme& theme, std::size_t group, bool isDark);
+
+/// The patterns that these are, of so many groups.
+Json coloredPatterns(const Theme& theme, std::size_t groups);
 
 /// A symbol as a path within the unit square around the origin, and how far it
 /// reaches from there to the right.

@@ -34,7 +34,7 @@ constexpr Tones grays{
     .ramp = "['#ebebeb','#8c8c8c','#000000']",
 };
 
-constexpr std::array patterns{
+constexpr std::array patternTable{
     Pattern{"rising", 8, "M-2,2L2,-2M0,8L8,0M6,10L10,6", 1.4},
     Pattern{"dots", 6, "M3,3m-1.2,0a1.2,1.2,0,1,0,2.4,0a1.2,1.2,0,1,0,-2.4,0Z", 0},
     Pattern{"crossed", 8, "M0,0L8,8M8,0L0,8", 1},
@@ -64,12 +64,47 @@ constexpr std::array table{
 };
 
 const Pattern* patternOf(std::string_view name) {
-  const auto* found = std::ranges::find(patterns, name, &Pattern::name);
-  return found == patterns.end() ? nullptr : found;
+  const auto* found = std::ranges::find(patternTable, name, &Pattern::name);
+  return found == patternTable.end() ? nullptr : found;
 }
+
+/// Beside colors; the first group has its color alone.
+constexpr std::array<std::string_view, 7> coloredNames{"",      "rising",  "dots",   "crossed",
+                                                       "level", "falling", "upright"};
 
 /// The same in every picture of the theme, so that pictures may stand in one page.
 std::string idOf(const Pattern& pattern) { return fmt::format("chartxml-{}", pattern.name); }
+
+/// A list of Vega's expressions is one of JSON but for its quotes.
+Json colorsOf(std::string_view expression) {
+  std::string text(expression);
+  std::ranges::replace(text, '\'', '"');
+  return Json::parse(text);
+}
+
+Json describe(const Pattern& pattern, std::string id) {
+  return {{"id", std::move(id)},
+          {"size", pattern.size},
+          {"path", pattern.path},
+          {"width", pattern.width}};
+}
+
+/// A pattern in the color of a group.
+struct ColoredPattern {
+  const Pattern* pattern; ///< null where the color stands alone
+  std::string color;
+  std::string paper;
+
+  std::string id() const { return fmt::format("{}-{}", idOf(*pattern), color.substr(1)); }
+};
+
+ColoredPattern coloredPattern(const Theme& theme, std::size_t group, bool isDark) {
+  const Tones& tones = isDark ? theme.dark : theme.light;
+  const Json colors = colorsOf(tones.palette);
+  return {.pattern = patternOf(coloredNames[group % coloredNames.size()]),
+          .color = colors[group % colors.size()],
+          .paper = colorsOf(tones.paper)};
+}
 
 } // namespace
 
@@ -92,17 +127,37 @@ std::string filling(std::string_view name) {
 
 std::span<const std::string_view> patternFillings() { return grayFillings; }
 
-Json meta(const Theme& theme, bool hasPatterns) {
-  if (&theme == table.data() && !hasPatterns) return Json::object();
-  Json json{{"name", theme.name}, {"followsReader", theme.followsReader}};
-  if (theme.magnification != 1) json["magnification"] = theme.magnification;
-  if (!hasPatterns) return json;
+std::string coloredFilling(const Theme& theme, std::size_t group, bool isDark) {
+  const ColoredPattern colored = coloredPattern(theme, group, isDark);
+  return colored.pattern == nullptr ? colored.color : fmt::format("url(#{})", colored.id());
+}
+
+Json coloredPatterns(const Theme& theme, std::size_t groups) {
+  Json all = Json::array();
+  for (std::size_t group = 0; group < groups; ++group)
+    for (const bool isDark : {false, true}) {
+      const ColoredPattern colored = coloredPattern(theme, group, isDark);
+      if (colored.pattern == nullptr) continue;
+      all.push_back(describe(*colored.pattern, colored.id()));
+      all.back()["color"] = colored.color;
+      all.back()["paper"] = colored.paper;
+    }
+  return all;
+}
+
+Json patterns() {
+  Json all = Json::array();
   for (const std::string_view name : patternFillings())
     if (const Pattern* pattern = patternOf(name); pattern != nullptr)
-      json["patterns"].push_back({{"id", idOf(*pattern)},
-                                  {"size", pattern->size},
-                                  {"path", pattern->path},
-                                  {"width", pattern->width}});
+      all.push_back(describe(*pattern, idOf(*pattern)));
+  return all;
+}
+
+Json meta(const Theme& theme, Json patterns) {
+  if (&theme == table.data() && patterns.empty()) return Json::object();
+  Json json{{"name", theme.name}, {"followsReader", theme.followsReader}};
+  if (theme.magnification != 1) json["magnification"] = theme.magnification;
+  if (!patterns.empty()) json["patterns"] = std::move(patterns);
   return json;
 }
 

@@ -9,6 +9,7 @@
 #include "text/Show.h"
 #include "translate/Beyond.h"
 #include "translate/FacetLabels.h"
+#include "translate/LabelSides.h"
 #include "translate/PositionScale.h"
 #include "translate/Rules.h"
 
@@ -43,8 +44,10 @@ void walkPanels(const Node& plot, Context& context) {
     context.panelIndex = i;
     context.parts.axes = Json::array();
     context.parts.marks = Json::array();
+    context.parts.linesAcross.clear();
     for (const Node& child : plot.children)
       if (isOfPanel(child)) walk(child, plot, context);
+    arrangeLabels(context);
     panels.push_back(panelGroup(context));
   }
   context.parts.axes = Json::array();
@@ -101,6 +104,8 @@ Parts translate(const Chart& chart, const Layout& layout, Notes& notes) {
     context.parts.positionScales.push_back(positionScale(role, context));
   noteValuesBeyond(chart, notes);
   walkChildren(chart.folder->document.graph(), context);
+  if (!chart.facets.isSplit()) arrangeLabels(context);
+  noteLabelsLeftOut(context);
   return std::move(context.parts);
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "compute/Crowd.h"
 #include "resolve/Chart.h"
 #include "text/Json.h"
 #include "translate/Layout.h"
@@ -37,7 +39,9 @@ struct Parts {
 
   std::vector<const Node*> functions; ///< the guides drawn as function lines
   std::vector<const Node*> lines;     ///< those drawn as lines across the plot
+  std::vector<Area> linesAcross;      ///< where these are in the panel, but for those at categories
   std::vector<Named> named;           ///< in the order of the legends
+  std::map<const Node*, std::size_t> labelsLeftOut; ///< of elements, in all panels
 
   bool hasScale(std::string_view name) const;
   /// The marks from the lowest to the uppermost, of which nothing is left.

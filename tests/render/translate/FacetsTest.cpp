@@ -159,6 +159,34 @@ TEST_F(FacetsTest, AFacetVariableOrTheLabelOfItsLevelTellsTheGapAndTheTitle) {
   EXPECT_EQ(labels().back(), "Which kind");
 }
 
+TEST_F(FacetsTest, ALevelWithACellStyleHasFramedPanelsAndShadedLabels) {
+  const auto boxes = [this](std::string_view paint) {
+    json found = json::array();
+    for (const json& mark : spec_["marks"][0]["marks"]) {
+      const json& update = mark["encode"]["update"];
+      if (mark["type"] != "rect" || !update.contains(paint)) continue;
+      found.push_back({update["x"]["value"], update["y"]["value"], update["width"]["value"],
+                       update["height"]["value"]});
+    }
+    return found;
+  };
+  constexpr std::string_view crossed = R"(<tableFacet><facetVariable role="x" variable="v3"/>
+    <facetVariable role="y" variable="v4"/></tableFacet><facetLabeling>{}</facetLabeling>)";
+  const auto label = [](int level) {
+    return fmt::format(R"(<facetLabel id="f{0}" level="{0}" cellStyle="s"/>)", level);
+  };
+  draw(fmt::format(crossed, label(0)));
+  EXPECT_EQ(boxes("fill").size() + boxes("stroke").size(), 0U);
+  draw(fmt::format(crossed, label(1) + label(2)));
+  const json panel{{0, 0, 353, 233}, {0, 247, 353, 233}, {367, 0, 353, 233}, {367, 247, 353, 233}};
+  EXPECT_EQ(boxes("stroke"), panel) << "each once";
+  EXPECT_EQ(boxes("fill"),
+            json({{0, -19, 353, 19}, {367, -19, 353, 19}, {720, 0, 19, 233}, {720, 247, 19, 233}}));
+  draw(combined("nest", byGroup, byKind) + "<facetLabeling>" + label(1) + "</facetLabeling>");
+  EXPECT_EQ(boxes("stroke"), json({{0, 0, 226, 480}, {254, 0, 466, 480}}))
+      << "around all that belongs together";
+}
+
 TEST_F(FacetsTest, FacetsThatCannotBeDrawnAreNoted) {
   draw(R"(<tableFacet><facetVariable role="x" variable="v1"/></tableFacet>
     <facetLabeling id="l" cellAspect="none"/>)");

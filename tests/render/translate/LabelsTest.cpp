@@ -135,6 +135,101 @@ TEST(LabelsTest, ALabelTellsValuesSharesOrNames) {
         << content;
 }
 
+/// Each label's side of its point, and -1 for those that are left out.
+json sidesOf(const json& spec, std::string_view element) {
+  json sides = json::array();
+  for (const json& data : spec["data"])
+    if (data["name"] == element)
+      for (const json& row : data["values"])
+        sides.push_back(row.contains("label") ? -1 : row.value("side", 0));
+  return sides;
+}
+
+std::string repeated(std::string_view row, int count) {
+  std::string rows;
+  for (int i = 0; i < count; ++i)
+    rows += row;
+  return rows;
+}
+
+TEST(LabelsTest, ALabelGoesToASideWhereItMeetsNothingOrIsLeftOut) {
+  constexpr std::string_view points = R"(<element type="point" id="e" showCollidingLabels="{}">
+    <x variable="v1"/><y variable="v2"/><labeling variable="v3" style="labeling"/></element>{})";
+  constexpr std::string_view transposed = R"(<coordinateTransform method="transpose"/>)";
+  const std::string across =
+      R"(<guide type="line" id="r"><parameter name="y" value="52.5"/></guide>)";
+  const std::string path = R"(<element type="path" id="p"><x variable="v1"/><y variable="v2"/>
+    <split variable="v3"/></element>)";
+  const struct {
+    const char* what;
+    std::string plot;
+    std::string rows; ///< beside those of the corners
+    json sides;       ///< of these
+    int leftOut;
+  } cases[] = {
+      {"apart", fmt::format(points, "false", ""), "40,50,a\n60,50,a\n", {0, 0}, 0},
+      {"one place, four sides",
+       fmt::format(points, "false", ""),
+       "50,50,a\n50,50,a\n50,50,a\n50,50,a\n",
+       {0, 1, 2, 3},
+       0},
+      {"one place, more than sides",
+       fmt::format(points, "false", ""),
+       repeated("50,50,a\n", 9),
+       {0, 1, 2, 3, -1, -1, -1, -1, -1},
+       5},
+      {"shown although they meet",
+       fmt::format(points, "true", ""),
+       repeated("50,50,a\n", 9),
+       {0, 1, 2, 3, 4, 5, 6, 7, 0},
+       0},
+      {"a symbol above", fmt::format(points, "false", ""), "50,50,a\n50,52,a\n", {1, 0}, 0},
+      {"a line across", fmt::format(points, "false", across), "50,50,a\n50,30,a\n", {1, 0}, 0},
+      {"a line from one to the other",
+       fmt::format(points, "false", path),
+       "50,50,b\n50,60,b\n",
+       {1, 0},
+       0},
+      {"transposed, where the right is the usual side",
+       std::string(transposed) + fmt::format(points, "false", ""),
+       "50,50,a\n50,50,a\n",
+       {0, 1},
+       0},
+  };
+  for (const auto& [what, plot, rows, sides, leftOut] : cases) {
+    const json spec = TestFolder()
+                          .write("chart.xml", document(plot))
+                          .write("source0.csv", "A,B,Group\n0,0,a\n100,100,c\n" + rows)
+                          .spec();
+    json found = sidesOf(spec, "e");
+    found.erase(found.begin(), found.begin() + 2);
+    EXPECT_EQ(found, sides) << what;
+    const json notes = spec["usermeta"]["notes"];
+    EXPECT_EQ(notes,
+              leftOut == 0
+                  ? json::array()
+                  : json{fmt::format("e: labels left out where they would overlap: {}", leftOut)})
+        << what;
+  }
+}
+
+TEST(LabelsTest, ANameThatStandsAloneMovesAwayFromTheMiddle) {
+  constexpr std::string_view plot = R"(<guide type="line" id="r"><parameter name="y" value="0"/>
+    </guide><guide type="line" id="s"><parameter name="y" value="100"/></guide>
+    <element type="point" id="element_hiddenline_1"><x variable="v1"/><y variable="v2"/>
+    <labeling variable="v3" style="labeling"/></element>)";
+  const json spec = TestFolder()
+                        .write("chart.xml", document(plot))
+                        .write("source0.csv", "A,B,Group\n0,0,a\n100,100,b\n50,50,b\n")
+                        .spec();
+  EXPECT_EQ(sidesOf(spec, "element_hiddenline_1"), json({2, 1, 0}));
+  const json update = labelMark(spec)["encode"]["update"];
+  const auto signal = [](const char* text) { return json{{"signal", text}}; };
+  EXPECT_EQ(update["dy"], signal("[0.0,-13.0,13.0,0.0,0.0,-13.0,-13.0,13.0,13.0,-26.0,26.0]"
+                                 "[datum.side||0]"));
+  EXPECT_EQ(update["opacity"], signal("datum.label==='none'?0:1"));
+}
+
 TEST(LabelsTest, OutliersOfABoxPlotAreLabelledByTheirRows) {
   std::string rows = "A,B,Group\n";
   for (int i = 1; i < 10; ++i)

@@ -107,6 +107,21 @@ TEST_F(MatrixTest, TheDiagonalNamesItsVariableUnlessItsStyleDrawsItOtherwise) {
   EXPECT_NE(panels()[3]["marks"][0]["encode"]["update"]["fill"], hollow);
 }
 
+TEST_F(MatrixTest, CellsOfTheDiagonalAreShadedAndHaveNoGridWhereItsStyleIsEmpty) {
+  const std::string grid = fmt::format(
+      R"(<facetLabeling><facetLabel id="f" level="2" cellStyle="c"/></facetLabeling>
+      <dimension role="x"><axis id="g"><majorTicks><gridLines>{}</gridLines></majorTicks></axis>
+      </dimension>)",
+      diagonal);
+  const auto gridOf = [this](std::size_t panel) { return panels()[panel]["axes"][0]["grid"]; };
+  draw(grid);
+  EXPECT_EQ(panels()[4]["marks"][0]["encode"]["update"]["fill"], json({{"signal", "faint"}}));
+  EXPECT_EQ(gridOf(3), true);
+  EXPECT_EQ(gridOf(4), false);
+  draw(grid, "point", "v1/l1 + v2/l2 + v5/l5", "fill:transparent");
+  EXPECT_EQ(gridOf(4), true);
+}
+
 TEST_F(MatrixTest, WhatAMatrixDoesNotShowIsNoted) {
   constexpr std::string_view refused =
       "e is not drawn: a matrix shows the same variables by points, and its rows as they are";

@@ -100,7 +100,8 @@ TEST(Themes, HavePatternsWhereTheStyleCycleAsksForThem) {
   } cases[] = {{"interval", "styleCyclePattern", pattern, json::array()},
                {"area", "styleCyclePattern", pattern, json::array()},
                {"interval", "styleCycleColor", color, json::array()},
-               {"interval", "styleCycleColor_styleCyclePattern", color, note},
+               {"interval", "styleCycleColor_styleCyclePattern", pattern, json::array()},
+               {"point", "styleCycleColor_styleCyclePattern", color, json::array()},
                {"point", "styleCyclePattern", color, note}};
   for (const auto& [type, cycle, filling, notes] : cases) {
     const json spec = drawn("", fmt::format(R"(<element type="{}" id="e"><x variable="v1"/>
@@ -117,6 +118,31 @@ TEST(Themes, HavePatternsWhereTheStyleCycleAsksForThem) {
     told.push_back("rows left out for a missing value: 1 of 3 (e)");
     EXPECT_EQ(spec["usermeta"]["notes"], told);
   }
+}
+
+TEST(Themes, HavePatternsInColorsOfLightAndOfDarkWhereTheStyleCycleAsksForBoth) {
+  const std::string both =
+      std::string(bars).replace(bars.find("<color variable=\"v3\""), 20,
+                                R"(<styleBy styleCycle="styleCycleColor_styleCyclePattern"
+                                variable="v3")");
+  const auto rangeOf = [](const json& spec) {
+    json range;
+    for (const json& scale : spec["marks"][0]["scales"])
+      if (scale["name"] == "fill_v3") range = scale["range"];
+    return range;
+  };
+  const json spec = drawn("", both);
+  EXPECT_EQ(rangeOf(spec), json({{"signal", R"~(dark?["#56a8e8","url(#chartxml-rising-f0883e)"])~"
+                                            R"~(:["#0072b2","url(#chartxml-rising-d55e00)"])~"}}));
+  EXPECT_EQ(spec["usermeta"]["theme"]["patterns"], json::parse(R"([
+    {"id": "chartxml-rising-d55e00", "size": 8, "path": "M-2,2L2,-2M0,8L8,0M6,10L10,6",
+     "width": 1.4, "color": "#d55e00", "paper": "#ffffff"},
+    {"id": "chartxml-rising-f0883e", "size": 8, "path": "M-2,2L2,-2M0,8L8,0M6,10L10,6",
+     "width": 1.4, "color": "#f0883e", "paper": "#16181b"}])"));
+  const json groups{{"scale", "color_v3"}, {"field", "v3"}};
+  EXPECT_EQ(spec["marks"][0]["marks"][0]["encode"]["update"]["stroke"], groups);
+  EXPECT_EQ(spec["marks"][0]["legends"][0]["stroke"], "color_v3");
+  EXPECT_EQ(rangeOf(drawn("print", both)), rangeOf(drawn("print", bars)));
 }
 
 TEST(Themes, PutPaperAroundLettersOnPatterns) {
