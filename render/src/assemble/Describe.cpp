@@ -17,12 +17,24 @@ public:
     gap_ = isWide ? "" : " ";
   }
 
+  /// The lines of a text are sentences of their own.
+  void addLines(std::string_view text) {
+    while (!text.empty()) {
+      const std::string_view line = text.substr(0, text.find('\n'));
+      text.remove_prefix(std::min(line.size() + 1, text.size()));
+      add(line);
+    }
+  }
+
   void add(std::string_view sentence) {
     if (sentence.empty()) return;
     if (!text_.empty()) text_.append(isEnded() ? "" : stop_).append(gap_);
     text_ += sentence;
   }
-  std::string text() const { return text_; }
+  /// All of them; what ends without a sign gets its stop.
+  std::string text() const {
+    return text_.empty() || isEnded() ? text_ : text_ + std::string(stop_);
+  }
 
 private:
   bool isEnded() const {
@@ -38,13 +50,16 @@ private:
 
 std::string describe(const Chart& chart, const Parts& parts, const Words& words) {
   Sentences sentences(chart.folder->manifest.language);
-  for (const std::string& title : parts.title)
-    sentences.add(title);
-  sentences.add(chart.folder->manifest.description);
+  for (const auto* titles : {&parts.title, &parts.subtitle})
+    for (const std::string& title : *titles)
+      sentences.addLines(title);
+  sentences.addLines(chart.folder->manifest.description);
   const Telling telling{.chart = chart, .parts = parts, .words = words};
-  for (const auto tell : {tellKind, tellAxes, tellValues, tellTrend})
+  for (const auto tell : {tellKind, tellAxes, tellValues, tellAmounts, tellTrend, tellOutliers})
     for (const std::string& sentence : tell(telling))
       sentences.add(sentence);
+  for (const std::string& footnote : parts.footnotes)
+    sentences.addLines(footnote);
   const std::string text = sentences.text();
   return text.empty() ? chart.folder->manifest.name : text;
 }

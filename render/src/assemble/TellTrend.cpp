@@ -1,8 +1,10 @@
-#include <algorithm>
 #include <cmath>
+#include <functional>
 #include <optional>
 
 #include "assemble/Telling.h"
+#include "resolve/ScaleMethod.h"
+#include "translate/Style.h"
 
 namespace render {
 namespace {
@@ -11,17 +13,34 @@ bool isContinuous(const Variable* variable) {
   return variable != nullptr && variable->texts != nullptr && !variable->categorical;
 }
 
-/// Pearson's correlation in the rows that an element draws; nothing where one side does not
-/// vary.
+/// A value as long as the scale of a role makes it.
+using Length = std::function<double(double)>;
+
+double asIs(double value) { return value; }
+
+/// That of an axis, along which a trend is seen.
+Length lengthAlong(std::string_view role, const Chart& chart) {
+  const Dimension& dimension = chart.panels.front().along(role);
+  return [&dimension](double value) { return scaled(value, dimension); };
+}
+
+/// Pearson's correlation in the rows that an element draws, or in those of a group; nothing
+/// where one side does not vary.
 std::optional<double> correlation(const Element& element, const Variable& one,
-                                  const Variable& other) {
+                                  const Variable& other, const Length& oneLength = asIs,
+                                  const Length& otherLength = asIs,
+                                  std::optional<double> group = {}) {
   double rows = 0;
   double weight = 0;
   double meanX = 0;
   double meanY = 0;
   const auto forEachRow = [&](const auto& take) {
-    for (std::size_t row = 0; row < one.numbers.size(); ++row)
-      if (element.draws(row)) take(one.numbers[row], other.numbers[row], element.weightOf(row));
+    for (std::size_t row = 0; row < one.numbers.size(); ++row) {
+      if (!element.draws(row) || (group && element.group->codes[row] != *group)) continue;
+      const double x = oneLength(one.numbers[row]);
+      const double y = otherLength(other.numbers[row]);
+      if (std::isfinite(x) && std::isfinite(y)) take(x, y, element.weightOf(row));
+    }
   };
   forEachRow([&](double x, double y, double w) {
     rows += 1;
@@ -44,29 +63,50 @@ std::optional<double> correlation(const Element& element, const Variable& one,
   return std::isfinite(result) ? std::optional(result) : std::nullopt;
 }
 
+/// In two digits, and in more where two would make it a perfect one.
 std::string rounded(double correlation, const Telling& telling) {
-  return telling.number(std::round(correlation * 100) / 100);
-}
-
-/// The first element whose marks show two continuous values of a row.
-const Element* continuousElement(const Chart& chart) {
-  const auto found = std::ranges::find_if(chart.elements, [](const Element& element) {
-    return element.isPlain() && isContinuous(element.x) && isContinuous(element.y);
-  });
-  return found == chart.elements.end() ? nullptr : &*found;
+  double value = correlation;
+  for (const double scale : {100, 1000, 10000}) {
+    value = std::round(correlation * scale) / scale;
+    if (std::abs(value) < 1) break;
+  }
+  return telling.number(value);
 }
 
 /// From here on a correlation is told as a trend.
 constexpr double clear = 0.3;
 
 std::string tellDirection(const Telling& telling) {
-  const Element* element = continuousElement(telling.chart);
-  if (element == nullptr || telling.chart.space != nullptr) return {};
-  const std::optional<double> r = correlation(*element, *element->x, *element->y);
+  const Chart& chart = telling.chart;
+  const Element* element = continuousElement(chart);
+  if (element == nullptr) return {};
+  const std::optional<double> r = correlation(*element, *element->x, *element->y,
+                                              lengthAlong("x", chart), lengthAlong("y", chart));
   if (!r) return {};
-  const std::string text = rounded(*r, telling);
+  const Panel& panel = chart.panels.front();
+  const bool isEven = panel.x.type == ScaleType::linear && panel.y.type == ScaleType::linear;
+  std::string text = rounded(*r, telling);
+  if (!isEven) text = telling.words("On these scales^1", {text});
   if (std::abs(*r) < clear) return telling.words("No trend^1", {text});
   return telling.words(*r > 0 ? "Rising^1" : "Falling^1", {text});
+}
+
+/// Groups can go another way than all rows together.
+std::string tellGroupTrends(const Telling& telling) {
+  const Chart& chart = telling.chart;
+  const Element* element = continuousElement(chart);
+  if (element == nullptr || element->group == nullptr) return {};
+  const auto& categories = element->group->categories;
+  if (categories.size() < 2 || categories.size() > mostListed) return {};
+  std::vector<std::string> texts;
+  for (std::size_t code = 0; code < categories.size(); ++code) {
+    const auto r = correlation(*element, *element->x, *element->y, lengthAlong("x", chart),
+                               lengthAlong("y", chart), static_cast<double>(code));
+    if (r)
+      texts.push_back(
+          telling.pair(telling.label(*element->group, categories[code]), rounded(*r, telling)));
+  }
+  return texts.empty() ? std::string() : telling.words("Within groups^1", {telling.list(texts)});
 }
 
 /// The variables of a matrix or of a plot in space; else none.
@@ -100,47 +140,26 @@ std::string tellStrongest(const Telling& telling) {
                        {strongest[0]->title, strongest[1]->title, rounded(best, telling)});
 }
 
-/// How many values lie more than 1.5 times the distance of the quartiles beyond them.
-std::size_t outliersAmong(std::vector<double> values) {
-  constexpr std::size_t fewest = 12;
-  if (values.size() < fewest) return 0;
-  const auto quantile = [&values](double share) {
-    const auto at = values.begin() +
-                    static_cast<std::ptrdiff_t>(share * static_cast<double>(values.size() - 1));
-    std::ranges::nth_element(values, at);
-    return *at;
-  };
-  const double lower = quantile(0.25);
-  const double upper = quantile(0.75);
-  const double reach = 1.5 * (upper - lower);
-  return static_cast<std::size_t>(std::ranges::count_if(
-      values, [=](double value) { return value < lower - reach || value > upper + reach; }));
-}
-
-/// Those that box plots draw, else those of the values of an element.
-std::string tellOutliers(const Telling& telling) {
-  const Variable* variable = nullptr;
-  std::size_t count = 0;
-  for (const Panel& panel : telling.chart.panels)
-    for (const Element& element : telling.chart.elements)
-      for (const Item& item : panel.items[element.index])
-        if (item.part == BoxPart::outlier || item.part == BoxPart::extreme) {
-          variable = element.measure();
-          ++count;
-        }
-  const Element* element = continuousElement(telling.chart);
-  if (variable == nullptr && element != nullptr) {
-    variable = element->y;
-    count = outliersAmong(drawnValues(*element, *element->y));
-  }
-  if (variable == nullptr || count == 0) return {};
-  return telling.words("Outliers^2", {variable->title, telling.number(static_cast<double>(count))});
-}
-
 } // namespace
 
+const Element* continuousElement(const Chart& chart) {
+  if (chart.facets.isMatrix || chart.space != nullptr || chart.isPolar) return nullptr;
+  const Element* line = nullptr;
+  for (const Element& element : chart.elements) {
+    // Every survival curve falls, and a control chart is about what is beyond its limits.
+    if (isOfSurvival(element) || isOfControlChart(element)) return nullptr;
+    const bool showsRows = element.isPlain() || element.method == Method::hexagons ||
+                           element.method == Method::contours;
+    if (!showsRows || lookOf(*element.node) != Look::usual) continue;
+    if (!isContinuous(element.x) || !isContinuous(element.y)) continue;
+    if (!element.isLine()) return &element;
+    if (line == nullptr) line = &element;
+  }
+  return line;
+}
+
 std::vector<std::string> tellTrend(const Telling& telling) {
-  return {tellDirection(telling), tellStrongest(telling), tellOutliers(telling)};
+  return {tellDirection(telling), tellGroupTrends(telling), tellStrongest(telling)};
 }
 
 } // namespace render

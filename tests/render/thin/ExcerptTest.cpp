@@ -109,7 +109,8 @@ TEST(Excerpt, LeavesExtentsAndDescriptionToAllRows) {
   const json spec = specOf(render::mostRows * 2);
   const std::string description = spec["description"];
   EXPECT_THAT(description, testing::HasSubstr("y axis: b from -5 to 999,999."));
-  EXPECT_THAT(description, testing::HasSubstr("Groups by Group, with rows: Ä (39,998); rare (1)"));
+  EXPECT_THAT(description,
+              testing::HasSubstr("Groups by Group, with the number of rows: Ä (39,998); rare (1)"));
   EXPECT_LE(spec["marks"][0]["scales"][1]["domain"][0], -5);
 }
 
