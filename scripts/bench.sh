@@ -8,7 +8,7 @@ configure build-bench -DCMAKE_BUILD_TYPE=Release -DCHARTXML_TESTS=OFF -DCHARTXML
 if [[ ${1-} == pictures ]]; then
   shift
   compile build-bench host/all render/all tools/all procedures/all
-  say "measuring; tables come at the end"
+  say "measuring"
   node bench/pictures/pictures.mjs build-bench build-bench/pictures "$@"
 else
   compile build-bench chartxml_bench

@@ -38,14 +38,16 @@ export function race(what, contenders, runs) {
 
 const digits = (value, count) => value.toLocaleString('en', {maximumSignificantDigits: count, useGrouping: false});
 
-/** Three digits of a number; a text as it is, and what never came as none. */
+/** Three digits of a number; a text as it is, and what is not known as none. */
 const short = (value) =>
-  typeof value !== 'number' ? value : value === Infinity ? '-' : value >= 1000 ? Math.round(value).toString() : digits(value, 3);
+  typeof value !== 'number' ? value : !Number.isFinite(value) ? '-' : value >= 1000 ? Math.round(value).toString() : digits(value, 3);
 
-export function printTable(title, head, rows) {
-  const line = (cells) => `| ${cells.join(' | ')} |`;
+const line = (cells) => console.log(`| ${cells.join(' | ')} |`);
+
+/** Begins a table; returns what prints a row of it. */
+export function beginTable(title, head) {
   console.log(`\n${title}\n`);
-  console.log(line(head));
-  console.log(line(head.map(() => '---')));
-  rows.forEach((row) => console.log(line(row.map(short))));
+  line(head);
+  line(head.map(() => '---'));
+  return (row) => line(row.map(short));
 }

@@ -30,11 +30,12 @@ const filesOf = (families) => families.flatMap(({regular, bold}) => [regular, bo
 
 export const fontFiles = () => filesOf(fonts);
 
+const missing = fonts
+  .filter(({regular, bold}) => !existsSync(regular) || !existsSync(bold))
+  .map(({family}) => family);
+
 /** The families that are not installed. */
-export const missingFamilies = () =>
-  fonts
-    .filter(({regular, bold}) => !existsSync(regular) || !existsSync(bold))
-    .map(({family}) => family);
+export const missingFamilies = () => missing;
 
 const isInSmallFonts = (character) => character === '\n' || familyOf(character) !== undefined;
 

@@ -1,21 +1,30 @@
 // Draws the charts of chart folders from their Vega text: chart.svg, chart.png and
 // chart.pdf beside chart.vg.json. Reads from standard input, as JSON:
 //   {"folders": ["charts/0001-penguins", …], "svg": true, "png": true, "pdf": true}
-// Names each folder that it could not draw on standard error, and ends with status 1
-// then; a terminal there also shows how far it is, in a line that is gone at the end.
+// Names the folders that it could not draw on standard error, in this order, and ends with
+// status 1 then; a terminal there also shows how far it is, in a line that is gone at the
+// end. Many charts are drawn by several threads: the same files, whoever draws them.
 
 import {readFileSync, renameSync, rmSync, writeFileSync} from 'node:fs';
 import {basename, join} from 'node:path';
 import {setImmediate} from 'node:timers/promises';
+import {isMainThread} from 'node:worker_threads';
 import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
 import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from '../page/pictureTexts.js';
 import {nameFaces} from './faces.mjs';
 import {fontsOf, missingFamilies} from './fonts.mjs';
+import {serve, spread, threadsFor} from './spread.mjs';
 import {textWidth} from './textWidth.mjs';
 
 textMetrics.width = (item, text) => textWidth(text, item.fontSize ?? 11, item.fontWeight);
 
 const pngScale = 2;
+
+/**
+ * So many charts are drawn sooner by a thread of their own: each has to load Vega and gets
+ * fast by and by, which bitmaps and PDF soon make up for.
+ */
+const worthwhile = ({png, pdf}) => (png || pdf ? 8 : 64);
 
 /** Writes a file so that it appears whole or not at all. */
 function writeWhole(file, bytes) {
@@ -39,8 +48,17 @@ const anchorClippedGroups = (svg) =>
     (group) => `${group}<path d="M0,0h1v1h-1Z" fill="#000" fill-opacity="0"/>`,
   );
 
+/** Pictures have none, but Vega would make the text of each mark. */
+function dropTooltips({marks = []}) {
+  for (const mark of marks) {
+    delete mark.encode?.update?.tooltip;
+    dropTooltips(mark);
+  }
+}
+
 async function draw(folder, {svg, png, pdf}) {
   const spec = JSON.parse(readFileSync(join(folder, 'chart.vg.json'), 'utf8'));
+  dropTooltips(spec);
   // The ids in a picture count from one, whatever was drawn before it.
   resetSVGDefIds();
   const view = new View(parse(spec), {renderer: 'none'});
@@ -59,21 +77,48 @@ async function draw(folder, {svg, png, pdf}) {
   }
 }
 
-const missing = missingFamilies();
-const {folders, ...formats} = JSON.parse(readFileSync(0, 'utf8'));
-if (formats.png && missing.length > 0)
-  console.error(`chartxml: fonts that are not installed: ${missing.join(', ')}; other fonts take their place in PNG pictures, or characters are missing`);
-const showLine = (text) => process.stderr.isTTY && process.stderr.write(`\r\x1B[K${text}`);
-for (const [index, folder] of folders.entries()) {
-  showLine(`[${index + 1}/${folders.length}] ${basename(folder)}, pictures`);
+/** Draws a chart; gives what went wrong, or null. */
+async function tried({folder, formats}) {
   try {
     await draw(folder, formats);
+    return null;
   } catch (error) {
-    showLine('');
-    console.error(`chartxml: ${folder}: the picture cannot be drawn: ${error.message}`);
-    process.exitCode = 1;
+    return error.message;
   }
-  // The bitmaps of a picture are given back between two turns of the event loop.
-  await setImmediate();
 }
-showLine('');
+
+/** One after the other in this thread. */
+async function drawInTurn(tasks, ended) {
+  for (const [index, task] of tasks.entries()) {
+    ended(index, await tried(task));
+    // The bitmaps of a picture are given back between two turns of the event loop.
+    await setImmediate();
+  }
+}
+
+async function drawAll() {
+  const missing = missingFamilies();
+  const {folders, ...formats} = JSON.parse(readFileSync(0, 'utf8'));
+  if (formats.png && missing.length > 0)
+    console.error(`chartxml: fonts that are not installed: ${missing.join(', ')}; other fonts take their place in PNG pictures, or characters are missing`);
+  const showLine = (text) => process.stderr.isTTY && process.stderr.write(`\r\x1B[K${text}`);
+  const tasks = folders.map((folder) => ({folder, formats}));
+  const troubles = [];
+  let done = 0;
+  const ended = (index, trouble) => {
+    troubles[index] = trouble;
+    showLine(`[${++done}/${folders.length}] ${basename(folders[index])}, pictures`);
+  };
+  const threads = threadsFor(tasks.length, worthwhile(formats));
+  if (threads > 1) await spread(tasks, threads, new URL(import.meta.url), ended);
+  else await drawInTurn(tasks, ended);
+  showLine('');
+  troubles.forEach((trouble, index) => {
+    if (trouble === null) return;
+    console.error(`chartxml: ${folders[index]}: the picture cannot be drawn: ${trouble}`);
+    process.exitCode = 1;
+  });
+}
+
+if (isMainThread) await drawAll();
+else serve(tried);

@@ -1,5 +1,5 @@
 import {View} from 'vega';
-import {expressionInterpreter} from 'vega-interpreter';
+import {expressions} from './expressions.js';
 import {Handler} from 'vega-tooltip';
 import {patternsOf} from './patterns.js';
 import {magnificationOf} from './pictureTexts.js';
@@ -7,11 +7,11 @@ import {magnificationOf} from './pictureTexts.js';
 const escapes = {'&': '&amp;', '<': '&lt;', '>': '&gt;', '"': '&quot;', "'": '&#39;'};
 const escape = (text) => String(text).replace(/[&<>"']/g, (c) => escapes[c]);
 
-/** A tooltip's pairs of title and text as a table. */
-function formatTooltip(pairs) {
+/** A tooltip, made from a mark's pairs of title and text, as a table. */
+function formatTooltip(tell) {
   const row = ([title, text]) =>
     `<tr><td class="key">${escape(title)}</td><td class="value">${escape(text)}</td></tr>`;
-  return `<table>${pairs.map(row).join('')}</table>`;
+  return `<table>${tell().map(row).join('')}</table>`;
 }
 
 /** Shows the picture larger than Vega draws it, where its theme says so. */
@@ -41,7 +41,7 @@ export async function drawChart(runtime, container, spec) {
     container,
     renderer: 'svg',
     hover: true,
-    expr: expressionInterpreter,
+    expr: expressions,
   });
   const own = spec.signals.find(({name}) => name === 'dark').value;
   const isDarkNow = () => (followsReader ? dark.matches : own);

@@ -3,18 +3,24 @@ import {literal} from './texts.js';
 /** So many marks get a label each; more are no help, and the page would be slow. */
 const mostLabels = 500;
 
-function label(mark) {
+/** A signal of the scope, so that it is asked once for all marks: whether they are few. */
+function areFew(data, scope) {
+  scope.signals ??= [];
+  const name = `few_${scope.signals.length}`;
+  scope.signals.push({name, update: `length(data(${literal(data)})) <= ${mostLabels}`});
+  return name;
+}
+
+function label(mark, scope) {
   const tooltip = mark.encode?.update?.tooltip?.signal;
   if (tooltip) {
     const text = `join(${tooltip}, "; ")`;
-    const isOneMark = mark.type === 'line' || mark.type === 'area';
-    const data = literal(mark.from?.data ?? '');
-    mark.encode.update.description = {
-      signal: isOneMark ? text : `length(data(${data})) <= ${mostLabels} ? ${text} : null`,
-    };
+    const isOneMark = mark.type === 'line' || mark.type === 'area' || !mark.from;
+    const signal = isOneMark ? text : `${areFew(mark.from.data, scope)} ? ${text} : null`;
+    mark.encode.update.description = {signal};
   }
-  mark.marks?.forEach(label);
+  mark.marks?.forEach((inner) => label(inner, mark));
 }
 
 /** Gives marks their values as labels for screen readers, unless there are too many. */
-export const prepareLabels = (spec) => spec.marks?.forEach(label);
+export const prepareLabels = (spec) => spec.marks?.forEach((mark) => label(mark, spec));

@@ -1,6 +1,6 @@
 import {View} from 'vega';
-import {expressionInterpreter} from 'vega-interpreter';
 import {csvOf} from './csv.js';
+import {expressions} from './expressions.js';
 import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from './pictureTexts.js';
 import {word} from './words.js';
 
@@ -8,7 +8,7 @@ const pngScale = 2;
 
 /** What a saved picture is made from: what is seen, but light or dark as its theme begins. */
 function asTheme({runtime, view, filters, zoom}) {
-  const picture = new View(runtime, {renderer: 'none', expr: expressionInterpreter});
+  const picture = new View(runtime, {renderer: 'none', expr: expressions});
   const names = filters.map(({signal}) => signal)
     .concat(zoom.flatMap(({name}) => [`zoom_${name}`, `ticks_${name}`, `decimals_${name}`]))
     .concat(zoom.length > 0 ? 'zoomed' : []);

@@ -1,5 +1,5 @@
 import {parse, View} from 'vega';
-import {expressionInterpreter} from 'vega-interpreter';
+import {expressions} from './expressions.js';
 
 /** A text in Vega's expressions, in ASCII: other line ends than "\n" would end them. */
 export const literal = (text) =>
@@ -18,7 +18,7 @@ export async function textsOf(rows, columns, config) {
   }));
   const values = rows.map((datum) => ({...datum}));
   const runtime = parse({config, data: [{name: 'texts', values, transform}]}, null, {ast: true});
-  const view = new View(runtime, {renderer: 'none', expr: expressionInterpreter});
+  const view = new View(runtime, {renderer: 'none', expr: expressions});
   await view.runAsync();
   return view.data('texts').map((datum) =>
     columns.map(({field, labels, text}, i) => {

@@ -55,8 +55,8 @@ function seriesOf({view, spec, filters}) {
 }
 
 async function textOf({item, isRow}, {spec}) {
-  if (Array.isArray(item.tooltip) && !isRow)
-    return item.tooltip.map(([title, text]) => (title ? `${title}: ${text}` : text)).join('; ');
+  if (item.tooltip && !isRow)
+    return item.tooltip().map(([title, text]) => (title ? `${title}: ${text}` : text)).join('; ');
   const columns = spec.usermeta.columns.filter(({field}) => item.datum && field in item.datum);
   const [texts = []] = await textsOf([item.datum ?? {}], columns, spec.config);
   return columns.map(({title}, i) => `${title}: ${texts[i]}`).join('; ');

@@ -255,6 +255,22 @@ TEST_F(Command, SaysThatPicturesCannotBeDrawn) {
                                                 "be drawn: EISDIR: illegal operation"));
 }
 
+TEST_F(Command, DrawsManyChartsInThreadsAsItDrawsThemOneByOne) {
+  ASSERT_EQ(shell("cd charts; for i in $(seq -w 02 40); do cp -r 0001-small 00$i-small; done; "
+                  "mkdir 0003-small/chart.svg 0038-small/chart.svg"),
+            (Outcome{0, ""}));
+  const Outcome outcome = chartxml("render charts --svg --png 2>&1 | cut -d: -f1-3");
+  EXPECT_EQ(outcome.text, "chartxml: charts/0003-small: the picture cannot be drawn\n"
+                          "chartxml: charts/0038-small: the picture cannot be drawn\n"
+                          "chartxml: not all pictures could be drawn\n"
+                          "open /charts/index.html\n");
+  ASSERT_EQ(chartxml("render charts/0001-small --svg --png").status, 0);
+  EXPECT_EQ(shell("cd charts; for i in $(seq -w 01 40); do case $i in 03|38) ;; *) "
+                  "cmp 0001-small/chart.svg 00$i-small/chart.svg; "
+                  "cmp 0001-small/chart.png 00$i-small/chart.png;; esac; done"),
+            (Outcome{0, ""}));
+}
+
 TEST_F(Command, PutsTextsWithTheirFontsIntoAPdfUnlessTheyRunFromRightToLeft) {
   const auto drawWithTitle = [&](std::string_view title) {
     return shell(fmt::format("cp charts/0001-small/chart.xml kept; "

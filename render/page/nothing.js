@@ -1,0 +1,1 @@
+// What stands in for packages that are left out of the scripts.
