@@ -16,9 +16,10 @@ namespace render {
 namespace {
 
 constexpr double lineHeight = theme::labelSize + 6;
+constexpr double lineDistance = theme::labelSize + 2; ///< within a label of several lines
 
 struct Text {
-  std::string text;
+  Json text;                ///< an array has several lines
   std::string expression{}; ///< of Vega, in its place
   double x;
   double y;
@@ -40,6 +41,11 @@ void addText(const Text& text, Context& context) {
               {"fontSize", {{"value", text.isTitle ? theme::axisTitleSize : theme::labelSize}}},
               {"fill", {{"signal", "ink"}}}};
   if (text.angle != 0) update["angle"] = {{"value", text.angle}};
+  if (text.text.is_array()) {
+    // Vega puts the first line at the place, not the middle of the lines.
+    update["y"]["offset"] = lineDistance * (1 - static_cast<double>(text.text.size())) / 2;
+    update["lineHeight"] = {{"value", lineDistance}};
+  }
   context.parts.marks.push_back({{"type", "text"}, {"encode", {{"update", std::move(update)}}}});
 }
 
@@ -97,32 +103,61 @@ double angleOf(std::size_t level, double usual, Context& context) {
   return usual;
 }
 
+/// A label above or below panels, whose width it may fill with several lines.
+Json linesOf(const Run& run) {
+  constexpr std::size_t mostLines = 3;
+  const Category& category = categoryOf(*run.value);
+  if (!category.expression.empty()) return category.label;
+  Json lines = wrap(
+      category.label,
+      {.width = static_cast<int>(run.length), .fontSize = theme::labelSize, .lines = mostLines});
+  return lines.size() > 1 ? lines : Json(category.label);
+}
+
+/// The room that the labels of a level need.
+double heightOf(const std::vector<Run>& runs) {
+  double height = lineHeight;
+  for (const Run& run : runs)
+    if (const Json lines = linesOf(run); lines.is_array())
+      height = std::max(height, lineHeight + lineDistance * static_cast<double>(lines.size() - 1));
+  return height;
+}
+
+void labelLevel(std::size_t level, const std::vector<Run>& runs, double y, Context& context) {
+  angleOf(level + 1, 0, context);
+  for (const Run& run : runs) {
+    Text text = labelOf(run);
+    text.text = linesOf(run);
+    text.y = y;
+    if (hasCells(level + 1, context.chart))
+      addStrip({run.start(), y - heightOf(runs) / 2, run.length, heightOf(runs)}, context);
+    addText(text, context);
+  }
+}
+
 void labelColumns(Context& context) {
   const std::vector<FacetCell>& columns = context.chart.facets.columns;
   const bool alongAxis = context.chart.facets.areAlongAxis;
-  const Layout& layout = context.layout;
-  const auto depth = static_cast<double>(depthOf(columns));
-  double y = alongAxis ? layout.height + axisRoom(context) + lineHeight * (depth - 0.5)
-                       : -lineHeight * (depth - 0.5);
+  std::vector<std::vector<Run>> levels;
+  double distance = alongAxis ? axisRoom(context) : 0; // from the plot to the title
   for (std::size_t level = 0; level < depthOf(columns); ++level) {
-    angleOf(level + 1, 0, context);
-    for (const Run& run : runsOf(columns, level, layout.left, layout.panelWidth)) {
-      Text text = labelOf(run);
-      text.y = y;
-      if (hasCells(level + 1, context.chart))
-        addStrip({run.start(), y - lineHeight / 2, run.length, lineHeight}, context);
-      addText(text, context);
-    }
-    y += alongAxis ? -lineHeight : lineHeight;
+    levels.push_back(runsOf(columns, level, context.layout.left, context.layout.panelWidth));
+    distance += heightOf(levels.back());
   }
-  const double titleY = alongAxis ? layout.height + axisRoom(context) + lineHeight * (depth + 0.7)
-                                  : -lineHeight * (depth + 0.5) - 2;
-  addText({.text = titleOf(columns, 1, context.chart),
-           .x = layout.width / 2,
-           .y = titleY,
-           .limit = layout.width,
-           .isTitle = true},
-          context);
+  const double ofTitle = distance;
+  for (std::size_t level = 0; level < levels.size(); ++level) {
+    const double middle = distance - heightOf(levels[level]) / 2;
+    labelLevel(level, levels[level], alongAxis ? context.layout.height + middle : -middle, context);
+    distance -= heightOf(levels[level]);
+  }
+  const Layout& layout = context.layout;
+  addText(
+      {.text = titleOf(columns, 1, context.chart),
+       .x = layout.width / 2,
+       .y = alongAxis ? layout.height + ofTitle + lineHeight * 0.7 : -ofTitle - lineHeight / 2 - 2,
+       .limit = layout.width,
+       .isTitle = true},
+      context);
 }
 
 void labelRows(Context& context) {

@@ -146,7 +146,7 @@ Json config(const Manifest& manifest, const Theme& theme) {
             {"axis", axes(font)},
             {"legend", legends(font)},
             {"title", titles(font)}};
-  if (theme.labelGap > 0) json["axis"]["labelSeparation"] = theme.labelGap;
+  json["axis"]["labelSeparation"] = theme.labelGap;
   return json;
 }
 

@@ -72,7 +72,7 @@ struct Theme {
   bool followsReader = true; ///< in a page: the reader's choice of light or dark
   int plotWidth = theme::plotWidth;
   int plotHeight = theme::plotHeight;
-  int labelGap = 0;         ///< the least between labels of an axis
+  int labelGap = 3;         ///< the least between labels of an axis
   double magnification = 1; ///< of the whole picture: a small plot so has large type and few ticks
   bool hasPatterns = false; ///< in place of colors
 };

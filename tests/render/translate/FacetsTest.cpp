@@ -18,7 +18,7 @@ using nlohmann::json;
 class FacetsTest : public testing::Test {
 protected:
   void draw(std::string_view facets, std::string_view element = point,
-            std::string_view yAttributes = "") {
+            std::string_view yAttributes = "", std::string_view rows = table) {
     const std::string plot =
         fmt::format(R"({}<dimension role="x"><axis id="ax"><majorTicks/></axis></dimension>
       <dimension role="y" lowerMargin="0%" upperMargin="0%" {}><axis id="ay"><majorTicks/></axis>
@@ -26,7 +26,7 @@ protected:
                     facets, yAttributes, element);
     constexpr std::string_view kind =
         R"(<variable id="v4" sourceName="Kind" source="source0" categorical="true" label="Kind"/>)";
-    spec_ = folder_.write("chart.xml", document(plot, kind)).write("source0.csv", table).spec();
+    spec_ = folder_.write("chart.xml", document(plot, kind)).write("source0.csv", rows).spec();
   }
 
   json panels() const {
@@ -85,6 +85,22 @@ TEST_F(FacetsTest, CombinatorsMakePanelsOfTheValuesOfTheirVariables) {
     const auto empty = static_cast<std::size_t>(std::ranges::count(expected, 0U));
     EXPECT_EQ(spec_["usermeta"]["notes"].size(), empty) << facets; // tells of empty panels
   }
+}
+
+TEST_F(FacetsTest, LabelsOfNarrowColumnsHaveSeveralLinesAndMoveTheLevelsBeyond) {
+  std::string rows = "A,B,Group,Kind\n";
+  for (const char* kind : {"North East Central", "n", "o", "p", "q", "r", "s", "t"})
+    rows += fmt::format("1,2,a,{}\n3,4,a,{}\n", kind, kind);
+  draw(combined("nest", byGroup, byKind), point, "", rows);
+  json places = json::array();
+  for (const json& mark : spec_["marks"][0]["marks"])
+    if (mark["type"] == "text")
+      places.push_back({mark["encode"]["update"]["text"]["value"], mark["encode"]["update"]["y"]});
+  ASSERT_EQ(places.size(), 10U);
+  EXPECT_EQ(places[2], json::parse(R"([["North East","Central"],{"value":-17,"offset":-7.5}])"));
+  EXPECT_EQ(places[1], json::parse(R"(["n",{"value":-17}])"));
+  EXPECT_EQ(places[0], json::parse(R"(["Ä",{"value":-43.5}])"));
+  EXPECT_EQ(places[9], json::parse(R"(["Group, Kind",{"value":-64.5}])"));
 }
 
 TEST_F(FacetsTest, PanelsStandInRowsAndColumnsWithTheirAxesOutside) {
