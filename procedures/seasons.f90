@@ -9,6 +9,7 @@
 ! directory when none is named.
 program seasons
   use, intrinsic :: iso_c_binding, only: dp => c_double
+  use calendar, only: months_of_year, split_date
   use charts
   use chartxml
   use drawings, only: computed, draw_axes, drawing, group, new_drawing
@@ -17,7 +18,7 @@ program seasons
   implicit none
 
   character(*), parameter :: procedure_name = 'seasons'
-  integer, parameter :: months_of_year = 12, longest_lag = 24
+  integer, parameter :: longest_lag = 24
   real(dp), parameter :: normal_95 = 1.959964_dp !< the quantile of 95 % limits
 
   ! The variables of this run, in the order in which they are opened.
@@ -66,24 +67,6 @@ contains
     call require(months > longest_lag, 'the series is too short')
     call require(all(12*(cases%year(2:) - cases%year(:months - 1)) &
       + cases%of_year(2:) - cases%of_year(:months - 1) == 1), 'the months do not follow each other')
-  end subroutine
-
-  !> Year and month of a date, which counts seconds from 14 October 1582 on: days are counted
-  !> from 1 March of the year 0, so that leap days come last, in eras of 400 years.
-  pure subroutine split_date(seconds, year, month)
-    real(dp), intent(in) :: seconds
-    integer, intent(out) :: year, month
-    integer, parameter :: days_before = 578040, era_days = 146097
-    integer :: day, era, day_of_era, year_of_era, day_of_year, from_march
-
-    day = floor(seconds/86400) + days_before
-    era = day/era_days
-    day_of_era = day - era*era_days
-    year_of_era = (day_of_era - day_of_era/1460 + day_of_era/36524 - day_of_era/146096)/365
-    day_of_year = day_of_era - (365*year_of_era + year_of_era/4 - year_of_era/100)
-    from_march = (5*day_of_year + 2)/153
-    month = modulo(from_march + 2, months_of_year) + 1
-    year = year_of_era + 400*era + merge(1, 0, month < 3)
   end subroutine
 
   ! Statistics

@@ -143,6 +143,20 @@ over(0, census$census, c(5, 9, 13))
 days <- as.numeric(as.Date(census$day) - as.Date("1582-10-14")) * 86400
 over(3, days, days[c(5, 9, 13)])
 
+# States and the unemployed, by the columns of the chart's table.
+add("regions/0001-regions", "element_simplebar_1",
+    data.frame(variable6 = as.character(1:9), low = 0, high = as.vector(table(state.division))))
+add("regions/0002-regions", "element_boxplot_1",
+    setNames(by_groups(data.frame(region = as.character(as.integer(state.region)),
+                                  population = state.x77[, "Population"]), "region",
+                       function(d) boxes(d$population)), c("variable6", "part", "low", "high")))
+unemployed <- subset(ggplot2::economics, format(date, "%m") %in% c("01", "07"))
+unemployed$share <- 100 * unemployed$unemploy / unemployed$pop
+add("unemployment/0001-unemployment", "source0", with(unemployed, data.frame(
+    variable6 = as.numeric(date - as.Date("1582-10-14")) * 86400, variable7 = share)))
+add("unemployment/0002-unemployment", "source0",
+    with(subset(unemployed, date >= "2000-01-01"), data.frame(variable6 = share, variable7 = uempmed)))
+
 # How far axes reach: what ggplot2 makes of the same layers.
 reach <- function(chart, plot) {
   panel <- ggplot2::ggplot_build(plot)$layout$panel_params[[1]]

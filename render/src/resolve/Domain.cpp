@@ -101,16 +101,20 @@ Ranks sums(const Variable& source, const Variable& statistic) {
   return ranks;
 }
 
-void sortByRank(std::vector<Category>& categories, const Ranks& ranks) {
+/// Those of one rank keep their order, whichever end comes first, and those without a rank
+/// come last.
+void sortByRank(std::vector<Category>& categories, const Ranks& ranks, bool isDescending) {
   const auto rank = [&](const Category& category) {
     const auto found = ranks.find(category.key);
-    return found == ranks.end() ? std::numeric_limits<double>::infinity() : found->second;
+    if (found == ranks.end()) return std::numeric_limits<double>::infinity();
+    return isDescending ? -found->second : found->second;
   };
   std::ranges::stable_sort(categories, {}, rank);
 }
 
-void sortByStatistic(std::vector<Category>& categories, const Node& node, const Chart& chart,
-                     Notes& notes) {
+/// Returns whether there is what to sort by.
+bool sortByStatistic(std::vector<Category>& categories, const Node& node, bool isDescending,
+                     const Chart& chart, Notes& notes) {
   const auto variable = [&](std::string_view name) -> const Variable* {
     const auto found = chart.variableOfId.find(node.attribute(name));
     return found == chart.variableOfId.end() ? nullptr : found->second;
@@ -119,9 +123,12 @@ void sortByStatistic(std::vector<Category>& categories, const Node& node, const 
   const Variable* statistic = variable("statVariable");
   const bool isUsable = source != nullptr && source->texts != nullptr && statistic != nullptr &&
                         !statistic->numbers.empty() && source->source == statistic->source;
-  if (isUsable) return sortByRank(categories, sums(*source, *statistic));
-  notes.add(fmt::format("{} by {} is not drawn: it has no values", node.name(),
-                        node.attribute("statVariable")));
+  if (isUsable)
+    sortByRank(categories, sums(*source, *statistic), isDescending);
+  else
+    notes.add(fmt::format("{} by {} is not drawn: it has no values", node.name(),
+                          node.attribute("statVariable")));
+  return isUsable;
 }
 
 } // namespace
@@ -145,16 +152,21 @@ Domain domainOf(const Dimension& dimension, const Chart& chart, Notes& notes) {
 
 void sortCategories(std::vector<Category>& categories, const Node& sort, const Dimension& dimension,
                     const Chart& chart, Notes& notes) {
+  const bool isDescending = sort.attribute("descending") == "true";
+  bool isRanked = false;
   for (const Node& node : sort.children) {
-    if (node.kind == "statisticSort") sortByStatistic(categories, node, chart, notes);
+    if (node.kind == "statisticSort")
+      isRanked |= sortByStatistic(categories, node, isDescending, chart, notes);
     if (node.kind != "simpleSort") continue;
     const std::string_view method = node.attribute("method");
-    if (method == "data")
-      sortByRank(categories, firstRows(dimension));
-    else if (method != "natural" && !method.empty())
+    if (method == "data") {
+      sortByRank(categories, firstRows(dimension), isDescending);
+      isRanked = true;
+    } else if (method != "natural" && !method.empty()) {
       notes.add(fmt::format("{}: the order {} is not drawn yet", node.name(), shown(method)));
+    }
   }
-  if (sort.attribute("descending") == "true") std::ranges::reverse(categories);
+  if (isDescending && !isRanked) std::ranges::reverse(categories);
 }
 
 } // namespace render

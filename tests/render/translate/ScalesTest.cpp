@@ -173,18 +173,23 @@ TEST_F(ScalesTest, ASortOrdersCategories) {
     const char* sort;
     json order;
   } cases[] = {
-      {"<sort/>", {"a", "b", "c"}},
-      {R"(<sort descending="true"/>)", {"c", "b", "a"}},
-      {R"(<sort><simpleSort method="data"/></sort>)", {"b", "a", "c"}},
-      {R"(<sort><statisticSort sourceVariable="v3" statVariable="v2"/></sort>)", {"b", "c", "a"}},
+      {"<sort/>", {"a", "b", "c", "d"}},
+      {R"(<sort descending="true"/>)", {"d", "c", "b", "a"}},
+      {R"(<sort><simpleSort method="data"/></sort>)", {"b", "a", "c", "d"}},
+      {R"(<sort><statisticSort sourceVariable="v3" statVariable="v2"/></sort>)",
+       {"b", "d", "c", "a"}},
+      {R"(<sort descending="true"><statisticSort sourceVariable="v3" statVariable="v2"/></sort>)",
+       {"a", "c", "b", "d"}},
       {R"(<sort descending="true"><statisticSort sourceVariable="v3" statVariable="v1"/></sort>)",
-       {"c", "a", "b"}},
+       {"c", "a", "b", "d"}},
   };
+  const std::string table = std::string(values) + ",10,d\n";
   for (const auto& [sort, order] : cases)
     EXPECT_EQ(
         drawn("x", R"(domain="d")", "",
               R"(<element type="interval" id="e"><x variable="v3"/><y variable="v2"/></element>)",
-              fmt::format(R"(<domain id="d" categorical="true">{}</domain>)", sort))["domain"],
+              fmt::format(R"(<domain id="d" categorical="true">{}</domain>)", sort),
+              table)["domain"],
         order)
         << sort;
 }
