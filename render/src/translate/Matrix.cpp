@@ -1,6 +1,5 @@
 #include "translate/Matrix.h"
 
-#include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -55,12 +54,6 @@ void addVariableName(const Variable& variable, Context& context) {
               {"fill", {{"signal", "ink"}}}};
   context.parts.marks.push_back(
       {{"type", "text"}, {"interactive", false}, {"encode", {{"update", std::move(update)}}}});
-}
-
-int matrixPointSize(const Context& context) {
-  constexpr double usualPanel = 300; // as wide or wider has symbols of the usual size
-  const double share = std::min(1.0, context.layout.panelWidth / usualPanel);
-  return std::max(theme::smallestSize / 2, static_cast<int>(std::lround(theme::pointSize * share)));
 }
 
 } // namespace render

@@ -20,7 +20,4 @@ bool isEmptyStyle(const Node& facetStyle, const Chart& chart);
 /// document styles cells.
 void addVariableName(const Variable& variable, Context& context);
 
-/// The area of symbols: panels are small, and symbols with them.
-int matrixPointSize(const Context& context);
-
 } // namespace render

@@ -11,6 +11,7 @@
 #include "translate/Matrix.h"
 #include "translate/Style.h"
 #include "translate/StyleCycle.h"
+#include "translate/SymbolSize.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
@@ -91,7 +92,7 @@ Json sizeOf(const Element& element, Context& context) {
   if (element.method == Method::hexagons) return sizeByCount(element, context);
   if (element.size != nullptr && element.method == Method::none)
     return sizeByVariable(element, context);
-  return {{"value", context.chart.facets.isMatrix ? matrixPointSize(context) : theme::pointSize}};
+  return {{"value", symbolSize(context)}};
 }
 
 Json shapeOf(const Element& element, Context& context) {
@@ -124,7 +125,8 @@ void translatePoint(const Node& node, Context& context) {
   update["size"] = sizeOf(*element, context);
   update["shape"] = shapeOf(*element, context);
   update["stroke"] = color(*element, context);
-  update["strokeWidth"] = {{"value", theme::thinWidth}};
+  update["strokeWidth"] = {
+      {"value", symbolOutline(update["size"].value("value", 1.0 * theme::pointSize))}};
   // A transparent filling, unlike none, still takes the pointer.
   update["fill"] = isHollow(style != nullptr ? *style : node, context.chart)
                        ? Json{{"value", "transparent"}}

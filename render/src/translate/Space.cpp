@@ -17,6 +17,7 @@
 #include "text/Show.h"
 #include "text/Wrap.h"
 #include "translate/AxisTicks.h"
+#include "translate/Encode.h"
 #include "translate/Theme.h"
 
 namespace render {
@@ -308,6 +309,19 @@ void addProjection(Json& transforms, const Element& element, const Context& cont
   add("across", fmt::format("{}+{}*{}", literal(view.middleX), turned(view.turn[0]), size));
   add("down", fmt::format("{}-{}*{}", literal(view.middleY), turned(view.turn[1]), size));
   transforms.push_back({{"type", "collect"}, {"sort", {{"field", "near"}}}});
+}
+
+std::vector<Spot> spotsInSpace(const Element& element, const Context& context) {
+  const View view = viewOf(context);
+  std::vector<Spot> spots;
+  for (const Item* item : drawnItems(element, context)) {
+    BoxPlace place{};
+    for (std::size_t i = 0; i < roles.size(); ++i)
+      place[i] = inBox(element.along(roles[i])->numbers[item->row], context.along(roles[i]));
+    const View::Point point = view.at(place);
+    spots.push_back({.x = point.x, .y = point.y});
+  }
+  return spots;
 }
 
 Json spatialPositions() { return {{"x", {{"field", "across"}}}, {"y", {{"field", "down"}}}}; }

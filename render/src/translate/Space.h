@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "translate/ItemPlace.h"
 #include "translate/Translator.h"
 
 /// Plots of three dimensions: what is drawn lies in a box that is seen in perspective.
@@ -16,6 +18,9 @@ void addProjection(Json& transforms, const Element& element, const Context& cont
 
 /// The position of such a row.
 Json spatialPositions();
+
+/// Where the items of an element stand in the picture; one for each of `drawnItems`.
+std::vector<Spot> spotsInSpace(const Element& element, const Context& context);
 
 /// An axis's own label, else the titles of the variables drawn along it.
 std::string axisTitle(const Node& axis, const Dimension& dimension);

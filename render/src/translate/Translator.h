@@ -41,6 +41,7 @@ struct Parts {
   std::vector<const Node*> lines;     ///< those drawn as lines across the plot
   std::vector<Area> linesAcross;      ///< where these are in the panel, but for those at categories
   std::vector<Named> named;           ///< in the order of the legends
+  int symbolSize = 0;                 ///< of points; 0 before it is known
   std::map<const Node*, std::size_t> labelsLeftOut; ///< of elements, in all panels
 
   bool hasScale(std::string_view name) const;

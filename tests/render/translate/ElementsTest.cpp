@@ -402,4 +402,33 @@ TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
     EXPECT_THAT(spec(plot, parts, range)["usermeta"]["notes"], testing::Contains(note)) << plot;
 }
 
+TEST_F(ElementsTest, SymbolsAreSmallerWherePointsLieDensely) {
+  const auto update = [](int step, int rows) {
+    std::string table = "A,B,Group\n0,0,a\n10000,10000,a\n";
+    for (int i = 0; i < rows; ++i)
+      table += fmt::format("{},{},a\n", 4000 + i % 30 * step, 4000 + i / 30 * step);
+    return TestFolder()
+        .write("chart.xml", document(point))
+        .write("source0.csv", table)
+        .spec()["marks"][0]["marks"][0]["encode"]["update"];
+  };
+  const struct {
+    const char* what;
+    int step;
+    int rows;
+    int size;
+    double outline;
+  } cases[] = {
+      {"far apart", 200, 300, 56, 1.5},
+      {"at one pixel", 0, 300, 56, 1.5},
+      {"close", 140, 900, 38, 1.24},
+      {"as close as there are pixels", 20, 900, 14, 0.75},
+  };
+  for (const auto& [what, step, rows, size, outline] : cases) {
+    const json drawn = update(step, rows);
+    EXPECT_EQ(drawn["size"]["value"], size) << what;
+    EXPECT_EQ(drawn["strokeWidth"]["value"], outline) << what;
+  }
+}
+
 } // namespace
