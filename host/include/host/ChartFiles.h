@@ -13,6 +13,9 @@ namespace host {
 /// What a chart folder calls its manifest: the only file that does not list itself.
 constexpr const char* manifestName = "manifest.json";
 
+/// And the list of the calls that made its nodes.
+constexpr const char* callsName = "calls.json";
+
 /// The part of a manifest that is known only when all else is written.
 struct ChartFiles {
   std::vector<std::string> errors;             ///< what the folder lacks, and why

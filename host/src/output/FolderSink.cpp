@@ -15,6 +15,7 @@
 #include <nlohmann/json.hpp>
 
 #include "data/JsonFile.h"
+#include "output/CallsFile.h"
 #include "output/CsvFile.h"
 #include "output/DataPackage.h"
 #include "output/Failure.h"
@@ -110,6 +111,7 @@ void FolderSink::send(const SentChart& chart) {
   writeSources(draft.path(), chart);
   writeDataPackage(draft.path(), chart, name);
   writeManifest(draft.path(), chart, name);
+  writeCalls(draft.path(), chart.calls);
   std::vector<Finding> findings;
   const auto pageFailure = failureOf(
       [&](const fs::path& chartFolder) {

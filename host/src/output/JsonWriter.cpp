@@ -1,11 +1,14 @@
 #include "output/JsonWriter.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace host {
 namespace {
 
 constexpr int indent = 2;
+
+bool standsForItself(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
 
 } // namespace
 
@@ -25,7 +28,7 @@ void JsonWriter::end() {
 
 void JsonWriter::key(std::string_view name) {
   separate();
-  write(name);
+  writeText(name);
   file_.write(": ");
   hasKey_ = true;
 }
@@ -33,6 +36,11 @@ void JsonWriter::key(std::string_view name) {
 void JsonWriter::value(const nlohmann::ordered_json& json) {
   separate();
   write(json);
+}
+
+void JsonWriter::text(std::string_view utf8) {
+  separate();
+  writeText(utf8);
 }
 
 void JsonWriter::number(std::string_view text) {
@@ -50,6 +58,16 @@ void JsonWriter::breakLine() {
   file_.write('\n');
   for (std::size_t i = 0; i < indent * open_.size(); ++i)
     file_.write(' ');
+}
+
+void JsonWriter::writeText(std::string_view utf8) {
+  if (!std::ranges::all_of(utf8, standsForItself)) {
+    write(utf8);
+    return;
+  }
+  file_.write('"');
+  file_.write(utf8);
+  file_.write('"');
 }
 
 /// A line end in the text is one of the layout: those of strings are escaped.

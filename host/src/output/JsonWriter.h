@@ -29,6 +29,8 @@ public:
     key(name);
     value(json);
   }
+  /// A text; most are of characters that stand for themselves, which costs a copy.
+  void text(std::string_view utf8);
   /// A number as its text, which keeps the digits as they were.
   void number(std::string_view text);
 
@@ -43,6 +45,7 @@ private:
   void separate();
   void breakLine();
   void write(const nlohmann::ordered_json& json);
+  void writeText(std::string_view utf8);
 
   FileWriter& file_;
   std::vector<Open> open_;

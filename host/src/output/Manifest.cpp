@@ -1,7 +1,6 @@
 #include "output/Manifest.h"
 
 #include <source_location>
-#include <string_view>
 #include <vector>
 
 #include <fmt/format.h>
@@ -117,17 +116,6 @@ void writeStatistics(JsonWriter& writer, const ZephVisualization& chart) {
   writer.end();
 }
 
-/// {"variable1": "7 cx_addvariable_"}
-void writeCalls(JsonWriter& writer, const NodeCalls& calls) {
-  writer.key("calls");
-  writer.beginObject();
-  if (calls)
-    calls([&](std::string_view node, unsigned call, std::string_view name) {
-      writer.member(node, fmt::format("{} {}", call, name));
-    });
-  writer.end();
-}
-
 void writeIcicle(JsonWriter& writer, const ZephVisualization& chart) {
   if (!chart.icicleHorizontal) return;
   writer.member("type", "icicle");
@@ -164,7 +152,6 @@ void writeManifest(const std::filesystem::path& chartFolder, const SentChart& ch
   writeIcicle(writer, chart.visualization);
   writeSources(writer, chart);
   writeStatistics(writer, chart.visualization);
-  writeCalls(writer, chart.calls);
   writer.end();
   file.finish();
 }

@@ -3,15 +3,11 @@
 #include <charconv>
 #include <fstream>
 
+#include <host/ChartFiles.h>
 #include <nlohmann/json.hpp>
 
 namespace render {
 namespace {
-
-/// Of the manifest's members only the calls: the columns may be many.
-bool isOfCalls(int depth, nlohmann::json::parse_event_t event, const nlohmann::json& parsed) {
-  return depth != 1 || event != nlohmann::json::parse_event_t::key || parsed == "calls";
-}
 
 /// Of "7 cx_addx_".
 Call callOf(std::string_view text) {
@@ -27,16 +23,10 @@ Call callOf(std::string_view text) {
 
 Calls Calls::read(const std::filesystem::path& chartFolder) {
   Calls calls;
-  std::ifstream stream(chartFolder / "manifest.json");
-  const auto manifest = nlohmann::json::parse(
-      stream,
-      [](int depth, nlohmann::json::parse_event_t event, nlohmann::json& parsed) {
-        return isOfCalls(depth, event, parsed);
-      },
-      false);
-  const auto found = manifest.is_object() ? manifest.find("calls") : manifest.end();
-  if (!manifest.is_object() || found == manifest.end() || !found->is_object()) return calls;
-  for (const auto& [node, text] : found->items())
+  std::ifstream stream(chartFolder / host::callsName);
+  const auto list = nlohmann::json::parse(stream, nullptr, false);
+  if (!list.is_object()) return calls;
+  for (const auto& [node, text] : list.items())
     if (text.is_string())
       calls.callOfNode_.emplace(node, callOf(text.get_ref<const std::string&>()));
   return calls;

@@ -13,10 +13,10 @@ struct Call {
   std::string name{};
 };
 
-/// Which calls made the nodes of a chart, as its manifest tells.
+/// Which calls made the nodes of a chart, as its folder tells.
 class Calls {
 public:
-  /// None where the manifest tells of none or is not there.
+  /// None where the list is missing or damaged.
   static Calls read(const std::filesystem::path& chartFolder);
 
   /// The call of a node by its name, or null.

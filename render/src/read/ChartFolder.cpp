@@ -25,10 +25,9 @@ std::map<std::string, Table, std::less<>> readTables(const std::filesystem::path
   return tables;
 }
 
-/// What a manifest tells of each column and each node would take much memory, and pages
-/// need none of it.
-bool skipLongParts(int /*depth*/, nlohmann::json::parse_event_t event, nlohmann::json& parsed) {
-  return event != nlohmann::json::parse_event_t::key || (parsed != "columns" && parsed != "calls");
+/// What a manifest tells of each column would take much memory, and pages need none of it.
+bool skipColumns(int /*depth*/, nlohmann::json::parse_event_t event, nlohmann::json& parsed) {
+  return event != nlohmann::json::parse_event_t::key || parsed != "columns";
 }
 
 } // namespace
@@ -40,7 +39,7 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
   std::ifstream stream(file);
   if (!stream) return manifest;
   try {
-    const nlohmann::json json = nlohmann::json::parse(stream, skipLongParts);
+    const nlohmann::json json = nlohmann::json::parse(stream, skipColumns);
     if (!json.is_object()) throw RenderError(fmt::format("{}: not an object", file.native()));
     const std::string name = json.value("name", "");
     if (!name.empty()) manifest.name = name;

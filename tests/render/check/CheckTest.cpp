@@ -154,8 +154,7 @@ TEST(Checks, NameTheCallOfTheNodeOrOfTheOneAroundIt) {
       .write("chart.xml", document(element("<x variable='v1'/><x variable='v1'/><y variable='v2'/>"
                                            "<y variable='v2'/>")))
       .write("source0.csv", smallTable)
-      .write("manifest.json", R"({"calls": {"e": "5 cx_addelement_", "e/x[2]": "9 cx_addx_"},
-                                  "sources": [{"calls": 1}]})");
+      .write("calls.json", R"({"e": "5 cx_addelement_", "e/x[2]": "9 cx_addx_", "y": 1})");
   const render::Findings findings = render::writeChart(folder.path());
   ASSERT_EQ(findings.size(), 2U);
   EXPECT_EQ(findings[0].node, "e/x[2]");
