@@ -83,16 +83,36 @@ TEST_F(ScalesTest, ALabelOfANumberStandsInItsPlaceAtTicksInTooltipsAndInTheTable
   EXPECT_THAT(tooltip, testing::HasSubstr(textOf(datum, otherwise)));
 }
 
-TEST_F(ScalesTest, LabelsOfManyCategoriesGoStraightUpWhereTheyFitSo) {
-  const std::pair<int, json> angleOfCount[] = {{20, -45}, {40, -90}, {60, -45}};
-  for (const auto& [count, angle] : angleOfCount) {
+TEST_F(ScalesTest, LabelsOfCategoriesLieAsTheyFitAndWhatHasNoRoomIsToldOf) {
+  const struct {
+    int count;
+    const char* asked;
+    json angle, overlap;
+    std::size_t every;
+  } cases[] = {{4, "", {}, {}, 1},
+               {20, "", -45, false, 1},
+               {40, "", -90, false, 1},
+               {120, "", -90, false, 3},
+               {40, "-30", -30, false, 2}};
+  for (const auto& [count, asked, angle, overlap, every] : cases) {
     std::string table = "A,B,Group\n";
     for (int i = 0; i < count; ++i)
-      table += fmt::format("1,1,a category with a long name {}\n", i);
-    drawn("x", "", "",
-          R"(<element type="point" id="e"><x variable="v3"/><y variable="v2"/></element>)", "",
-          table);
-    EXPECT_EQ(spec_["marks"][0]["axes"][0]["labelAngle"], angle) << count;
+      table += fmt::format("1,1,a category with a long name {:03}\n", i);
+    const std::string plot = fmt::format(R"(<dimension role="x"><axis><majorTicks labelAngle="{}"/>
+      </axis></dimension><element type="point" id="e"><x variable="v3"/><y variable="v2"/></element>)",
+                                         asked);
+    spec_ = folder_.write("chart.xml", document(plot)).write("source0.csv", table).spec();
+    const json& axis = spec_["marks"][0]["axes"][0];
+    EXPECT_EQ(axis.value("labelAngle", json()), angle) << count;
+    EXPECT_EQ(axis.value("labelOverlap", json()), overlap) << count;
+    const json notes = spec_["usermeta"].value("notes", json::array());
+    ASSERT_EQ(notes.size(), every == 1 ? 0 : 1) << notes;
+    if (every == 1) continue;
+    EXPECT_EQ(axis["values"].size(), (count + every - 1) / every);
+    EXPECT_EQ(axis["values"][1], fmt::format("a category with a long name {:03}", every));
+    EXPECT_EQ(notes[0],
+              fmt::format("x: there is room for the labels of {} of {} categories, one in {}",
+                          axis["values"].size(), count, every));
   }
 }
 
