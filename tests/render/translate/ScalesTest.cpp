@@ -140,7 +140,7 @@ TEST_F(ScalesTest, ASafeLogarithmGoesThroughZeroAndAnUnsafeOneLeavesValuesOut) {
       "x", noMargins, scaleNode("log", std::string(base10) + std::string(safe)), point, "", table);
   EXPECT_EQ(through["type"], "symlog");
   EXPECT_EQ(through["domain"], json({-10, 1000}));
-  EXPECT_EQ(ticks(), json({-10, 0, 10, 100, 1000}));
+  EXPECT_EQ(ticks(), json({-10, -1, 0, 1, 10, 100, 1000}));
 
   const json above = drawn("x", noMargins, scaleNode("log", base10), point, "",
                            "A,B,Group\n-10,1,a\n0,2,a\n1000,3,a\n10,4,a\n");
