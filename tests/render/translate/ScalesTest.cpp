@@ -157,6 +157,27 @@ TEST_F(ScalesTest, ALogarithmWithoutValuesStillHasAScale) {
         << table;
 }
 
+TEST_F(ScalesTest, ABinWithoutALogarithmBeginsWhereTheScaleDoes) {
+  const json scale =
+      drawn("x", noMargins, scaleNode("log", base10),
+            R"(<element type="interval" id="e"><x variable="v1"/><statistic method="histogram">
+         <parameter name="bin-width" value="50"/></statistic></element>)",
+            "", "A,B,Group\n-60,,a\n0.5,,a\n3,,a\n40,,a\n60,,a\n");
+  EXPECT_EQ(scale["domain"], json({0.5, 100}));
+  const json& update = spec_["marks"][0]["marks"][0]["encode"]["update"];
+  EXPECT_EQ(update["x"]["signal"], "max(datum.from,0.5)");
+  json bins = json::array();
+  for (const json& row : spec_["data"][1]["values"])
+    bins.push_back({row["from"], row["to"], row["high"]});
+  EXPECT_EQ(bins, json::parse("[[0,50,3],[50,100,1]]"));
+  EXPECT_EQ(notes(), json({"e: a bin reaches from 0 to 50 along x, and has no logarithm where it "
+                           "begins: its bar begins where the scale does",
+                           "data/dimension/scale: marks along x at zero or less, where there is "
+                           "no logarithm: 1, which are left out; make the scale safe, linear or a "
+                           "power, or draw what is "
+                           "above zero"}));
+}
+
 TEST_F(ScalesTest, APowerIsDrawnAndAScaleInverted) {
   const json scale =
       drawn("x", noMargins,
