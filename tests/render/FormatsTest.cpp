@@ -139,4 +139,37 @@ TEST_P(FormatsTest, ShowWhatTheFormatterShows) {
 INSTANTIATE_TEST_SUITE_P(Languages, FormatsTest, testing::Values("en", "de", "fr", "ja"),
                          [](const auto& test) { return test.param; });
 
+/// Formats that no display format asks for, against texts written by hand.
+TEST(Formats, CountDigitsWithoutTheSign) {
+  const struct {
+    std::string_view format;
+    std::vector<std::string> texts; ///< of -5, -0.3, 1234567.25 and -1e-7
+  } cases[] = {
+      {"", {"-5", "-0.3", "1234567", "-1E-07"}},
+      {R"(scientific="auto")", {"-5", "-0.3", "1234567", "-1E-07"}},
+      {R"(scientific="always")", {"-5E+00", "-3E-01", "1.234567E+06", "-1E-07"}},
+      {R"(minimumIntegerDigits="3")", {"-005", "-000.3", "1234567.25", "000"}},
+      {R"(minimumIntegerDigits="5" useGrouping="true" minimumFractionDigits="1"
+          maximumFractionDigits="1" negativesInParentheses="true")",
+       {"(00,005.0)", "(00,000.3)", "1,234,567.2", "00,000.0"}},
+  };
+  for (const auto& [format, texts] : cases) {
+    const TestFolder folder;
+    const std::string number = fmt::format("<numberFormat {}/>", format);
+    folder
+        .write("chart.xml",
+               document(R"(<element type="point" id="e"><x variable="v4"/><y variable="v4"/>
+                 </element>)",
+                        fmt::format(R"(<variable id="v4" sourceName="A" source="source0">{}
+                          </variable>)",
+                                    format.empty() ? "" : "<meta>" + number + "</meta>")))
+        .write("source0.csv", "A,B,Group\n-5,,a\n-0.3,,a\n1234567.25,,a\n-1e-7,,a\n");
+    (void)folder.spec();
+    std::vector<std::string> shown;
+    for (const nlohmann::json& row : scriptOutput("texts.mjs", {folder.path().native()}))
+      shown.push_back(row[0]);
+    EXPECT_EQ(shown, texts) << format;
+  }
+}
+
 } // namespace

@@ -37,7 +37,7 @@ std::string replaced(std::string_view text, std::string_view pattern, std::strin
 
 /// "1.5e+5" as "1.5E+05".
 std::string exponential(const std::string& text) {
-  return replaced(replaced(text, "e", "E"), "[+-](?=[0-9]$)", "$&0");
+  return replaced(replaced(text, "e", "E"), "E[+-](?=[0-9]$)", "$&0");
 }
 
 /// The shortest text in six significant digits, and all digits of an integer part
@@ -48,7 +48,7 @@ std::string shortest(std::string_view value) {
                      exponential(formatted(value, ".6~g")));
 }
 
-/// Vega counts signs of grouping, decimal sign and decimals into the width that it
+/// Vega counts signs of grouping, decimal sign, decimals and a minus into the width that it
 /// fills with zeros.
 std::string filling(const NumberFormat& format, int decimals) {
   const int integer = format.minimumIntegerDigits;
@@ -57,11 +57,20 @@ std::string filling(const NumberFormat& format, int decimals) {
   return fmt::format("0{}", integer + groups + (decimals > 0 ? decimals + 1 : 0));
 }
 
+/// The number with its decimals. Zeros fill the digits alone, the minus comes before them;
+/// what rounds to zero has none.
+std::string digitsOf(const NumberFormat& format, std::string_view value, int decimals) {
+  const std::string zeros = filling(format, decimals);
+  const std::string specifier =
+      fmt::format("{}{}.{}f", zeros, format.grouping ? "," : "", decimals);
+  if (zeros.empty()) return formatted(value, specifier);
+  const std::string text = formatted(fmt::format("abs({})", value), specifier);
+  return replaced(fmt::format("({}<0?\"-\":\"\")+{}", value, text), "^-(?=[^1-9]*$)", "");
+}
+
 /// Vega pads a number to its decimals; the zeros past the least are taken off.
 std::string fixed(const NumberFormat& format, std::string_view value, int least, int most) {
-  const char* const grouping = format.grouping ? "," : "";
-  std::string text =
-      formatted(value, fmt::format("{}{}.{}f", filling(format, most), grouping, most));
+  std::string text = digitsOf(format, value, most);
   if (least < most)
     text =
         replaced(text, least == 0 ? "[^0-9]0+$|0+$" : fmt::format("0{{1,{}}}$", most - least), "");

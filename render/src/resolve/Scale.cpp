@@ -127,7 +127,7 @@ private:
         if (!element.isSlice) hold(element, panel->items[element.index], extent);
     for (const Variable* variable : domain.references)
       for (const double value : variable->numbers)
-        if (!std::isnan(value)) extent.hold(value);
+        if (takes(value, dimension_)) extent.hold(value);
     if (extent.low > extent.high) {
       extent.low = domain.min.value_or(dimension_.low);
       extent.high = std::max(domain.max.value_or(dimension_.high), extent.low);
@@ -167,10 +167,24 @@ private:
       const double start = isMeasure ? item.low : item.from;
       // A logarithm has no zero: bars begin where the scale does.
       const bool isBase = isMeasure && element.hasBase && start == 0;
-      if (!isBase || !isLogarithm) take(start);
+      if (!isMeasure && beginsWithScale(element, item, dimension_))
+        holdBeginning(element, item, extent);
+      else if (!isBase || !isLogarithm)
+        take(start);
       if (isBase) extent.hasBase = true;
       if (isLogarithm && !isPositive) ++dimension_.notPositive;
     }
+  }
+
+  /// The scale reaches down to the lowest value that it takes, so that the bar is not cut short.
+  void holdBeginning(const Element& element, const Item& item, Extent& extent) const {
+    for (const double value : element.place()->numbers)
+      if (takes(value, dimension_)) extent.hold(value);
+    notes_.add(
+        fmt::format("{}: {} reaches from {:.6g} to {:.6g} along {}, and has no logarithm where "
+                    "it begins: its bar begins where the scale does",
+                    element.node->name(), element.method == Method::histogram ? "a bin" : "a bar",
+                    item.from, item.to, dimension_.role));
   }
 
   /// A range that numbers can still divide, also when all values are one.

@@ -66,6 +66,11 @@ bool takes(double value, const Dimension& dimension) {
   return dimension.type != ScaleType::log || value > 0;
 }
 
+bool beginsWithScale(const Element& element, const Item& item, const Dimension& place) {
+  const bool isBar = element.type() == "interval" || element.type() == "schema";
+  return isBar && item.from < item.to && !takes(item.from, place) && takes(item.to, place);
+}
+
 double scaled(double value, const Dimension& dimension) {
   switch (dimension.type) {
   case ScaleType::log:

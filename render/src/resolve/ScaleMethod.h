@@ -14,6 +14,9 @@ void chooseLogarithm(double low, Dimension& dimension);
 /// Whether the scale has a place for a value.
 bool takes(double value, const Dimension& dimension);
 
+/// Whether a bar begins where the scale does, since the scale has no place for its lower end.
+bool beginsWithScale(const Element& element, const Item& item, const Dimension& place);
+
 /// A value on an even scale, and back.
 double scaled(double value, const Dimension& dimension);
 double unscaled(double length, const Dimension& dimension);

@@ -2,8 +2,44 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace render {
+namespace {
+
+constexpr int mostPowers = 12;
+constexpr double alone[] = {1};
+constexpr double roundNumbers[] = {1, 2, 5};
+
+/// As many as show the value whole, or, where it does not end, three of its digits.
+int decimalsOf(double value) {
+  constexpr int most = 9;
+  int decimals = 0;
+  for (double part = std::abs(value); decimals <= most && std::abs(part - std::round(part)) > 1e-9;
+       part *= 10)
+    ++decimals;
+  if (decimals <= most || value == 0) return decimals;
+  return std::clamp(2 - static_cast<int>(std::floor(std::log10(std::abs(value)))), 0, most);
+}
+
+int decimalsOf(const std::vector<double>& values) {
+  int decimals = 0;
+  for (const double value : values)
+    decimals = std::max(decimals, decimalsOf(value));
+  return decimals;
+}
+
+/// The multiples of each n-th power of a base, ascending.
+std::vector<double> powers(double base, std::span<const double> factors, double first, double last,
+                           double every) {
+  std::vector<double> values;
+  for (double power = first; power <= last; power += every)
+    for (const double factor : factors)
+      values.push_back(factor * std::pow(base, power));
+  return values;
+}
+
+} // namespace
 
 Ticks ticksWithin(double low, double high, int count) {
   const double rough = (high - low) / count;
@@ -39,10 +75,7 @@ double stepWithin(double range, int count) {
 
 Ticks ticksEvery(double step, double low, double high) {
   constexpr int mostTicks = 100;
-  Ticks ticks;
-  for (double part = step; ticks.decimals < 9 && std::abs(part - std::round(part)) > 1e-9;
-       part *= 10)
-    ++ticks.decimals;
+  Ticks ticks{.values = {}, .decimals = decimalsOf(step)};
   const double first = std::ceil(low / step - 1e-9);
   for (int i = 0; i < mostTicks && (first + i) * step <= high + step * 1e-9; ++i)
     ticks.values.push_back((first + i) * step + 0.0);
@@ -51,37 +84,37 @@ Ticks ticksEvery(double step, double low, double high) {
 
 Ticks ticksOfPowers(double base, double low, double high) {
   constexpr std::size_t few = 3;
-  constexpr std::size_t most = 12;
   const double first = std::floor(std::log(low) / std::log(base) - 1e-9);
   const double last = std::ceil(std::log(high) / std::log(base) + 1e-9);
-  const auto within = [&](const std::vector<double>& factors, double every) {
-    std::vector<double> values;
-    for (double power = first; power <= last; power += every)
-      for (const double factor : factors) {
-        const double value = factor * std::pow(base, power);
-        if (value >= low && value <= high) values.push_back(value);
-      }
+  const auto within = [&](std::span<const double> factors, double every) {
+    std::vector<double> values = powers(base, factors, first, last, every);
+    std::erase_if(values, [&](double value) { return value < low || value > high; });
     return values;
   };
-  Ticks ticks{.values = within({1}, std::max(1.0, std::ceil((last - first) / most)))};
-  if (ticks.values.size() < few && base == 10) ticks.values = within({1, 2, 5}, 1);
-  if (ticks.values.size() < few - 1) return ticksWithin(low, high, static_cast<int>(most / 2));
-  const double smallest = ticks.values.front();
-  if (smallest < 1)
-    ticks.decimals = std::min(9, static_cast<int>(std::ceil(-std::log10(smallest))));
+  Ticks ticks{.values = within(alone, std::max(1.0, std::ceil((last - first) / mostPowers)))};
+  if (ticks.values.size() < few && base == 10) ticks.values = within(roundNumbers, 1);
+  if (ticks.values.size() < few - 1) return ticksWithin(low, high, mostPowers / 2);
+  ticks.decimals = decimalsOf(ticks.values);
   return ticks;
 }
 
 Ticks ticksOfLogarithm(double base, double low, double high) {
+  constexpr std::size_t few = 5;
   const double reach = std::max(std::abs(low), std::abs(high));
-  if (reach <= base) return ticksWithin(low, high, 6);
-  Ticks ticks;
-  for (const double power : ticksOfPowers(base, base, reach).values) {
-    if (-power >= low) ticks.values.push_back(-power);
-    if (power <= high && power >= low) ticks.values.push_back(power);
-  }
-  if (low <= 0 && high >= 0) ticks.values.push_back(0);
-  std::ranges::sort(ticks.values);
+  if (reach <= 1) return ticksWithin(low, high, mostPowers / 2);
+  const double last = std::ceil(std::log(reach) / std::log(base) + 1e-9);
+  const auto within = [&](std::span<const double> factors, double every) {
+    std::vector<double> values{0};
+    for (const double value : powers(base, factors, 0, last, every))
+      values.insert(values.end(), {value, -value});
+    std::erase_if(values, [&](double value) { return value < low || value > high; });
+    std::ranges::sort(values);
+    return values;
+  };
+  Ticks ticks{.values = within(alone, std::max(1.0, std::ceil(2 * last / mostPowers)))};
+  if (ticks.values.size() < few && base == 10) ticks.values = within(roundNumbers, 1);
+  if (ticks.values.size() < 2) return ticksWithin(low, high, mostPowers / 2);
+  ticks.decimals = decimalsOf(ticks.values);
   return ticks;
 }
 

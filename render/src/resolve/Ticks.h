@@ -23,8 +23,8 @@ Ticks ticksEvery(double step, double low, double high);
 /// between powers of ten when there are few.
 Ticks ticksOfPowers(double base, double low, double high);
 
-/// The same for a scale of logarithms that goes on through zero: zero, and powers of the
-/// base above and below.
+/// The same for a scale of logarithms that goes on through zero, evenly between -1 and 1:
+/// zero, and powers of the base above and below.
 Ticks ticksOfLogarithm(double base, double low, double high);
 
 } // namespace render

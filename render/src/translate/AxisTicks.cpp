@@ -81,7 +81,8 @@ AxisTicks axisTicks(const Dimension& dimension, const Node* axis, TickRoom room,
   std::string text = tickText(
       formatOf(axis, format, context.notes), isPercent ? "(datum.value*100)" : "datum.value",
       isPercent ? std::max(0, ticks.decimals - 2) : ticks.decimals,
-      isPercent ? 100 * magnitude : magnitude, dimension.type == ScaleType::log);
+      isPercent ? 100 * magnitude : magnitude,
+      dimension.type == ScaleType::log || dimension.type == ScaleType::symmetricLog);
   return {.values = ticks.values,
           .label = labelled(valueLabelsOf(dimension), "datum.value", std::move(text))};
 }

@@ -150,7 +150,7 @@ Json axisOf(const Node& axis, const Dimension& dimension, Context& context) {
   std::size_t lines = 1;
   if (dimension.categorical) {
     refuseDelta(ticks, context.notes);
-    lines = labelCategories(json, dimension, isStaggered(ticks), context);
+    lines = labelCategories(json, dimension, ticks, context);
   } else {
     labelNumbers(json, dimension, axis, context);
   }

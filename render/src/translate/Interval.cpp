@@ -19,6 +19,14 @@ Json rangeAlong(std::string_view role, const char* field) {
   return {{"scale", role}, {"field", field}};
 }
 
+/// An end of a bar along numbers; a logarithmic scale may have no place for the lower one.
+Json endAlong(std::string_view role, const char* field, const Context& context) {
+  const Dimension& dimension = context.along(role);
+  if (dimension.type != ScaleType::log) return rangeAlong(role, field);
+  return {{"scale", role},
+          {"signal", fmt::format("max(datum.{},{})", field, literal(dimension.low))}};
+}
+
 /// From the base to the value along the measure.
 void addMeasure(Json& update, const Element& element, const Context& context) {
   const std::string_view role = measureRole(element);
@@ -52,7 +60,7 @@ Json sliceMark(const Element& element, Context& context) {
 Json sectorMark(const Element& element, Context& context) {
   const bool isBanded = context.along("x").isBanded;
   const auto end = [&](double share, const char* field) -> Json {
-    if (!isBanded) return {{"scale", "x"}, {"field", field}};
+    if (!isBanded) return endAlong("x", field, context);
     return {{"scale", "x"}, {"field", fieldPath(element.x->id)}, {"band", share}};
   };
   Json update{{"x", {{"value", context.layout.panelWidth / 2}}},
@@ -106,8 +114,8 @@ void addBarWidth(Json& update, const Element& element, double share, const Conte
   const std::string_view role = placeRole(element);
   const Channels channels = channelsOf(role, context.chart);
   if (!context.along(role).categorical) {
-    update[channels.start] = rangeAlong(role, "from");
-    update[channels.end] = rangeAlong(role, "to");
+    update[channels.start] = endAlong(role, "from", context);
+    update[channels.end] = endAlong(role, "to", context);
     return;
   }
   const std::size_t slots = slotCount(element, context);

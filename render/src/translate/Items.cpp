@@ -46,7 +46,8 @@ bool isDrawn(const Element& element, const Item& item, const Context& context) {
   }
   const Dimension& place = context.along(placeRole(element));
   const Dimension& measure = context.along(measureRole(element));
-  const bool hasPlace = place.categorical || takes(item.place(), place);
+  const bool hasPlace =
+      place.categorical || takes(item.place(), place) || beginsWithScale(element, item, place);
   return hasPlace && (measure.categorical || takes(item.high, measure));
 }
 

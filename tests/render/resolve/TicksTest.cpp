@@ -31,4 +31,42 @@ TEST(Ticks, EndAlsoWhereNeighborsRoundToOneNumber) {
   EXPECT_LE(render::ticksWithin(1e-310, 2e-310, 8).values.size(), 100U);
 }
 
+TEST(Ticks, OfLogarithmsHaveTheDecimalsOfEachPower) {
+  const struct {
+    double base, low, high;
+    std::vector<double> values;
+    int decimals;
+  } cases[] = {
+      {2, 0.2, 5, {0.25, 0.5, 1, 2, 4}, 2},
+      {10, 0.0009, 20, {0.001, 0.01, 0.1, 1, 10}, 3},
+      {10, 7, 130, {10, 20, 50, 100}, 0},
+      {10, 101, 140, {105, 110, 115, 120, 125, 130, 135, 140}, 0},
+      {1.5, 1, 4, {1, 1.5, 2.25, 3.375}, 3},
+  };
+  for (const auto& [base, low, high, values, decimals] : cases) {
+    const render::Ticks ticks = render::ticksOfPowers(base, low, high);
+    EXPECT_EQ(ticks.values, values) << base << " " << low;
+    EXPECT_EQ(ticks.decimals, decimals) << base << " " << low;
+  }
+  const double e = std::exp(1);
+  EXPECT_EQ(render::ticksOfPowers(e, 0.04, 30).decimals, 4) << "0.0498 to 20.0855";
+}
+
+TEST(Ticks, OfLogarithmsGoThroughZero) {
+  const struct {
+    double base, low, high;
+    std::vector<double> values;
+  } cases[] = {
+      {10, -2.9, 11.4, {-2, -1, 0, 1, 2, 5, 10}},
+      {10, -50, 2000, {-10, -1, 0, 1, 10, 100, 1000}},
+      {10, -0.31, 0.2, {-0.3, -0.2, -0.1, 0, 0.1, 0.2}},
+      {10, -8.4, -5.9, {-8, -7.5, -7, -6.5, -6}},
+      {2, -3, 9, {-2, -1, 0, 1, 2, 4, 8}},
+      {100, -5, 50, {-1, 0, 1}},
+      {10, -1e12, 1e12, {-1e12, -1e9, -1e6, -1e3, -1, 0, 1, 1e3, 1e6, 1e9, 1e12}},
+  };
+  for (const auto& [base, low, high, values] : cases)
+    EXPECT_EQ(render::ticksOfLogarithm(base, low, high).values, values) << low;
+}
+
 } // namespace

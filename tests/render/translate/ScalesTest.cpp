@@ -83,16 +83,36 @@ TEST_F(ScalesTest, ALabelOfANumberStandsInItsPlaceAtTicksInTooltipsAndInTheTable
   EXPECT_THAT(tooltip, testing::HasSubstr(textOf(datum, otherwise)));
 }
 
-TEST_F(ScalesTest, LabelsOfManyCategoriesGoStraightUpWhereTheyFitSo) {
-  const std::pair<int, json> angleOfCount[] = {{20, -45}, {40, -90}, {60, -45}};
-  for (const auto& [count, angle] : angleOfCount) {
+TEST_F(ScalesTest, LabelsOfCategoriesLieAsTheyFitAndWhatHasNoRoomIsToldOf) {
+  const struct {
+    int count;
+    const char* asked;
+    json angle, overlap;
+    std::size_t every;
+  } cases[] = {{4, "", {}, {}, 1},
+               {20, "", -45, false, 1},
+               {40, "", -90, false, 1},
+               {120, "", -90, false, 3},
+               {40, "-30", -30, false, 2}};
+  for (const auto& [count, asked, angle, overlap, every] : cases) {
     std::string table = "A,B,Group\n";
     for (int i = 0; i < count; ++i)
-      table += fmt::format("1,1,a category with a long name {}\n", i);
-    drawn("x", "", "",
-          R"(<element type="point" id="e"><x variable="v3"/><y variable="v2"/></element>)", "",
-          table);
-    EXPECT_EQ(spec_["marks"][0]["axes"][0]["labelAngle"], angle) << count;
+      table += fmt::format("1,1,a category with a long name {:03}\n", i);
+    const std::string plot = fmt::format(R"(<dimension role="x"><axis><majorTicks labelAngle="{}"/>
+      </axis></dimension><element type="point" id="e"><x variable="v3"/><y variable="v2"/></element>)",
+                                         asked);
+    spec_ = folder_.write("chart.xml", document(plot)).write("source0.csv", table).spec();
+    const json& axis = spec_["marks"][0]["axes"][0];
+    EXPECT_EQ(axis.value("labelAngle", json()), angle) << count;
+    EXPECT_EQ(axis.value("labelOverlap", json()), overlap) << count;
+    const json notes = spec_["usermeta"].value("notes", json::array());
+    ASSERT_EQ(notes.size(), every == 1 ? 0 : 1) << notes;
+    if (every == 1) continue;
+    EXPECT_EQ(axis["values"].size(), (count + every - 1) / every);
+    EXPECT_EQ(axis["values"][1], fmt::format("a category with a long name {:03}", every));
+    EXPECT_EQ(notes[0],
+              fmt::format("x: there is room for the labels of {} of {} categories, one in {}",
+                          axis["values"].size(), count, every));
   }
 }
 
@@ -120,7 +140,7 @@ TEST_F(ScalesTest, ASafeLogarithmGoesThroughZeroAndAnUnsafeOneLeavesValuesOut) {
       "x", noMargins, scaleNode("log", std::string(base10) + std::string(safe)), point, "", table);
   EXPECT_EQ(through["type"], "symlog");
   EXPECT_EQ(through["domain"], json({-10, 1000}));
-  EXPECT_EQ(ticks(), json({-10, 0, 10, 100, 1000}));
+  EXPECT_EQ(ticks(), json({-10, -1, 0, 1, 10, 100, 1000}));
 
   const json above = drawn("x", noMargins, scaleNode("log", base10), point, "",
                            "A,B,Group\n-10,1,a\n0,2,a\n1000,3,a\n10,4,a\n");
@@ -135,6 +155,27 @@ TEST_F(ScalesTest, ALogarithmWithoutValuesStillHasAScale) {
     EXPECT_EQ(drawn("x", noMargins, scaleNode("log", base10), point, "", table)["domain"],
               json({1, 10}))
         << table;
+}
+
+TEST_F(ScalesTest, ABinWithoutALogarithmBeginsWhereTheScaleDoes) {
+  const json scale =
+      drawn("x", noMargins, scaleNode("log", base10),
+            R"(<element type="interval" id="e"><x variable="v1"/><statistic method="histogram">
+         <parameter name="bin-width" value="50"/></statistic></element>)",
+            "", "A,B,Group\n-60,,a\n0.5,,a\n3,,a\n40,,a\n60,,a\n");
+  EXPECT_EQ(scale["domain"], json({0.5, 100}));
+  const json& update = spec_["marks"][0]["marks"][0]["encode"]["update"];
+  EXPECT_EQ(update["x"]["signal"], "max(datum.from,0.5)");
+  json bins = json::array();
+  for (const json& row : spec_["data"][1]["values"])
+    bins.push_back({row["from"], row["to"], row["high"]});
+  EXPECT_EQ(bins, json::parse("[[0,50,3],[50,100,1]]"));
+  EXPECT_EQ(notes(), json({"e: a bin reaches from 0 to 50 along x, and has no logarithm where it "
+                           "begins: its bar begins where the scale does",
+                           "data/dimension/scale: marks along x at zero or less, where there is "
+                           "no logarithm: 1, which are left out; make the scale safe, linear or a "
+                           "power, or draw what is "
+                           "above zero"}));
 }
 
 TEST_F(ScalesTest, APowerIsDrawnAndAScaleInverted) {
