@@ -20,6 +20,10 @@ public:
 
 using Findings = std::vector<host::Finding>;
 
+/// The check whose findings tell that a folder's data are not those that it was written
+/// with; others tell what was wrong from the beginning.
+constexpr const char* changedData = "changed-data";
+
 /// Writes chart.vg.json and chart.html into a chart folder, from its chart.xml,
 /// its CSV files and, when it is there, its manifest.json. The same folder gives
 /// the same bytes; each file appears whole or not at all. What the chart asks for
