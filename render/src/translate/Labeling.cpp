@@ -163,8 +163,7 @@ void place(Json& update, const Element& element, Context& context) {
 void addLabels(const Element& element, Context& context) {
   if (element.labels.empty()) return;
   if (element.node->attribute("showCollidingLabels") == "false")
-    context.notes.add(
-        fmt::format("{}: labels that overlap are drawn all the same", element.node->name()));
+    context.notes.add("Overlapping labels^1", {element.node->name()});
   Json update = letters(element, context);
   place(update, element, context);
   const bool hasSome = update["fill"] != Json{{"signal", "ink"}};
