@@ -1,7 +1,5 @@
 #include <render/Pages.h>
 
-#include <fmt/format.h>
-
 #include "assemble/Assemble.h"
 #include "check/Check.h"
 #include "page/ChartPage.h"
@@ -23,8 +21,7 @@ namespace {
 void noteTemplate(const Manifest& manifest, Notes& notes) {
   const std::string& name = manifest.chartTemplate;
   if (!name.empty() && theme::find(name) == nullptr)
-    notes.add(fmt::format("the template {} is not known: the chart is drawn in the {} theme",
-                          shown(name), theme::themes().front().name));
+    notes.add("Unknown template^2", {shown(name), theme::themes().front().name});
 }
 
 //   read        chart.xml, CSV, manifest      -> ChartFolder
@@ -78,7 +75,7 @@ Findings writeChart(const std::filesystem::path& chartFolder, const std::string&
     ChartFolder chart = ChartFolder::read(folder);
     if (!theme.empty()) chart.manifest.chartTemplate = theme;
     const Words words(chart.manifest.language);
-    Notes notes;
+    Notes notes(chart.manifest.language);
     const Json spec = specification(chart, words, notes);
     writeFile(folder / "chart.vg.json", laidOut(spec));
     writeFile(page, chartPage(chart.manifest, spec, words));
@@ -91,7 +88,7 @@ Findings writeChart(const std::filesystem::path& chartFolder, const std::string&
 
 Findings findingsOf(const std::filesystem::path& chartFolder) {
   const ChartFolder chart = ChartFolder::read(chartFolder);
-  Notes notes;
+  Notes notes(chart.manifest.language);
   check(resolve(chart, notes), notes);
   return notes.findings();
 }

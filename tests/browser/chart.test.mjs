@@ -166,7 +166,7 @@ test('pictures and data are saved as they are seen, with what they show', () =>
     assert.equal(svg.match(/aria-roledescription="symbol mark"/g).length, penguins - adelies);
     const png = readFileSync(await saved(page, 'Save as PNG'));
     assert.equal(png.toString('latin1', 37, 46), 'iTXtTitle');
-    assert.ok(png.includes('Groups by Species, with rows: Adélie (151)'));
+    assert.ok(png.includes('Groups by Species, with the number of rows: Adélie (151)'));
     const csv = readFileSync(await saved(page, 'Save as CSV'), 'utf8').split('\r\n');
     assert.equal(csv[0], '\ufeffSpecies,Flipper length (mm),Body mass (g),Fitted body mass (g)');
     assert.match(csv[1], /^Adélie,181,3750,3406\.69\d+$/);

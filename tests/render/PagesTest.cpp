@@ -43,10 +43,13 @@ TEST(ChartPage, SaysInTheChartsLanguageWhatNotesAre) {
       .write("manifest.json", R"({"name": "n", "template": "x", "language": "de"})")
       .write("chart.xml", document(point));
   render::writeChart(folder.path());
-  EXPECT_THAT(folder.read("chart.html"),
-              HasSubstr("<h2>Hinweise</h2>\n<p class=\"soft\">Was das Bild auslässt oder anders "
-                        "zeigt, als das Diagramm verlangt. Die Hinweise des Zeichnens sind "
-                        "englisch.</p>\n<ul id=\"notes\">\n<li>the template x is not known: "));
+  EXPECT_THAT(
+      folder.read("chart.html"),
+      HasSubstr("<h2>Hinweise</h2>\n<p class=\"soft\">Was das Bild auslässt oder anders "
+                "zeigt, als das Diagramm verlangt. Was sich an die Prozedur richtet, ist "
+                "englisch.</p>\n<ul id=\"notes\">\n<li>die Vorlage x ist nicht bekannt: "
+                "Das Diagramm ist im Thema default gezeichnet</li>\n<li>Zeilen ausgelassen, "
+                "in denen ein Wert fehlt: 1 von 3 (points)</li>\n</ul>"));
 }
 
 TEST(ChartPage, IsTheSameForTheSameChart) {

@@ -19,8 +19,7 @@ double positive(const Node& statistic, std::string_view name, Notes& notes) {
   const double value = numberOf(text);
   if (text.empty()) return 0;
   if (value > 0) return value;
-  notes.add(
-      fmt::format("{}: {}=\"{}\" is not a positive number", statistic.name(), name, shown(text)));
+  notes.add("Not positive^3", {statistic.name(), name, shown(text)});
   return 0;
 }
 
@@ -54,8 +53,8 @@ Bins Bins::of(const Node& statistic, const Sample& places, Notes& notes) {
   if (width == 0 && bins >= 1 && bins <= mostBins && range > 0)
     return {.start = places.low(), .width = range / bins, .count = static_cast<std::size_t>(bins)};
   if (width > 0 && range / width > mostBins) {
-    notes.add(fmt::format("{}: bin-width=\"{}\" makes more than {} bins", statistic.name(), width,
-                          mostBins));
+    notes.add("Too many bins^3",
+              {statistic.name(), fmt::to_string(width), fmt::to_string(mostBins)});
     width = 0;
   }
   const double anchor = numberOf(parameter(statistic, "bin-start"));

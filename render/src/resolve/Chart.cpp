@@ -49,7 +49,7 @@ void readMembers(Variable& variable, std::string_view expression, const Chart& c
                           (members.empty() || (members.front()->source == member->source &&
                                                isOfMatrix == variable.isMatrix));
     if (!isUsable) {
-      notes.add(fmt::format("{} is not drawn yet: it is composed of {}", variable.id, shown(term)));
+      notes.add("Composed^2", {variable.id, shown(term)});
       return;
     }
     members.push_back(member);
@@ -83,7 +83,7 @@ void findPlot(const Node& parent, Chart& chart, Notes& notes) {
     if (child.kind != "frame") continue;
     if (holdsPlot(child) && chart.plot != nullptr) {
       chart.leftOut.push_back(&child);
-      notes.add(fmt::format("{} is not drawn yet: a chart shows one plot", child.name()));
+      notes.add("One plot^1", {child.name()});
       continue;
     }
     if (holdsPlot(child)) chart.plot = &child;
@@ -110,8 +110,8 @@ void noteMissingRows(const Chart& chart, Notes& notes) {
     if (left > 0) elementsOfCount[{left, rows}].push_back(element.node->name());
   }
   for (const auto& [count, elements] : elementsOfCount)
-    notes.add(fmt::format("rows left out for a missing value: {} of {} ({})", count.first,
-                          count.second, fmt::join(elements, ", ")));
+    notes.add("Missing values^3", {fmt::to_string(count.first), fmt::to_string(count.second),
+                                   fmt::format("{}", fmt::join(elements, ", "))});
 }
 
 void readCoordinates(Chart& chart, Notes& notes) {
@@ -124,7 +124,7 @@ void readCoordinates(Chart& chart, Notes& notes) {
     if (node.attribute("method") == "rectangular") chart.space = &node;
   }
   if (chart.space == nullptr || (!chart.isPolar && !chart.isTransposed)) return;
-  notes.add("a plot in space is neither transposed nor polar");
+  notes.add("Neither transposed nor polar");
   chart.isPolar = chart.isTransposed = false;
 }
 
@@ -173,7 +173,7 @@ Chart resolve(const ChartFolder& folder, Notes& notes) {
   chart.panels.emplace_back();
   findPlot(folder.document.graph(), chart, notes);
   if (chart.plot == nullptr) {
-    notes.add("the chart has no frame with dimensions or elements to draw");
+    notes.add("Nothing to draw");
     return chart;
   }
   readCoordinates(chart, notes);

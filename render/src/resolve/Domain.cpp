@@ -6,8 +6,6 @@
 #include <map>
 #include <string>
 
-#include <fmt/format.h>
-
 #include "text/Show.h"
 
 namespace render {
@@ -32,8 +30,8 @@ void widen(const End& end, std::string_view text, const Node& interval, Notes& n
   if (std::isnan(value)) {
     const bool isKnown = text.empty() || text == "auto" || text == "exact" || text == "nice";
     if (!isKnown)
-      notes.add(fmt::format("{}: {}=\"{}\" is not drawn", interval.name(),
-                            end.isLower ? "min" : "max", shown(text)));
+      notes.add("Attribute not drawn^3",
+                {interval.name(), end.isLower ? "min" : "max", shown(text)});
     return;
   }
   if (!end.value)
@@ -61,7 +59,7 @@ void collect(const Node& node, Domain& domain, const Chart& chart, int depth, No
       else if (referred != nullptr)
         collect(*referred, domain, chart, depth + 1, notes);
       else
-        notes.add(fmt::format("{}: the domain {} is not in the chart", node.name(), shown(id)));
+        notes.add("Lost domain^2", {node.name(), shown(id)});
     }
   }
 }
@@ -126,8 +124,7 @@ bool sortByStatistic(std::vector<Category>& categories, const Node& node, bool i
   if (isUsable)
     sortByRank(categories, sums(*source, *statistic), isDescending);
   else
-    notes.add(fmt::format("{} by {} is not drawn: it has no values", node.name(),
-                          node.attribute("statVariable")));
+    notes.add("Sort without values^2", {node.name(), node.attribute("statVariable")});
   return isUsable;
 }
 
@@ -140,12 +137,12 @@ Domain domainOf(const Dimension& dimension, const Chart& chart, Notes& notes) {
   const Node* node = chart.folder->document.find(id);
   if (node == nullptr) return domain; // a lost reference
   if (node->kind != "domain") {
-    notes.add(fmt::format("the domain {} of {} is no domain", shown(id), dimension.role));
+    notes.add("No domain^2", {shown(id), dimension.role});
     return domain;
   }
   collect(*node, domain, chart, 0, notes);
   if (domain.hasRange()) return domain;
-  notes.add(fmt::format("{} is not drawn: it ends before it begins", node->name()));
+  notes.add("Ends before it begins^1", {node->name()});
   domain.min = domain.max = std::nullopt;
   return domain;
 }
@@ -163,7 +160,7 @@ void sortCategories(std::vector<Category>& categories, const Node& sort, const D
       sortByRank(categories, firstRows(dimension), isDescending);
       isRanked = true;
     } else if (method != "natural" && !method.empty()) {
-      notes.add(fmt::format("{}: the order {} is not drawn yet", node.name(), shown(method)));
+      notes.add("Order not drawn^2", {node.name(), shown(method)});
     }
   }
   if (isDescending && !isRanked) std::ranges::reverse(categories);

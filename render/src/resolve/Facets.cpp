@@ -79,8 +79,7 @@ private:
     const bool isUsable =
         variable != nullptr && variable->texts != nullptr && variable->categorical;
     if (!isUsable) {
-      notes_.add(fmt::format("{} by {} is not drawn: it has no categories", node.name(),
-                             node.attribute("variable")));
+      notes_.add("Facet without categories^2", {node.name(), node.attribute("variable")});
       return {};
     }
     std::vector<FacetCell> cells;
@@ -132,10 +131,9 @@ void reverse(std::vector<FacetCell>& cells, std::size_t firstLevel, const Chart&
     std::ranges::stable_sort(cells, {}, rankOf);
 }
 
-void limit(std::vector<FacetCell>& cells, std::string_view what, Notes& notes) {
+void limit(std::vector<FacetCell>& cells, std::string_view note, Notes& notes) {
   if (cells.size() <= mostPanels) return;
-  notes.add(
-      fmt::format("the first {} of {} {} of panels are drawn", mostPanels, cells.size(), what));
+  notes.add(note, {fmt::to_string(mostPanels), fmt::to_string(cells.size())});
   cells.resize(mostPanels);
 }
 
@@ -158,12 +156,11 @@ bool isFacet(const Node& node) {
 
 Facets matrixFacets(const Chart& chart, Notes& notes) {
   for (const Node& node : chart.plot->children)
-    if (isFacet(node))
-      notes.add(fmt::format("{} is not drawn: the panels are those of a matrix", node.name()));
+    if (isFacet(node)) notes.add("Panels of a matrix^1", {node.name()});
   Facets facets{.columns = matrixCells("x", chart), .rows = matrixCells("y", chart)};
   facets.isMatrix = true;
-  limit(facets.columns, "columns", notes);
-  limit(facets.rows, "rows", notes);
+  limit(facets.columns, "First columns^2", notes);
+  limit(facets.rows, "First rows^2", notes);
   return facets;
 }
 
@@ -183,8 +180,8 @@ Facets readFacets(const Chart& chart, Notes& notes) {
   }
   reverse(split.columns, 0, chart);
   reverse(split.rows, split.columns.empty() ? 0 : split.columns.front().size(), chart);
-  limit(split.columns, "columns", notes);
-  limit(split.rows, "rows", notes);
+  limit(split.columns, "First columns^2", notes);
+  limit(split.rows, "First rows^2", notes);
   Facets facets;
   if (!split.columns.empty()) facets.columns = std::move(split.columns);
   if (!split.rows.empty()) facets.rows = std::move(split.rows);

@@ -23,7 +23,7 @@ std::optional<int> digits(const Node& node, std::string_view name, int most, Not
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error == std::errc() && end == text.data() + text.size() && value >= 0)
     return std::min(value, most);
-  notes.add(fmt::format("numberFormat: {}=\"{}\" is not a number of digits", name, text));
+  notes.add("Not digits^2", {name, text});
   return std::nullopt;
 }
 

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include <fmt/format.h>
-
 #include "compute/Bins.h"
 #include "compute/Sample.h"
 #include "text/Show.h"
@@ -70,14 +68,12 @@ public:
     }
     element.measuresX = !element.isSlice && measuresAlongX(element);
     if (const std::string_view why = lack(element, type); !why.empty()) return refuse(why);
-    if (chart_.space != nullptr && !fitsSpace(element))
-      return refuse("in space there are points of three numbers");
+    if (chart_.space != nullptr && !fitsSpace(element)) return refuse("Space needs three numbers");
     if (chart_.space == nullptr && roleNode(node_, "z") != nullptr) {
-      notes_.add(fmt::format("{}: its z is not drawn: the plot is flat", node_.name()));
+      notes_.add("Flat plot without z^1", {node_.name()});
       element.z = nullptr;
     }
-    if (element.isOfMatrix() && !fitsMatrix(element))
-      return refuse("a matrix shows the same variables by points, and its rows as they are");
+    if (element.isOfMatrix() && !fitsMatrix(element)) return refuse("Matrix of points");
 
     readAesthetics(element);
     std::vector<const Variable*> variables{element.y, element.group, element.shade, element.size};
@@ -85,11 +81,11 @@ public:
     variables.insert(variables.end(), element.labels.begin(), element.labels.end());
     for (const Variable* variable : variables)
       if (variable != nullptr && variable->source != sourceOf(element))
-        return refuse("its variables are of different data sources");
+        return refuse("Different sources");
     if (element.method != Method::none) element.weight = weightOf(sourceOf(element));
     const bool standsAtNumber = element.place() != nullptr && !element.place()->categorical;
     if (element.modifier == Modifier::dodge && standsAtNumber) {
-      notes_.add(fmt::format("{}: marks at numbers are not put side by side", node_.name()));
+      notes_.add("Not side by side^1", {node_.name()});
       element.modifier = Modifier::none;
     }
     element.index = chart_.elements.size();
@@ -97,9 +93,7 @@ public:
   }
 
 private:
-  void refuse(std::string_view why) {
-    notes_.add(fmt::format("{} is not drawn: {}", node_.name(), why));
-  }
+  void refuse(std::string_view why) { notes_.add("Not drawn^2", {node_.name(), notes_.text(why)}); }
 
   const Variable* position(std::string_view role, std::string_view polarRole) const {
     const Node* node = roleNode(node_, role);
@@ -123,8 +117,8 @@ private:
     if (node_.attribute("type") == "contour") {
       element.method = Method::contours;
       if (element.statistic != nullptr)
-        notes_.add(fmt::format("{}: contours show the density of its rows, not the statistic {}",
-                               node_.name(), shown(element.statistic->attribute("method"))));
+        notes_.add("Contours of density^2",
+                   {node_.name(), shown(element.statistic->attribute("method"))});
       return;
     }
     readDots(element);
@@ -147,7 +141,7 @@ private:
       element.method = Method::summary;
       element.summary = summary;
     } else {
-      notes_.add(fmt::format("{}: the statistic {} is not drawn yet", node_.name(), shown(name)));
+      notes_.add("Statistic not drawn yet^2", {node_.name(), shown(name)});
     }
   }
 
@@ -159,8 +153,7 @@ private:
     if (node_.attribute("type") == "point" && element.statistic == nullptr && hasOnePlace)
       element.method = Method::dots;
     else
-      notes_.add(fmt::format("{}: dot=\"{}\" is drawn for points along one variable only",
-                             node_.name(), shown(layout)));
+      notes_.add("Dots of one variable^2", {node_.name(), shown(layout)});
   }
 
   bool isNormalCurve(std::string_view name) const {
@@ -193,12 +186,12 @@ private:
     return yIsPlace && !element.x->categorical;
   }
 
-  /// What keeps an element from being drawn, or nothing.
+  /// What keeps an element from being drawn, a key of the texts of notes, or nothing.
   static std::string_view lack(const Element& element, const Type& type) {
     if (const std::string_view why = lackOfData(element); !why.empty()) return why;
     const Variable* measure = element.measure();
     const bool needsNumbers = (type.needsMeasure && type.hasBase) || element.method != Method::none;
-    if (needsNumbers && measure != nullptr && measure->categorical) return "it measures categories";
+    if (needsNumbers && measure != nullptr && measure->categorical) return "Measures categories";
     return lackOfMethod(element);
   }
 
@@ -209,18 +202,17 @@ private:
                             (element.method == Method::summary && !element.summary->needsMeasure);
     const Variable* place = element.place();
     const Variable* measure = element.measure();
-    if (element.isSlice && !hasData(measure)) return "it has no theta variable with data";
+    if (element.isSlice && !hasData(measure)) return "No theta";
     const bool mayLackPlace = element.isSlice || element.method == Method::summary;
     const auto lacks = [](const Variable* variable, bool may) {
       return variable == nullptr ? !may : !hasData(variable);
     };
-    const std::string_view noX = "it has no x variable with data";
-    const std::string_view noY = "it has no y variable with data";
+    const std::string_view noX = "No x";
+    const std::string_view noY = "No y";
     if (lacks(place, mayLackPlace)) return element.measuresX ? noY : noX;
     if (lacks(measure, countsRows)) return element.measuresX ? noX : noY;
-    if (place == nullptr && measure == nullptr) return "it has no variable";
-    if (place && measure && place->source != measure->source)
-      return "its variables are of different data sources";
+    if (place == nullptr && measure == nullptr) return "No variable";
+    if (place && measure && place->source != measure->source) return "Different sources";
     return {};
   }
 
@@ -232,12 +224,11 @@ private:
         element.method == Method::histogram || element.method == Method::distribution ||
         element.method == Method::hexagons || element.method == Method::contours;
     if (needsNumbers && (place == nullptr || place->categorical || isComposed))
-      return "its statistic needs a continuous variable";
-    if (isComposed && element.method != Method::none)
-      return "its statistic needs places of one variable";
+      return "Statistic needs numbers";
+    if (isComposed && element.method != Method::none) return "Statistic needs one variable";
     const bool needsTwo = element.method == Method::hexagons || element.method == Method::contours;
     if (needsTwo && (measure == nullptr || !measure->members.empty()))
-      return "its statistic needs two variables";
+      return "Statistic needs two variables";
     return {};
   }
 
@@ -280,30 +271,28 @@ private:
   void findAesthetic(Element& element, const Node& child) {
     const Variable* variable = chart_.variableOf(child);
     if (variable == nullptr || variable->texts == nullptr)
-      notes_.add(fmt::format("{}: the variable of its {} has no data", node_.name(), child.kind));
+      notes_.add("No data^2", {node_.name(), child.kind});
     else
       readAesthetic(element, child, *variable);
   }
 
   void readAesthetic(Element& element, const Node& child, const Variable& variable) {
-    const auto note = [&](std::string_view what) {
-      notes_.add(fmt::format("{}: {}", node_.name(), what));
+    const auto note = [&](std::string_view key) {
+      notes_.add(key, {node_.name(), variable.title});
     };
     if (child.kind == "labeling") {
       element.labels.push_back(&variable);
     } else if (child.kind == "split") {
-      if (!variable.categorical)
-        return note(fmt::format("a split by the values of {} is not drawn", variable.title));
+      if (!variable.categorical) return note("Split by numbers^2");
       element.splits.push_back(&variable);
     } else if (child.kind == "size") {
       if (element.method == Method::hexagons) return; // sized by its count
-      if (variable.categorical)
-        return note(fmt::format("a size by the categories of {} is not drawn", variable.title));
+      if (variable.categorical) return note("Size by categories^2");
       element.size = &variable;
     } else if (!variable.categorical && child.kind == "color") {
       element.shade = &variable;
     } else if (!variable.categorical) {
-      note(fmt::format("a {} by the values of {} is not drawn yet", child.kind, variable.title));
+      notes_.add("Aesthetic by numbers^3", {node_.name(), child.kind, variable.title});
     } else if (element.group != nullptr && element.group != &variable) {
       readShape(element, variable);
     } else {
@@ -322,15 +311,14 @@ private:
     element.hasPatterns = isFilled && !names("Color");
     element.hasColoredPatterns = isFilled && names("Color");
     if (!isFilled && !names("Color"))
-      notes_.add(fmt::format("{}: patterns are drawn as colors, symbols and dashes", node_.name()));
+      notes_.add("Patterns as colors^1", {node_.name()});
   }
 
   /// Points and lines show a second grouping; others have nothing left to show it by.
   void readShape(Element& element, const Variable& variable) {
     const bool hasShapes = element.type() == "point" || element.isLine();
     if (!hasShapes || (element.shape != nullptr && element.shape != &variable)) {
-      notes_.add(fmt::format("{}: a grouping by {} beside the others is not drawn", node_.name(),
-                             variable.title));
+      notes_.add("One grouping too many^2", {node_.name(), variable.title});
       return;
     }
     if (element.shape == &variable) return;

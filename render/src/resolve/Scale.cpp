@@ -11,8 +11,6 @@
 #include <utility>
 #include <vector>
 
-#include <fmt/format.h>
-
 #include "resolve/Domain.h"
 #include "resolve/ScaleMethod.h"
 #include "resolve/Ticks.h"
@@ -28,7 +26,7 @@ std::optional<double> percentage(const Node* node, std::string_view name, Notes&
   if (text.empty()) return std::nullopt;
   const double percent = text.ends_with('%') ? numberOf(text.substr(0, text.size() - 1)) : NAN;
   if (percent >= 0 && percent <= 1000) return percent / 100;
-  notes.add(fmt::format("{}: {}=\"{}\" is not a percentage", node->name(), name, text));
+  notes.add("Not a percentage^3", {node->name(), name, text});
   return std::nullopt;
 }
 
@@ -132,7 +130,7 @@ private:
       extent.low = domain.min.value_or(dimension_.low);
       extent.high = std::max(domain.max.value_or(dimension_.high), extent.low);
       if (!domain.min || !domain.max || !chart_.elements.empty())
-        notes_.add(fmt::format("there are no values to draw along {}", dimension_.role));
+        notes_.add("No values along^1", {dimension_.role});
     }
     chooseLogarithm(extent.low, dimension_);
     if (!takes(extent.low, dimension_)) {
@@ -144,7 +142,7 @@ private:
     if (domain.min && takes(*domain.min, dimension_)) dimension_.low = *domain.min;
     if (domain.max && takes(*domain.max, dimension_)) dimension_.high = *domain.max;
     if (dimension_.low < dimension_.high) return;
-    notes_.add(fmt::format("the domain of {} holds none of its values", dimension_.role));
+    notes_.add("Domain without values^1", {dimension_.role});
     dimension_.high = dimension_.low + std::max(1.0, std::abs(dimension_.low));
   }
 
@@ -275,8 +273,8 @@ void agreeOnKinds(Chart& chart, Notes& notes) {
       if (!categorical) return false;
       if (!first) first = categorical;
       if (*categorical == *first) return false;
-      notes.add(fmt::format("{} is not drawn: its {} is {}, that of the first element is not",
-                            element.node->name(), role, *first ? "continuous" : "categorical"));
+      notes.add(*first ? "Continuous beside categories^2" : "Categorical beside numbers^2",
+                {element.node->name(), role});
       return true;
     });
   }

@@ -30,8 +30,7 @@ double parameterOr(const Node& scale, std::string_view name, double usual, Notes
   constexpr double largest = 100;
   if (value > (name == "base" ? 1 : 0) && value <= largest) return value;
   if (!text.empty())
-    notes.add(fmt::format("{}: {}=\"{}\" is not drawn: {} takes its place", scale.name(), name,
-                          shown(text), usual));
+    notes.add("Usual takes its place^4", {scale.name(), name, shown(text), fmt::to_string(usual)});
   return usual;
 }
 
@@ -45,7 +44,7 @@ void readScale(Dimension& dimension, const Node* node, Notes& notes) {
   const auto* const method = std::ranges::find(methods, name, &NamedType::name);
   if (method == std::end(methods)) {
     const bool isPlain = name.empty() || name == "categorical";
-    if (!isPlain) notes.add(fmt::format("the scale {} is not drawn yet", shown(name)));
+    if (!isPlain) notes.add("Scale not drawn^1", {shown(name)});
     return;
   }
   if (dimension.categorical) return;

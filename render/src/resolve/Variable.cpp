@@ -34,9 +34,7 @@ std::vector<double> readNumbers(const Table::Column& texts, std::string_view tit
     numbers.push_back(value);
   }
   if (refused > 0)
-    notes.add(
-        fmt::format("values of {} left out, as they are no numbers that can be drawn: {} of {}",
-                    title, refused, texts.size()));
+    notes.add("Not numbers^3", {title, fmt::to_string(refused), fmt::to_string(texts.size())});
   return numbers;
 }
 

@@ -10,11 +10,12 @@
 
 namespace render {
 
-/// The words of pages and descriptions in one language, by the keys of the string
-/// table "page".
+/// The words of a string table in one language, by their keys: those of pages and
+/// descriptions, or another table.
 class Words {
 public:
-  explicit Words(const std::string& language) : texts_(host::textsOfTable("page", language)) {}
+  explicit Words(const std::string& language, const std::string& table = "page")
+      : texts_(host::textsOfTable(table, language)) {}
 
   /// The text of a key with its parameters, "^1" and so on, replaced. A key without a
   /// text stands for itself.

@@ -89,8 +89,8 @@ AxisTicks axisTicks(const Dimension& dimension, const Node* axis, TickRoom room,
 
 void refuseDelta(const Node* majorTicks, Notes& notes) {
   if (majorTicks == nullptr || majorTicks->attribute("delta").empty()) return;
-  notes.add(fmt::format("{}: delta=\"{}\" is not drawn", majorTicks->name(),
-                        shown(majorTicks->attribute("delta"))));
+  notes.add("Attribute not drawn^3",
+            {majorTicks->name(), "delta", shown(majorTicks->attribute("delta"))});
 }
 
 double tickLength(const Node& ticks, double usual, Notes& notes) {
@@ -99,7 +99,7 @@ double tickLength(const Node& ticks, double usual, Notes& notes) {
   double length = numberOf(text);
   const bool isDrawn = length >= 0 && length <= most;
   if (!isDrawn && !text.empty())
-    notes.add(fmt::format("{}: length=\"{}\" is not drawn", ticks.name(), shown(text)));
+    notes.add("Attribute not drawn^3", {ticks.name(), "length", shown(text)});
   if (!isDrawn) length = usual;
   return ticks.attribute("position") == "inside" ? -length : length;
 }
@@ -113,8 +113,7 @@ void stagger(Json& axis, const Node& majorTicks, std::size_t count, std::size_t 
   if (!isStaggered(&majorTicks)) return;
   const bool isAcross = axis["orient"] == "bottom" || axis["orient"] == "top";
   if (!isAcross || axis.contains("labelAngle")) {
-    notes.add(fmt::format("{}: stagger=\"true\" is drawn for upright labels along x only",
-                          majorTicks.name()));
+    notes.add("Stagger not drawn^1", {majorTicks.name()});
     return;
   }
   // Vega tells of each label how far along all of them it is.
@@ -129,8 +128,8 @@ void noteStraightAxis(const Node& axis, std::string_view where, bool hasAngles, 
   const auto note = [&](const Node& node, std::string_view attribute) {
     const std::string_view value = node.attribute(attribute);
     if (!value.empty() && value != "false" && value != "outside")
-      notes.add(fmt::format("{}: {}=\"{}\" is not drawn {}", node.name(), attribute, shown(value),
-                            where));
+      notes.add("Attribute not drawn there^4",
+                {node.name(), attribute, shown(value), notes.text(where)});
   };
   note(axis, "opposite");
   if (const Node* major = axis.child("majorTicks")) {
@@ -139,7 +138,7 @@ void noteStraightAxis(const Node& axis, std::string_view where, bool hasAngles, 
     if (!hasAngles) note(*major, "labelAngle");
   }
   if (const Node* minor = axis.child("minorTicks"))
-    notes.add(fmt::format("the {} of {} are not drawn {}", minor->name(), axis.name(), where));
+    notes.add("Ticks not drawn there^3", {minor->name(), axis.name(), notes.text(where)});
 }
 
 } // namespace render

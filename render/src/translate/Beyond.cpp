@@ -36,9 +36,8 @@ void noteValuesBeyond(const Chart& chart, Notes& notes) {
       const bool isDrawn = !element.isSlice && lookOf(*element.node) != Look::hidden;
       const std::size_t count = isDrawn ? countBeyond(element, role, chart) : 0;
       if (count > 0)
-        notes.add(fmt::format("{}: values beyond the ends that the chart gives {}: {}, {}",
-                              element.node->name(), role, count,
-                              isCut ? "cut off" : "drawn outside the axes"));
+        notes.add(isCut ? "Cut off^3" : "Drawn outside the axes^3",
+                  {element.node->name(), role, fmt::to_string(count)});
     }
 }
 

@@ -82,7 +82,7 @@ void translateBoxPlot(const Node& node, Context& context) {
   const Element* element = context.find(node);
   if (element == nullptr) return;
   if (context.chart.isPolar) {
-    context.notes.add(fmt::format("{} is not drawn yet in polar coordinates", node.name()));
+    context.notes.add("Not drawn yet in polar coordinates^1", {node.name()});
     return;
   }
   context.parts.data.push_back(elementData(*element, context));

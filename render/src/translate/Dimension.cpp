@@ -67,8 +67,7 @@ void setTickStyle(Json& json, const Node& majorTicks, const Context& context) {
   if (text.empty()) return;
   const bool isDrawn = angle >= -360 && angle <= 360;
   if (!isDrawn) {
-    context.notes.add(
-        fmt::format("{}: labelAngle=\"{}\" is not drawn", majorTicks.name(), shown(text)));
+    context.notes.add("Attribute not drawn^3", {majorTicks.name(), "labelAngle", shown(text)});
     return;
   }
   json["labelAngle"] = jsonNumber(angle);
@@ -191,10 +190,9 @@ void translateDimension(const Node& node, Context& context) {
   const std::string_view role = positionRole(node.attribute("role"), context.chart);
   if (context.chart.space != nullptr && (role == "x" || role == "y" || role == "z"))
     return addSpatialAxis(node, context);
-  if (role == "z") context.notes.add(fmt::format("{}: role=\"z\" is not drawn yet", node.name()));
+  if (role == "z") context.notes.add("Attribute not drawn yet^3", {node.name(), "role", "z"});
   if (role != "x" && role != "y") {
-    if (node.child("axis") != nullptr)
-      context.notes.add(fmt::format("the axis of {} is not drawn yet", shown(role)));
+    if (node.child("axis") != nullptr) context.notes.add("Axis not drawn yet^1", {shown(role)});
     return;
   }
   if (context.chart.isPolar) return addPolarAxis(node, role, context);

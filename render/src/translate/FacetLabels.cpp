@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include <fmt/format.h>
-
 #include "compute/Bins.h"
 #include "text/Show.h"
 #include "text/Wrap.h"
@@ -78,11 +76,10 @@ void noteTicks(const Node& ticks, const Node& label, Notes& notes) {
   for (const std::string_view attribute : {"delta", "length", "stagger"}) {
     const std::string_view value = ticks.attribute(attribute);
     if (!value.empty() && value != "false" && value != "0")
-      notes.add(fmt::format("{}: {}=\"{}\" is not drawn at panels", label.name(), attribute,
-                            shown(value)));
+      notes.add("Attribute not drawn there^4",
+                {label.name(), attribute, shown(value), notes.text("At panels")});
   }
-  if (ticks.child("gridLines") != nullptr)
-    notes.add(fmt::format("{}: grid lines are not drawn at panels", label.name()));
+  if (ticks.child("gridLines") != nullptr) notes.add("No grid lines^1", {label.name()});
 }
 
 /// The angle that the axis of a level asks for: upright labels read up or down. What else
@@ -98,8 +95,7 @@ double angleOf(std::size_t level, double usual, Context& context) {
   const bool isDrawn = usual == 0 ? angle == 0 : std::abs(angle) == usual;
   if (isDrawn) return angle;
   if (!text.empty())
-    context.notes.add(
-        fmt::format("{}: labelAngle=\"{}\" is not drawn", label->name(), shown(text)));
+    context.notes.add("Attribute not drawn^3", {label->name(), "labelAngle", shown(text)});
   return usual;
 }
 
@@ -199,8 +195,7 @@ const Node* ownTitle(std::size_t level, const Chart& chart) {
 void refuseTitles(Context& context) {
   for (const std::size_t level : {1U, 2U})
     if (const Node* title = ownTitle(level, context.chart))
-      context.notes.add(
-          fmt::format("{} is not drawn: the axes of a matrix tell its variables", title->name()));
+      context.notes.add("Not drawn^2", {title->name(), context.notes.text("Axes of a matrix")});
 }
 
 } // namespace

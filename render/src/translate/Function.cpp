@@ -24,8 +24,7 @@ int pointCount(const Node& guide, Notes& notes) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
   if (error == std::errc() && end == text.data() + text.size() && count >= 2 && count <= most)
     return count;
-  notes.add(fmt::format("{}: numPoints=\"{}\" is not a number from 2 to {}", guide.name(),
-                        shown(text), most));
+  notes.add("Not a number of points^3", {guide.name(), shown(text), fmt::to_string(most)});
   return usual;
 }
 
@@ -63,19 +62,19 @@ std::size_t indexOf(const Node& guide, std::vector<const Node*>& functions) {
 /// A function of x as a line across the plot.
 void translateFunction(const Node& guide, Context& context) {
   const auto refuse = [&](std::string_view why) {
-    context.notes.add(fmt::format("{} is not drawn: {}", guide.name(), why));
+    context.notes.add("Not drawn^2", {guide.name(), why});
   };
   if (context.along("x").categorical || context.along("y").categorical)
-    return refuse("a function needs continuous scales");
+    return refuse(context.notes.text("Function needs numbers"));
   if (context.chart.isPolar || context.chart.space != nullptr)
-    return refuse("a function needs scales that are straight");
+    return refuse(context.notes.text("Function needs straight scales"));
 
   const std::string_view text = parameter(guide, "y");
   std::string formula;
   try {
     formula = translateFormula(text, "datum.x");
   } catch (const FormulaError& e) {
-    return refuse(fmt::format("its formula \"{}\": {}", shown(text), e.what()));
+    return refuse(context.notes.text("Formula^2", {shown(text), e.what()}));
   }
   const int points = pointCount(guide, context.notes);
   context.parts.data.push_back(functionData(guide, formula, points, context));

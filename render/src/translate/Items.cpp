@@ -40,8 +40,7 @@ void addVariables(Json& fields, const Element& element, const Item& item) {
 
 bool isDrawn(const Element& element, const Item& item, const Context& context) {
   if (element.isSlice) {
-    if (item.high < item.low)
-      context.notes.add(fmt::format("values below zero have no piece of {}", element.node->name()));
+    if (item.high < item.low) context.notes.add("No piece below zero^1", {element.node->name()});
     return item.high > item.low;
   }
   const Dimension& place = context.along(placeRole(element));

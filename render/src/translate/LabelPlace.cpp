@@ -111,8 +111,7 @@ LabelPlaces placeLabels(const Element& element, Context& context) {
     }
   }
   if (places.none > 0)
-    context.notes.add(fmt::format("{}: labels left out where parts of bars are too small: {}",
-                                  element.node->name(), places.none));
+    context.notes.add("No room for labels^2", {element.node->name(), fmt::to_string(places.none)});
   return places;
 }
 

@@ -4,8 +4,6 @@
 #include <cmath>
 #include <numeric>
 
-#include <fmt/format.h>
-
 #include "text/Show.h"
 #include "translate/FacetLabels.h"
 #include "translate/Theme.h"
@@ -24,7 +22,7 @@ double lengthOf(std::string_view text, double whole, double usual, const Node& n
   if (number.ends_with("px")) number.remove_suffix(2);
   const double value = numberOf(number);
   if (value >= 0 && value <= 100) return isPercent ? whole * value / 100 : value;
-  notes.add(fmt::format("{}: gap=\"{}\" is not drawn", node.name(), shown(text)));
+  notes.add("Attribute not drawn^3", {node.name(), "gap", shown(text)});
   return usual;
 }
 
@@ -77,7 +75,7 @@ double aspectOf(const Chart& chart, Notes& notes) {
   const double aspect = numberOf(text);
   if (aspect >= 0.05 && aspect <= 20) return aspect;
   if (!text.empty())
-    notes.add(fmt::format("{}: cellAspect=\"{}\" is not drawn", labeling->name(), shown(text)));
+    notes.add("Attribute not drawn^3", {labeling->name(), "cellAspect", shown(text)});
   return 0;
 }
 
@@ -138,7 +136,7 @@ void makeUnitsEqual(Chart& chart, const Layout& layout, Notes& notes) {
   };
   if (!asks("x") && !asks("y")) return;
   if (chart.facets.isMatrix) {
-    notes.add("a unit cannot be as long along x as along y: a matrix has several of each");
+    notes.add("Units of a matrix");
     return;
   }
   for (Panel& panel : chart.panels) {
@@ -146,7 +144,7 @@ void makeUnitsEqual(Chart& chart, const Layout& layout, Notes& notes) {
       return !dimension.categorical && dimension.type == ScaleType::linear;
     };
     if (!isEven(panel.x) || !isEven(panel.y)) {
-      notes.add("a unit cannot be as long along x as along y: both need an even scale");
+      notes.add("Units of uneven scales");
       return;
     }
     const double alongX = chart.isTransposed ? layout.panelHeight : layout.panelWidth;

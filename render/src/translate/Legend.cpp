@@ -100,8 +100,8 @@ void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entri
   if (asksForGroup) addEntry(*element, *element->group, entries, context);
   if (asksForShape) addEntry(*element, *element->shape, entries, context);
   if (!asksForGroup && !asksForShape)
-    context.notes.add(fmt::format("{}: a legend of {} is not drawn yet", target.name(),
-                                  shown(target.attribute("aesthetic"))));
+    context.notes.add("Legend not drawn yet^2",
+                      {target.name(), shown(target.attribute("aesthetic"))});
 }
 
 /// Labels wrapped to the legend's width.
@@ -208,8 +208,9 @@ void translateLegend(const Node& legend, Context& context) {
     context.parts.legends.push_back(legendOf(entry, legend, context));
     const std::size_t count = entry.group->categories.size();
     if (count > theme::legendEntries)
-      context.notes.add(fmt::format("the legend of {} shows the first {} of {} categories",
-                                    entry.group->title, theme::legendEntries - 1, count));
+      context.notes.add(
+          "First categories^3",
+          {entry.group->title, fmt::to_string(theme::legendEntries - 1), fmt::to_string(count)});
   }
 }
 

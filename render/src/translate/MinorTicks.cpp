@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include <fmt/format.h>
-
 #include "text/Show.h"
 #include "translate/AxisTicks.h"
 #include "translate/Matrix.h"
@@ -20,8 +18,7 @@ double countOf(const Node& minorTicks, Notes& notes) {
   if (text.empty()) return 1;
   const double count = numberOf(text);
   if (count >= 1 && count <= most) return count;
-  if (count != 0)
-    notes.add(fmt::format("{}: number=\"{}\" is not drawn", minorTicks.name(), shown(text)));
+  if (count != 0) notes.add("Attribute not drawn^3", {minorTicks.name(), "number", shown(text)});
   return 0;
 }
 
@@ -63,8 +60,7 @@ void addMinorTicks(const Json& major, const Node& minorTicks, const Dimension& d
   const bool isEven = !dimension.categorical && dimension.type == ScaleType::linear;
   const Json values = major.value("values", Json::array());
   if (!(isEven || isLog) || values.size() < 2) {
-    context.notes.add(
-        fmt::format("the minor ticks of {} are not drawn: its scale is not even", dimension.role));
+    context.notes.add("Minor ticks not drawn^1", {dimension.role});
     return;
   }
   const double count = std::floor(countOf(minorTicks, context.notes));

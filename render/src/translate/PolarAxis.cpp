@@ -117,7 +117,7 @@ void addPolarAxis(const Node& node, std::string_view role, Context& context) {
   const Dimension& dimension = context.along(role);
   if (axis->child("majorTicks") != nullptr && dimension.categorical)
     refuseDelta(axis->child("majorTicks"), context.notes);
-  noteStraightAxis(*axis, "in polar coordinates", false, context.notes);
+  noteStraightAxis(*axis, "In polar coordinates", false, context.notes);
   if (role == "x")
     addRays(dimension, *axis, context);
   else

@@ -42,8 +42,7 @@ void translateReferenceLine(const Node& guide, Context& context) {
     const bool isWithin = dimension.categorical ? category != nullptr
                                                 : value >= dimension.low && value <= dimension.high;
     if (!isWithin || context.chart.isPolar || context.chart.space != nullptr) {
-      context.notes.add(fmt::format("{} is not drawn: {}={} is outside the plot", guide.name(),
-                                    role, shown(text)));
+      context.notes.add("Outside the plot^3", {guide.name(), role, shown(text)});
       continue;
     }
     const Channels at = channelsOf(role, context.chart);

@@ -37,8 +37,7 @@ double viewParameter(std::string_view name, double usual, double low, double hig
   const double value = numberOf(text);
   if (value >= low && value <= high) return value;
   if (!text.empty())
-    context.notes.add(
-        fmt::format("{}: {}={} is not drawn", context.chart.space->name(), name, shown(text)));
+    context.notes.add("Parameter not drawn^3", {context.chart.space->name(), name, shown(text)});
   return usual;
 }
 
@@ -86,7 +85,7 @@ double labelAngle(const Node& majorTicks, Notes& notes) {
   const double angle = numberOf(text);
   if (angle >= -360 && angle <= 360) return angle;
   if (!text.empty())
-    notes.add(fmt::format("{}: labelAngle=\"{}\" is not drawn", majorTicks.name(), shown(text)));
+    notes.add("Attribute not drawn^3", {majorTicks.name(), "labelAngle", shown(text)});
   return 0;
 }
 
@@ -186,7 +185,7 @@ void addAxis(const Node& axis, std::size_t along, Context& context) {
   const Dimension& dimension = context.along(roles[along]);
   const BoxPlace edge = edgeOf(along, view);
   const auto [outX, outY] = wayOut(edge, along, view);
-  noteStraightAxis(axis, "in space", true, context.notes);
+  noteStraightAxis(axis, "In space", true, context.notes);
   if (const Node* majorTicks = axis.child("majorTicks")) {
     const double angle = labelAngle(*majorTicks, context.notes);
     const AxisTicks ticks = ticksAlong(roles[along], context);
@@ -221,7 +220,7 @@ void addAxis(const Node& axis, std::size_t along, Context& context) {
 void addSpatialAxis(const Node& dimension, Context& context) {
   const std::string_view role = dimension.attribute("role");
   if (context.along(role).type != ScaleType::linear)
-    context.notes.add(fmt::format("{}: its scale is drawn evenly in space", dimension.name()));
+    context.notes.add("Even in space^1", {dimension.name()});
   for (const Node& axis : dimension.children)
     if (axis.kind == "axis") addAxis(axis, indexOf(role), context);
 }
@@ -230,7 +229,7 @@ void addSpatialAxis(const Node& dimension, Context& context) {
 /// out, as they would cover what is in it.
 void translateBox(const Node& guide, Context& context) {
   if (context.chart.space == nullptr) {
-    context.notes.add(fmt::format("{} is not drawn: the plot is flat", guide.name()));
+    context.notes.add("Not drawn^2", {guide.name(), context.notes.text("Flat plot")});
     return;
   }
   const View view = viewOf(context);
@@ -257,7 +256,7 @@ void translateBox(const Node& guide, Context& context) {
 void translatePlane(const Node& guide, Context& context) {
   const std::size_t normal = indexOf(parameter(guide, "normal"));
   if (context.chart.space == nullptr || normal == roles.size()) {
-    context.notes.add(fmt::format("{} is not drawn: it is no side of a box", guide.name()));
+    context.notes.add("Not drawn^2", {guide.name(), context.notes.text("No side of a box")});
     return;
   }
   constexpr double opacity = 0.3;

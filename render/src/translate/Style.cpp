@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include <fmt/format.h>
-
 #include "text/Show.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
@@ -101,8 +99,7 @@ void translateStyle(const Node& style, Context& context) {
                                                  Property{"fill-pattern", "0"}};
   forEachProperty(style.attribute("value"), [&](std::string_view name, std::string_view value) {
     if (std::ranges::find(drawn, Property{name, value}) == drawn.end())
-      context.notes.add(
-          fmt::format("{}: {}:{} is not drawn yet", style.name(), shown(name), shown(value)));
+      context.notes.add("Style not drawn yet^3", {style.name(), shown(name), shown(value)});
   });
 }
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <fmt/format.h>
-
 #include "compute/Hexagons.h"
 #include "translate/Encode.h"
 #include "translate/Filling.h"
@@ -70,8 +68,7 @@ void translateTile(const Node& node, Context& context) {
     return addHexagons(*element, context);
   }
   if (!context.along("x").categorical || !context.along("y").categorical) {
-    context.notes.add(
-        fmt::format("{} is not drawn: tiles need categories along x and y", node.name()));
+    context.notes.add("Not drawn^2", {node.name(), context.notes.text("Tiles need categories")});
     return;
   }
   Json update = Json::object();

@@ -19,7 +19,7 @@ namespace {
 void noteUnknownAttributes(const Node& node, const Rule& rule, Notes& notes) {
   for (const auto& [name, value] : node.attributes)
     if (!rule.knows(name, value))
-      notes.add(fmt::format("{}: {}=\"{}\" is not drawn yet", node.name(), name, shown(value)));
+      notes.add("Attribute not drawn yet^3", {node.name(), name, shown(value)});
 }
 
 /// "element scatter" for a node of a type that is not known, else its kind.
@@ -66,7 +66,7 @@ void walk(const Node& node, const Node& parent, Context& context) {
   if (std::ranges::find(context.chart.leftOut, &node) != context.chart.leftOut.end()) return;
   const Rule* rule = findRule(node, parent);
   if (rule == nullptr) {
-    context.notes.add(fmt::format("{} in {} is not drawn yet", described(node), parent.name()));
+    context.notes.add("Node not drawn yet^2", {described(node), parent.name()});
     return;
   }
   noteUnknownAttributes(node, *rule, context.notes);
