@@ -129,7 +129,7 @@ Json assemble(const Chart& chart, const Layout& layout, Parts parts,
             {"signals", theme::signals(theme)}};
   addTitles(spec, plot, parts, theme);
 
-  addNamedLegends(parts);
+  addNamedLegends(chart, parts);
   Json scales = Json::array();
   if (!chart.facets.isSplit()) append(scales, std::move(parts.positionScales));
   append(scales, std::move(parts.scales));

@@ -7,6 +7,7 @@
 #include "text/Expression.h"
 #include "text/Wrap.h"
 #include "translate/Groups.h"
+#include "translate/ReferenceLook.h"
 #include "translate/Style.h"
 #include "translate/StyleCycle.h"
 #include "translate/Theme.h"
@@ -52,11 +53,11 @@ Named drawnAs(const Element& element, const Context& context) {
   return named;
 }
 
-Named guideAs(const Node& guide, const Parts& parts) {
+Named guideAs(const Node& guide, const Chart& chart, const Parts& parts) {
   Named named{.node = &guide, .color = "ink", .shape = theme::lineSymbol};
   const auto found = std::ranges::find(parts.functions, &guide);
   named.dash = found == parts.functions.end()
-                   ? theme::referenceDash()
+                   ? dashOf(guide, chart)
                    : theme::functionDash(static_cast<std::size_t>(found - parts.functions.begin()));
   return named;
 }
@@ -110,17 +111,18 @@ void addNamed(const Node& node, const Node& legend, Context& context) {
   if (isKnown(node, context.parts)) return;
   const Element* element = context.chart.find(node);
   if (element == nullptr && !isDrawn(node, context.parts)) return;
-  Named named = element != nullptr ? drawnAs(*element, context) : guideAs(node, context.parts);
+  Named named =
+      element != nullptr ? drawnAs(*element, context) : guideAs(node, context.chart, context.parts);
   named.text = nameOf(node, element);
   const Node* label = legend.child("label");
   if (label != nullptr) named.title = label->text;
   if (!named.text.empty()) context.parts.named.push_back(std::move(named));
 }
 
-void addNamedLegends(Parts& parts) {
+void addNamedLegends(const Chart& chart, Parts& parts) {
   for (const Node* function : parts.functions) {
     if (function->attribute("name").empty() || isKnown(*function, parts)) continue;
-    parts.named.push_back(guideAs(*function, parts));
+    parts.named.push_back(guideAs(*function, chart, parts));
     parts.named.back().text = function->attribute("name");
   }
   std::size_t number = 0;

@@ -13,6 +13,6 @@ void addNamed(const Node& node, const Node& legend, Context& context);
 
 /// Adds the legends of all that is named, one for each title; function lines that have a
 /// name are among them, whether a legend names them or not.
-void addNamedLegends(Parts& parts);
+void addNamedLegends(const Chart& chart, Parts& parts);
 
 } // namespace render

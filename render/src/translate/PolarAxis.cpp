@@ -8,9 +8,11 @@
 
 #include "resolve/ScaleMethod.h"
 #include "text/Expression.h"
+#include "text/Wrap.h"
 #include "translate/AxisTicks.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
+#include "translate/Space.h"
 #include "translate/Theme.h"
 
 namespace render {
@@ -109,6 +111,35 @@ void addRays(const Dimension& dimension, const Node& axis, Context& context) {
            context);
 }
 
+/// How far the labels of rays reach beyond the circle.
+double roomOfRays(const Dimension& angles) {
+  constexpr double ofNumbers = 50;
+  double widest = angles.categorical ? 0 : ofNumbers;
+  for (const Category& category : angles.categories)
+    widest = std::max(widest, textWidth(category.label, theme::labelSize));
+  return labelGap + widest;
+}
+
+/// The title of the angle stands under the circle, that of the distance upright at its left.
+void addTitle(const std::vector<std::string>& lines, std::string_view role, Context& context) {
+  constexpr double below = 40;
+  constexpr double beside = 14;
+  constexpr int lineHeight = theme::axisTitleSize + 4;
+  if (lines.empty()) return;
+  const bool isAngle = role == "x";
+  const double x = context.layout.panelWidth / 2;
+  const double y = context.layout.panelHeight / 2;
+  const double left = radiusOf(context) + roomOfRays(context.along("x")) + beside +
+                      lineHeight * static_cast<double>(lines.size() - 1);
+  Json title = textMark(isAngle ? x : x - left, isAngle ? y + radiusOf(context) + below : y,
+                        {{"value", lines}}, "center", context);
+  Json& update = title["encode"]["update"];
+  update["fontSize"] = {{"value", theme::axisTitleSize}};
+  update["lineHeight"] = {{"value", lineHeight}};
+  if (!isAngle) update["angle"] = {{"value", -90}};
+  context.parts.marks.push_back(std::move(title));
+}
+
 } // namespace
 
 void addPolarAxis(const Node& node, std::string_view role, Context& context) {
@@ -118,6 +149,10 @@ void addPolarAxis(const Node& node, std::string_view role, Context& context) {
   if (axis->child("majorTicks") != nullptr && dimension.categorical)
     refuseDelta(axis->child("majorTicks"), context.notes);
   noteStraightAxis(*axis, "In polar coordinates", false, context.notes);
+  const auto room = static_cast<int>(2 * radiusOf(context));
+  addTitle(wrap(axisTitle(*axis, dimension),
+                {.width = room, .fontSize = theme::axisTitleSize, .lines = 2}),
+           role, context);
   if (role == "x")
     addRays(dimension, *axis, context);
   else

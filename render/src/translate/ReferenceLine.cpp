@@ -7,6 +7,7 @@
 #include "text/Show.h"
 #include "translate/Encode.h"
 #include "translate/ItemPlace.h"
+#include "translate/ReferenceLook.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
@@ -56,7 +57,7 @@ void translateReferenceLine(const Node& guide, Context& context) {
         {along.end, {{"value", goesUp ? context.layout.panelHeight : context.layout.panelWidth}}},
         {"stroke", {{"signal", "ink"}}},
         {"strokeWidth", {{"value", theme::thinWidth}}},
-        {"strokeDash", {{"value", theme::referenceDash()}}},
+        {"strokeDash", {{"value", dashOf(guide, context.chart)}}},
         {"tooltip",
          {{"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}}}};
     context.parts.lines.push_back(&guide);

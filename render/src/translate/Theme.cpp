@@ -1,6 +1,7 @@
 #include "translate/Theme.h"
 
 #include <algorithm>
+#include <array>
 
 #include <fmt/format.h>
 #include <host/Locale.h>
@@ -120,7 +121,11 @@ Json functionDash(std::size_t index) {
   return patterns[1 + index % (patterns.size() - 1)];
 }
 
-Json referenceDash() { return {6, 3}; }
+Json referenceDash(std::size_t index) {
+  const std::array<Json, referenceDashes> patterns{Json{6, 3}, Json{1.5, 3}, Json{10, 3, 1.5, 3},
+                                                   Json{14, 4}, Json{6, 3, 1.5, 3, 1.5, 3}};
+  return patterns[index % patterns.size()];
+}
 
 Json signals(const Theme& theme) {
   const auto tone = [&theme](std::string_view Tones::* each) {

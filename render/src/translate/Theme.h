@@ -146,8 +146,9 @@ Json dashes();
 /// elements are drawn.
 Json functionDash(std::size_t index);
 
-/// The dash pattern of lines across the plot.
-Json referenceDash();
+/// The dash pattern of lines across the plot that have a style of that index, from 0.
+constexpr std::size_t referenceDashes = 5;
+Json referenceDash(std::size_t index);
 
 /// The signals for light and dark: "dark" is set from outside; "ink", "paper",
 /// "faint" and "palette", the colors of groups, follow.

@@ -67,6 +67,16 @@ TEST(AxesTest, CirclesAndBoxesHaveTheTicksAndFormatsOfTheirAxes) {
              R"(<element type="point" id="e"><theta variable="v1"/><r variable="v2"/></element>)");
   EXPECT_THAT(textsOf(polar), testing::IsSupersetOf(
                                   {R"(format(2,".0f")+"\u00b0")", R"(format(4,".0f")+"\u00b0")"}));
+  json titles = json::array();
+  for (const json& mark : polar["marks"][0]["marks"]) {
+    const json& update = mark["encode"]["update"];
+    if (update.contains("fontSize") && update["fontSize"]["value"] == 15)
+      titles.push_back({update["text"]["value"], update["x"]["value"], update["y"]["value"],
+                        update.value("angle", json())});
+  }
+  EXPECT_EQ(titles, json::parse(R"([[["A label"], 360, 520, null],
+    [["b"], 42, 240, {"value": -90}]])"))
+      << "under the circle and left of its labels";
   EXPECT_EQ(polar["marks"][0]["scales"][0]["domain"][1], 4.92);
   EXPECT_EQ(polar["usermeta"]["notes"],
             json({"majorTicks: length=\"3\" is not drawn in polar coordinates"}));

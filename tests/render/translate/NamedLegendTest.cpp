@@ -72,6 +72,50 @@ TEST(NamedLegendTest, PointsOverFillingsAreOpaqueWithARim) {
   EXPECT_EQ(update["fillOpacity"], json({{"value", 1}}));
 }
 
+TEST(NamedLegendTest, LinesAcrossThePlotHaveTheDashOfTheirStyle) {
+  const auto line = [](int number, char role, const char* name) {
+    return fmt::format(R"(<guide type="line" id="guide_referenceLine_{}" {}>
+      <parameter name="{}" value="{}"/></guide>)",
+                       number, name, role, role == 'x' ? 1.5 : 15);
+  };
+  const json first{6, 3};
+  const json second{1.5, 3};
+  const json third{10, 3, 1.5, 3};
+  const struct {
+    const char* what;
+    std::string lines;
+    json dashes; ///< of the marks, in the order of the lines
+  } cases[] = {
+      {"styles",
+       line(201, 'y', "name='A'") + line(203, 'y', "name='B'") + line(202, 'y', ""),
+       {first, third, second}},
+      {"upright and level ones of one style",
+       line(101, 'x', "") + line(201, 'y', ""),
+       {first, first}},
+      {"the same with names",
+       line(101, 'x', "name='A'") + line(201, 'y', "name='B'"),
+       {first, second}},
+      {"as many styles as there are dashes", line(206, 'y', ""), {first}},
+      {"no style",
+       R"(<guide type="line" id="guidedefault"><parameter name="y" value="15"/></guide>)",
+       {first}},
+  };
+  for (const auto& [what, lines, dashes] : cases) {
+    json found = json::array();
+    const json drawn = specOf(element("p", "point") + lines);
+    for (const json& mark : drawn["marks"][0]["marks"])
+      if (mark["type"] == "rule") found.push_back(mark["encode"]["update"]["strokeDash"]["value"]);
+    EXPECT_EQ(found, dashes) << what;
+  }
+  const json plot =
+      specOf(element("p", "point") + line(201, 'y', "name='A'") + line(202, 'y', "name='B'"),
+             "guide_referenceLine_201 guide_referenceLine_202")["marks"][0];
+  for (const json& scale : plot["scales"])
+    if (scale["name"] == "dash_named1") {
+      EXPECT_EQ(scale["range"], json({first, second}));
+    }
+}
+
 TEST(NamedLegendTest, OneLegendHoldsAllThatIsNamed) {
   const json plot =
       specOf(element("b", "interval", R"(name="Bars")", "12") +
