@@ -2,29 +2,15 @@
 // checked against: no others, so that a picture is the same wherever they are.
 
 import {existsSync} from 'node:fs';
+import {join} from 'node:path';
+import table from '../font/files.json' with {type: 'json'};
 import {familyOf} from './textWidth.mjs';
 
-const debian = '/usr/share/fonts';
-
-/** Their files by weight, where Debian's packages put them. */
-export const fonts = [
-  {
-    family: 'Liberation Sans',
-    regular: `${debian}/truetype/liberation/LiberationSans-Regular.ttf`,
-    bold: `${debian}/truetype/liberation/LiberationSans-Bold.ttf`,
-  },
-  {
-    family: 'DejaVu Sans',
-    regular: `${debian}/truetype/dejavu/DejaVuSans.ttf`,
-    bold: `${debian}/truetype/dejavu/DejaVuSans-Bold.ttf`,
-  },
-  {
-    family: 'Noto Sans CJK',
-    regular: `${debian}/opentype/noto/NotoSansCJK-Regular.ttc`,
-    bold: `${debian}/opentype/noto/NotoSansCJK-Bold.ttc`,
-    isLarge: true,
-  },
-];
+/** Their files by weight. */
+const fonts = table.fonts.map(({folder, regular, bold, ...font}) => {
+  const all = process.env.CHARTXML_FONTS || join(table.folder, folder);
+  return {...font, regular: join(all, regular), bold: join(all, bold)};
+});
 
 const filesOf = (families) => families.flatMap(({regular, bold}) => [regular, bold]);
 

@@ -56,14 +56,19 @@ function dropTooltips({marks = []}) {
   }
 }
 
+/** The letters of a picture, which its page holds: bitmaps and PDF take theirs from files. */
+const fontsOfPage = (folder) =>
+  /<style id="fonts">([^<]*)/.exec(readFileSync(join(folder, 'chart.html'), 'utf8'))[1];
+
 async function draw(folder, {svg, png, pdf}) {
   const spec = JSON.parse(readFileSync(join(folder, 'chart.vg.json'), 'utf8'));
   dropTooltips(spec);
   // The ids in a picture count from one, whatever was drawn before it.
   resetSVGDefIds();
   const view = new View(parse(spec), {renderer: 'none'});
-  const picture = wholeSvg(await view.toSVG(magnificationOf(spec)), spec);
-  if (svg) writeWhole(join(folder, 'chart.svg'), picture);
+  const drawn = await view.toSVG(magnificationOf(spec));
+  const picture = wholeSvg(drawn, spec);
+  if (svg) writeWhole(join(folder, 'chart.svg'), wholeSvg(drawn, spec, fontsOfPage(folder)));
   if (png) {
     const {Resvg} = await import('@resvg/resvg-js');
     const named = nameFaces(anchorClippedGroups(picture));
@@ -99,8 +104,8 @@ async function drawInTurn(tasks, ended) {
 async function drawAll() {
   const missing = missingFamilies();
   const {folders, ...formats} = JSON.parse(readFileSync(0, 'utf8'));
-  if (formats.png && missing.length > 0)
-    console.error(`chartxml: fonts that are not installed: ${missing.join(', ')}; other fonts take their place in PNG pictures, or characters are missing`);
+  if ((formats.svg || formats.png) && missing.length > 0)
+    console.error(`chartxml: fonts that are not installed: ${missing.join(', ')}; other fonts take their place in pictures, or characters are missing`);
   const showLine = (text) => process.stderr.isTTY && process.stderr.write(`\r\x1B[K${text}`);
   const tasks = folders.map((folder) => ({folder, formats}));
   const troubles = [];

@@ -3,6 +3,7 @@
 import {parse} from 'vega';
 import {drawChart} from './chart.js';
 import {addFilters, prepareFilters} from './filter.js';
+import {loadFonts} from './fonts.js';
 import {prepareLabels} from './labels.js';
 import {addSaveButtons} from './save.js';
 import {sourcesOf} from './sources.js';
@@ -20,6 +21,7 @@ async function drawPage() {
   const filters = prepareFilters(spec);
   const zoom = prepareZoom(spec);
   prepareLabels(spec);
+  await loadFonts();
   // Expressions are kept as trees: the page's policy allows no code from texts.
   const runtime = parse(spec, null, {ast: true});
   const view = await drawChart(runtime, element('chart'), spec);

@@ -15,11 +15,15 @@ export const textsOfPicture = (spec) => ({
 /** How much larger than its plot says a Vega chart is shown. */
 export const magnificationOf = (spec) => spec.usermeta?.theme?.magnification ?? 1;
 
-/** Vega's SVG of a chart with its texts and its patterns as the first elements. */
-export function wholeSvg(svg, spec) {
+/**
+ * Vega's SVG of a chart with its texts, its patterns and its letters, which are rules of
+ * CSS, as the first elements.
+ */
+export function wholeSvg(svg, spec, fonts = '') {
   const {title, description} = textsOfPicture(spec);
+  const style = fonts && `<style>${fonts}</style>`;
   return svg.replace(/<svg[^>]*>/, (open) =>
-    `${open}<title>${escape(title)}</title><desc>${escape(description)}</desc>${patternsOf(spec)}`);
+    `${open}<title>${escape(title)}</title><desc>${escape(description)}</desc>${patternsOf(spec)}${style}`);
 }
 
 const crcTable = Uint32Array.from({length: 256}, (_, byte) => {

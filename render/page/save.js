@@ -1,6 +1,7 @@
 import {View} from 'vega';
 import {csvOf} from './csv.js';
 import {expressions} from './expressions.js';
+import {fontsOfPage} from './fonts.js';
 import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from './pictureTexts.js';
 import {word} from './words.js';
 
@@ -17,7 +18,7 @@ function asTheme({runtime, view, filters, zoom}) {
 }
 
 const svg = async (page) =>
-  wholeSvg(await asTheme(page).toSVG(magnificationOf(page.spec)), page.spec);
+  wholeSvg(await asTheme(page).toSVG(magnificationOf(page.spec)), page.spec, fontsOfPage());
 
 /** From the SVG, since Vega's own drawing of pixels knows no patterns. */
 async function png(page) {

@@ -2,6 +2,7 @@
 
 #include "assemble/Assemble.h"
 #include "check/Check.h"
+#include "fonts/FontCss.h"
 #include "page/ChartPage.h"
 #include "page/Files.h"
 #include "page/Gallery.h"
@@ -78,7 +79,8 @@ Findings writeChart(const std::filesystem::path& chartFolder, const std::string&
     Notes notes(chart.manifest.language);
     const Json spec = specification(chart, words, notes);
     writeFile(folder / "chart.vg.json", laidOut(spec));
-    writeFile(page, chartPage(chart.manifest, spec, words));
+    writeFile(page,
+              chartPage(chart.manifest, spec, fontCss(spec, theme::font(chart.manifest)), words));
     return notes.findings();
   } catch (const RenderError& e) {
     writeFile(page, refusedPage(manifestOf(folder), reasonWithin(folder, e)));

@@ -78,6 +78,12 @@ function writeBig() {
     document({label: 'Row', id: 'v3', title: 'Many rows'}), csv);
 }
 
+/** Letters of all fonts, marks that stand on them, and scripts of other reading directions. */
+function writeLetters(name) {
+  writeChart(name, {name: 'letters', language: 'en'},
+    document({label: 'x\u0304 ⇒ e\u0301, Größe, Доля, ½', id: 'v3', title: 'ŷ = β₁x\u0304 年 שלום'}), 'A,B,Group\n1,2,ǅ\n2,3,한\n');
+}
+
 rmSync(output, {recursive: true, force: true});
 mkdirSync(output, {recursive: true});
 runProcedure('penguins', 'en');
@@ -87,4 +93,9 @@ copyFileSync(join(root, 'procedures/penguins.f90'), join(output, 'procedures/pen
 writeHostile();
 writeBig();
 for (const template of ['print', 'dark', 'presentation']) writeTheme(folders[template], template);
-execFileSync(join(build, 'bin/chartxml'), ['render', output, '--svg'], {stdio: 'inherit'});
+writeLetters(folders.letters);
+writeLetters(folders.withoutFonts);
+const render = (folder, environment) => execFileSync(join(build, 'bin/chartxml'), ['render', folder, '--svg'],
+  {stdio: 'inherit', env: {...process.env, ...environment}});
+render(output, {});
+render(join(output, folders.withoutFonts), {CHARTXML_FONTS: join(output, 'procedures')});

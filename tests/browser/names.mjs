@@ -3,6 +3,7 @@
 export const folders = {
   penguins: '0001-penguins', dates: '0002-economics', hostile: '0100-hostile', big: '0200-big',
   print: '0300-print', dark: '0301-dark', presentation: '0302-presentation',
+  letters: '0400-letters', withoutFonts: '0401-without-fonts',
 };
 export const rowsOfBig = 250_000;
 

@@ -17,15 +17,20 @@ const flags = [
 ];
 const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
 
-let browser;
-before(async () => {
+/** A browser, with more in its environment. */
+export function launch(environment = {}) {
   const executablePath = process.env.CHROMIUM ?? '/usr/bin/chromium';
-  browser = await chromium.launch({executablePath, args: flags});
+  return chromium.launch({executablePath, args: flags, env: {...process.env, ...environment}});
+}
+
+let usual;
+before(async () => {
+  usual = await launch();
 });
-after(() => browser?.close());
+after(() => usual?.close());
 
 /** Opens a page, hands it to `act`, and fails when the browser complained of anything. */
-export async function withPage(url, act, options = {}) {
+export async function withPage(url, act, options = {}, browser = usual) {
   const context = await browser.newContext({viewport: {width: 1200, height: 900}, ...options});
   const complaints = [];
   const page = await context.newPage();
@@ -49,11 +54,11 @@ export async function withPage(url, act, options = {}) {
 }
 
 /** The same for a chart's page, once it is drawn. */
-export const withChart = (folder, act, options) =>
+export const withChart = (folder, act, options, browser) =>
   withPage(urlOf(folder, 'chart.html'), async (page) => {
     await until(page, "document.getElementById('trouble') === null");
     await act(page);
-  }, options);
+  }, options, browser);
 
 /** Fails with what axe finds, each with the elements that it is found in. */
 export async function assertAccessible(page) {

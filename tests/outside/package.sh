@@ -11,7 +11,7 @@ mkdir -p -- "$scratch/unpacked"
 (cd -- "$scratch" && "$cpack" --config "$build/CPackConfig.cmake" -G DEB -B "$scratch" >cpack.log)
 package=("$scratch"/*.deb)
 needs=$(dpkg-deb --field "${package[0]}" Depends)
-for library in libxerces-c libicu libfmt libcsv libnettle libc6; do
+for library in libxerces-c libicu libfmt libcsv libnettle libharfbuzz-subset0 zlib1g libc6; do
   [[ $needs == *$library* ]] || { echo "$library is not among: $needs" >&2 && exit 1; }
 done
 

@@ -8,7 +8,8 @@ namespace render {
 namespace {
 
 constexpr std::string_view policy =
-    "default-src 'none'; script-src 'self'; style-src 'unsafe-inline'; img-src data: blob:";
+    "default-src 'none'; script-src 'self'; style-src 'unsafe-inline'; img-src data: blob:; "
+    "font-src data:";
 
 std::string header(const Manifest& manifest, const Words& words) {
   std::string html =
@@ -17,6 +18,16 @@ std::string header(const Manifest& manifest, const Words& words) {
   if (!manifest.splitHeader.empty())
     html += fmt::format("<p class=\"soft\">{}</p>\n", escapeHtml(manifest.splitHeader));
   return html;
+}
+
+/// The notes of the chart, and of the fonts that are missing where the page is written.
+Json notesOf(const Json& spec, const FontCss& fonts) {
+  Json notes = spec["usermeta"]["notes"];
+  for (const std::string& file : fonts.missing)
+    notes.push_back(fmt::format("the font file {} is missing or damaged: the picture has its "
+                                "letters from other fonts, those of its reader",
+                                file));
+  return notes;
 }
 
 std::string noteList(const Json& notes, const Words& words) {
@@ -28,14 +39,20 @@ std::string noteList(const Json& notes, const Words& words) {
   return html + "</ul>\n";
 }
 
+/// Its content goes into pictures that are saved too.
+std::string fontStyle(const FontCss& fonts) {
+  return fmt::format("<style id=\"fonts\">{}</style>\n", fonts.css);
+}
+
 } // namespace
 
-std::string chartPage(const Manifest& manifest, const Json& spec, const Words& words) {
+std::string chartPage(const Manifest& manifest, const Json& spec, const FontCss& fonts,
+                      const Words& words) {
   constexpr std::string_view script = "../runtime/chartxml-page.js";
   const std::string json = spec.dump(-1, ' ', false, Json::error_handler_t::replace);
   const auto& title = spec["usermeta"]["title"].get_ref<const std::string&>();
   const auto word = [&words](std::string_view key) { return escapeHtml(words(key)); };
-  return pageHead(manifest.language, title, policy) + header(manifest, words) +
+  return pageHead(manifest.language, title, policy, fontStyle(fonts)) + header(manifest, words) +
          fmt::format(
              R"(<figure>
 <div class="plot"><div id="chart" role="img" aria-label="{title}"></div></div>
@@ -65,7 +82,7 @@ std::string chartPage(const Manifest& manifest, const Json& spec, const Words& w
              fmt::arg("keys", word("Keys")), fmt::arg("zoomKeys", word("Zoom keys")),
              fmt::arg("shows", word("What it shows")),
              fmt::arg("about", escapeHtml(spec["description"].get_ref<const std::string&>())),
-             fmt::arg("notes", noteList(spec["usermeta"]["notes"], words)),
+             fmt::arg("notes", noteList(notesOf(spec, fonts), words)),
              fmt::arg("data", word("Data")), fmt::arg("words", escapeScript(words.json().dump())),
              fmt::arg("spec", escapeScript(json)), fmt::arg("script", script));
 }

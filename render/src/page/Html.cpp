@@ -137,7 +137,8 @@ std::string escapeUrl(std::string_view path) {
   return url;
 }
 
-std::string pageHead(std::string_view language, std::string_view title, std::string_view policy) {
+std::string pageHead(std::string_view language, std::string_view title, std::string_view policy,
+                     std::string_view more) {
   return fmt::format(R"(<!doctype html>
 <html lang="{}">
 <head>
@@ -146,9 +147,9 @@ std::string pageHead(std::string_view language, std::string_view title, std::str
 <meta name="viewport" content="width=device-width, initial-scale=1">
 <title>{}</title>
 <style>{}</style>
-</head>
+{}</head>
 )",
-                     languageTag(language), policy, escapeHtml(title), style);
+                     languageTag(language), policy, escapeHtml(title), style, more);
 }
 
 } // namespace render

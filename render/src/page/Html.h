@@ -16,7 +16,8 @@ std::string escapeScript(std::string_view json);
 std::string escapeUrl(std::string_view path);
 
 /// The first lines of every page, up to the begin of its body. `policy` is the
-/// content-security policy.
-std::string pageHead(std::string_view language, std::string_view title, std::string_view policy);
+/// content-security policy, `more` what else the head of the page holds.
+std::string pageHead(std::string_view language, std::string_view title, std::string_view policy,
+                     std::string_view more = {});
 
 } // namespace render
