@@ -56,17 +56,33 @@ Json sliceMark(const Element& element, Context& context) {
   return {{"type", "arc"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}};
 }
 
+/// An end of a sector within the angle of its category, which groups side by side divide.
+Json angleAt(const Element& element, bool isEnd, const Context& context) {
+  const std::size_t slots = slotCount(element, context);
+  const double width = theme::barBand / static_cast<double>(slots);
+  const double share = slots > 1 ? width * theme::slotShare : width;
+  const double first = (1 - theme::barBand) / 2 + (width - share) / 2;
+  const double at = isEnd ? first + share : first;
+  Json angle{{"scale", "x"}, {"field", fieldPath(element.x->id)}};
+  if (slots == 1) {
+    angle["band"] = at;
+    return angle;
+  }
+  angle["offset"] = {
+      {"signal", fmt::format("bandwidth(\"x\")*({:.6g}+datum.slot*{:.6g})", at, width)}};
+  return angle;
+}
+
 /// A bar in polar coordinates: a sector from the middle of the plot.
 Json sectorMark(const Element& element, Context& context) {
   const bool isBanded = context.along("x").isBanded;
-  const auto end = [&](double share, const char* field) -> Json {
-    if (!isBanded) return endAlong("x", field, context);
-    return {{"scale", "x"}, {"field", fieldPath(element.x->id)}, {"band", share}};
+  const auto end = [&](const char* field, bool isEnd) {
+    return isBanded ? angleAt(element, isEnd, context) : endAlong("x", field, context);
   };
   Json update{{"x", {{"value", context.layout.panelWidth / 2}}},
               {"y", {{"value", context.layout.panelHeight / 2}}},
-              {"startAngle", end((1 - theme::barBand) / 2, "from")},
-              {"endAngle", end((1 + theme::barBand) / 2, "to")},
+              {"startAngle", end("from", false)},
+              {"endAngle", end("to", true)},
               {"innerRadius", {{"scale", "y"}, {"field", "low"}}},
               {"outerRadius", {{"scale", "y"}, {"field", "high"}}},
               {"fill", filling(element, context)},

@@ -369,6 +369,18 @@ TEST_F(ElementsTest, PiecesOfAPieAndBarsInPolarCoordinatesAreSectors) {
   EXPECT_EQ(scale("y")["range"], json({0, 240}));
 }
 
+TEST_F(ElementsTest, SectorsSideBySideDivideTheAngleOfTheirCategory) {
+  drawn(R"(<coordinateTransform method="polar"/>)" +
+            element("interval", R"(<x variable="v3"/><y variable="v2"/><styleBy variable="v4"/>)",
+                    "dodge"),
+        "A,B,Group\n1,9,a\n2,4,a\n1,5,b\n", {},
+        R"(<variable id="v4" sourceName="A" source="source0" categorical="true"/>)");
+  const json& update = spec_["marks"][0]["marks"][0]["encode"]["update"];
+  // Of the category's angle each of two has 0.4, and leaves 0.016 free at either side.
+  EXPECT_EQ(update["startAngle"]["offset"]["signal"], "bandwidth(\"x\")*(0.116+datum.slot*0.4)");
+  EXPECT_EQ(update["endAngle"]["offset"]["signal"], "bandwidth(\"x\")*(0.484+datum.slot*0.4)");
+}
+
 TEST_F(ElementsTest, WhatAnElementCannotDrawIsNoted) {
   constexpr std::string_view range =
       R"(<variable id="r" expression="v1 + v2" categorical="false"/>)";
