@@ -4,9 +4,11 @@
 
 #include "compute/Bins.h"
 #include "text/Expression.h"
+#include "text/PlainValue.h"
 #include "text/Show.h"
 #include "translate/Encode.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -17,6 +19,21 @@ const Category* categoryOf(const Dimension& dimension, std::string_view text) {
   for (const Category& category : dimension.categories)
     if (category.key == text || category.label == text) return &category;
   return nullptr;
+}
+
+/// Its name, or what the axis shows, and where it stands.
+Json lineTooltip(const Node& guide, std::string_view role, double value, const Category* category,
+                 const Context& context) {
+  const std::string_view name = guide.attribute("name");
+  const Format& format = context.along(role).format();
+  std::string text;
+  if (category != nullptr)
+    text = literal(category->label);
+  else if (std::holds_alternative<std::monostate>(format))
+    text = literal(roundedText(value, context.chart.folder->manifest.signs));
+  else
+    text = valueText(format, literal(value));
+  return tooltipOf({entry(name.empty() ? titleAlong(role, context) : std::string(name), text)});
 }
 
 } // namespace
@@ -48,10 +65,11 @@ void translateReferenceLine(const Node& guide, Context& context) {
         {"stroke", {{"signal", "ink"}}},
         {"strokeWidth", {{"value", theme::thinWidth}}},
         {"strokeDash", {{"value", theme::referenceDash()}}},
-        {"tooltip",
-         {{"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}}}};
+        {"tooltip", lineTooltip(guide, role, value, category, context)}};
     context.parts.lines.push_back(&guide);
-    context.parts.marks.push_back({{"type", "rule"}, {"encode", {{"update", std::move(update)}}}});
+    context.parts.marks.push_back({{"type", "rule"},
+                                   {"walk", {{"series", context.inPanel("lines")}}},
+                                   {"encode", {{"update", std::move(update)}}}});
   }
 }
 
