@@ -1,18 +1,8 @@
 import {View} from 'vega';
 import {expressions} from './expressions.js';
-import {Handler} from 'vega-tooltip';
 import {patternsOf} from './patterns.js';
 import {magnificationOf} from './pictureTexts.js';
-
-const escapes = {'&': '&amp;', '<': '&lt;', '>': '&gt;', '"': '&quot;', "'": '&#39;'};
-const escape = (text) => String(text).replace(/[&<>"']/g, (c) => escapes[c]);
-
-/** A tooltip, made from a mark's pairs of title and text, as a table. */
-function formatTooltip(tell) {
-  const row = ([title, text]) =>
-    `<tr><td class="key">${escape(title)}</td><td class="value">${escape(text)}</td></tr>`;
-  return `<table>${tell().map(row).join('')}</table>`;
-}
+import {tooltipHandler} from './tooltip.js';
 
 /** Shows the picture larger than Vega draws it, where its theme says so. */
 function magnify(container, spec) {
@@ -47,7 +37,7 @@ export async function drawChart(runtime, container, spec) {
   const isDarkNow = () => (followsReader ? dark.matches : own);
   const follow = (isDark) => {
     const theme = isDark ? 'dark' : 'light';
-    view.tooltip(new Handler({theme, formatTooltip}).call);
+    view.tooltip(tooltipHandler(container, theme));
     return view.signal('dark', isDark);
   };
   placePatterns(spec);

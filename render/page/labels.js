@@ -15,9 +15,8 @@ function label(mark, scope) {
   const tooltip = mark.encode?.update?.tooltip?.signal;
   if (tooltip) {
     const text = `join(${tooltip}, "; ")`;
-    const isOneMark = mark.type === 'line' || mark.type === 'area' || !mark.from;
-    const signal = isOneMark ? text : `${areFew(mark.from.data, scope)} ? ${text} : null`;
-    mark.encode.update.description = {signal};
+    const signal = mark.from ? `${areFew(mark.from.data, scope)} ? ${text} : null` : text;
+    mark.encode.update.description ??= {signal};
   }
   mark.marks?.forEach((inner) => label(inner, mark));
 }

@@ -8,7 +8,7 @@ import {prepareLabels} from './labels.js';
 import {addSaveButtons} from './save.js';
 import {sourcesOf} from './sources.js';
 import {addTables} from './table.js';
-import {addWalk} from './walk.js';
+import {addWalk, prepareWalk} from './walk.js';
 import {word} from './words.js';
 import {addZoom, prepareZoom} from './zoom.js';
 
@@ -21,12 +21,13 @@ async function drawPage() {
   const filters = prepareFilters(spec);
   const zoom = prepareZoom(spec);
   prepareLabels(spec);
+  const walks = prepareWalk(spec);
   await loadFonts();
   // Expressions are kept as trees: the page's policy allows no code from texts.
   const runtime = parse(spec, null, {ast: true});
   const view = await drawChart(runtime, element('chart'), spec);
 
-  const page = {spec, sources, runtime, view, pristine, filters, zoom, actions: element('actions')};
+  const page = {spec, sources, runtime, view, pristine, filters, zoom, walks, actions: element('actions')};
   const walk = addWalk(page, element('chart'), element('live'));
   page.changed = () => walk.renew();
   await addFilters(page, element('filters'));

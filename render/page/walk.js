@@ -1,65 +1,105 @@
 // Goes from mark to mark with the arrow keys and tells each one's values.
 
-import {textsOf} from './texts.js';
+import {textOf} from './tooltip.js';
 import {shownNumber, word} from './words.js';
 
-const isDecoration = /^(axis|legend|title)/;
+/** A curve is computed at very many places; so many of them are enough to follow it. */
+const stopsOfCurve = 25;
+
+/** Longer series are not compared with others. */
+const mostCompared = 500;
+
 const isRun = ({marktype}) => marktype === 'line' || marktype === 'area' || marktype === 'trail';
 
-/** The marks below a group with where their group lies. */
-function* marksBelow(group, x, y) {
+/**
+ * Names the marks that can be walked through, those that the Vega chart says how for;
+ * returns how for each name.
+ */
+export function prepareWalk(spec) {
+  const walks = new Map();
+  const prepare = (mark) => {
+    if (mark.walk && mark.aria !== false) {
+      mark.name ??= `walk_${walks.size}`;
+      walks.set(mark.name, mark.walk);
+    }
+    mark.marks?.forEach(prepare);
+  };
+  spec.marks?.forEach(prepare);
+  return walks;
+}
+
+/** The marks below a group that are walked through, with where their group lies. */
+function* marksBelow(group, walks, x, y) {
   for (const mark of group.items) {
-    if (isDecoration.test(mark.role ?? '')) continue;
-    if (mark.marktype !== 'group') yield {mark, x, y};
-    else for (const inner of mark.items) yield* marksBelow(inner, x + (inner.x ?? 0), y + (inner.y ?? 0));
+    if (walks.has(mark.name)) yield {mark, walk: walks.get(mark.name), x, y};
+    if (mark.marktype !== 'group') continue;
+    for (const inner of mark.items) yield* marksBelow(inner, walks, x + (inner.x ?? 0), y + (inner.y ?? 0));
   }
 }
 
-const middle = (items) => items.slice(items.length >> 1, (items.length >> 1) + 1);
+const evenly = (items, count) =>
+  Array.from({length: count}, (_, i) => items[Math.round((i * (items.length - 1)) / (count - 1))]);
 
-/** Lines whose points are no rows of the data are one place to stop at. */
-function stopsOf({mark, x, y}, fields) {
-  const hasRows = fields.some((field) => mark.items[0]?.datum && field in mark.items[0].datum);
-  const items = isRun(mark) && !hasRows ? middle(mark.items) : mark.items;
-  return items.filter(({defined}) => defined !== false).map((item) => {
+/** The items of a mark that are stops; what is told as a whole is one. */
+function itemsOf({items}, {whole, curve}) {
+  const shown = items.filter(({defined, tooltip}) => defined !== false && tooltip);
+  if (whole) return shown.slice(shown.length >> 1, (shown.length >> 1) + 1);
+  return curve && shown.length > stopsOfCurve ? evenly(shown, stopsOfCurve) : shown;
+}
+
+/** How far along the way of its series an item stands. */
+const ways = {
+  right: ({x}) => x,
+  down: ({y}) => y,
+  up: ({y}) => -y,
+};
+
+function stopsOf({mark, walk, x, y}) {
+  const isPoint = isRun(mark) || mark.marktype === 'symbol' || mark.marktype === 'path';
+  return itemsOf(mark, walk).map((item) => {
     const {x1, x2, y1, y2} = item.bounds;
-    const isPoint = isRun(mark) || mark.marktype === 'symbol';
-    return {
-      item,
-      isRow: isRun(mark) && hasRows,
-      x: x + (isPoint ? item.x : (x1 + x2) / 2),
-      y: y + (isPoint ? item.y : (y1 + y2) / 2),
-    };
+    const place = isPoint ? {x: item.x, y: item.y} : {x: (x1 + x2) / 2, y: (y1 + y2) / 2};
+    const along = walk.by ? item.datum[walk.by] : ways[walk.along]?.(place);
+    return {item, along, x: x + place.x, y: y + place.y};
   });
 }
 
-/** What can be gone through: a list of stops, from left to right, for each group. */
-function seriesOf({view, spec, filters}) {
-  const fields = spec.usermeta.columns.map(({field}) => field);
+/** One series for each group of a mark, and for each line. */
+function keyOf({mark, walk}, {item}, number) {
+  const group = (walk.groups ?? []).map((field) => item.datum?.[field]);
+  const isOwn = isRun(mark) && !walk.whole;
+  return JSON.stringify([walk.series ?? (isOwn ? number : mark.name), group]);
+}
+
+const inOrder = (stops) =>
+  stops[0].along === undefined ? stops : stops.sort((a, b) => a.along - b.along || a.y - b.y);
+
+/** Points on a line that say the same as it are gone through once. */
+function withoutTwins(series) {
+  const told = new Set();
+  return series.filter((stops) => {
+    if (stops.length > mostCompared) return true;
+    const texts = stops.map(({item}) => textOf(item.tooltip)).join('\n');
+    return !told.has(texts) && told.add(texts);
+  });
+}
+
+/** What can be gone through: a list of stops for each series, along the axis of places. */
+function seriesOf({view, spec, walks}) {
   const isSeen = ({x, y}) =>
     !spec.signals.some(({name}) => name === 'zoomed') || !view.signal('zoomed') ||
     (x >= 0 && x <= view.width() && y >= 0 && y <= view.height());
   const series = new Map();
   let number = 0;
-  for (const placed of marksBelow(view.scenegraph().root.items[0], 0, 0)) {
+  for (const placed of marksBelow(view.scenegraph().root.items[0], walks, 0, 0)) {
     number += 1;
-    for (const stop of stopsOf(placed, fields)) {
-      const group = filters.map(({field}) => stop.item.datum?.[field]);
-      const key = JSON.stringify([isRun(placed.mark) ? number : placed.mark.marktype, group]);
-      if (!isSeen(stop)) continue;
+    for (const stop of stopsOf(placed).filter(isSeen)) {
+      const key = keyOf(placed, stop, number);
       if (!series.has(key)) series.set(key, []);
       series.get(key).push(stop);
     }
   }
-  return [...series.values()].map((stops) => stops.sort((a, b) => a.x - b.x || a.y - b.y));
-}
-
-async function textOf({item, isRow}, {spec}) {
-  if (item.tooltip && !isRow)
-    return item.tooltip().map(([title, text]) => (title ? `${title}: ${text}` : text)).join('; ');
-  const columns = spec.usermeta.columns.filter(({field}) => item.datum && field in item.datum);
-  const [texts = []] = await textsOf([item.datum ?? {}], columns, spec.config);
-  return columns.map(({title}, i) => `${title}: ${texts[i]}`).join('; ');
+  return withoutTwins([...series.values()].map(inOrder));
 }
 
 class Walk {
@@ -83,7 +123,7 @@ class Walk {
     this.live.textContent = '';
   }
 
-  async go(step, toGroup) {
+  go(step, toGroup) {
     this.series ??= seriesOf(this.page);
     if (this.series.length === 0) return;
     const former = this.stop;
@@ -92,20 +132,17 @@ class Walk {
     const stops = this.series[this.group];
     this.index = toGroup && former ? nearest(stops, former) : this.index + step;
     this.index = Math.min(Math.max(this.index, 0), stops.length - 1);
-    await this.tell(stops);
+    this.tell(stops);
   }
 
   get stop() {
     return this.series?.[this.group]?.[this.index];
   }
 
-  async tell(stops) {
-    const {stop} = this;
-    this.mark(stop);
-    const text = await textOf(stop, this.page);
-    if (stop !== this.stop) return;
-    this.live.textContent =
-      word('Position^3', text, shownNumber(this.index + 1), shownNumber(stops.length));
+  tell(stops) {
+    this.mark(this.stop);
+    this.live.textContent = word('Position^3', textOf(this.stop.item.tooltip),
+      shownNumber(this.index + 1), shownNumber(stops.length));
   }
 
   /** Puts the ring where the mark is now. */
@@ -120,10 +157,10 @@ class Walk {
   }
 }
 
-function nearest(stops, {x}) {
+function nearest(stops, {along = 0}) {
   let best = 0;
   stops.forEach((stop, i) => {
-    if (Math.abs(stop.x - x) < Math.abs(stops[best].x - x)) best = i;
+    if (Math.abs(stop.along - along) < Math.abs(stops[best].along - along)) best = i;
   });
   return best;
 }

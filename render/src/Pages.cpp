@@ -41,7 +41,7 @@ Json specification(const ChartFolder& folder, const Words& words, Notes& notes) 
   for (const Excerpt& excerpt : excerpts)
     if (excerpt.isThinned())
       chart.drawnRows[excerpt.source].insert(excerpt.rows.begin(), excerpt.rows.end());
-  Parts parts = translate(chart, layout, notes);
+  Parts parts = translate(chart, layout, words, notes);
   return assemble(chart, layout, std::move(parts), excerpts, words, notes);
 }
 

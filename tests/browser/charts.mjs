@@ -2,7 +2,7 @@
 //
 // usage: node charts.mjs <build folder> <output folder>
 import {execFileSync} from 'node:child_process';
-import {copyFileSync, mkdirSync, rmSync, writeFileSync} from 'node:fs';
+import {copyFileSync, mkdirSync, readdirSync, rmSync, writeFileSync} from 'node:fs';
 import {join, resolve} from 'node:path';
 import {attack, folders, nameOfHostile, rowsOfBig} from './names.mjs';
 
@@ -32,10 +32,19 @@ function writeChart(name, manifest, xml, csv) {
   writeFileSync(join(folder, 'source0.csv'), csv);
 }
 
-function runProcedure(name, language) {
-  execFileSync(join(build, 'bin/procedures', name), [join(root, 'data', name)], {
-    env: {...process.env, CHARTXML_OUTPUT: output, CHARTXML_LANG: language}, stdio: 'inherit',
+function runProcedure(name, language, folder = output) {
+  execFileSync(join(build, 'bin/procedures', name), [], {
+    cwd: root, env: {...process.env, CHARTXML_OUTPUT: folder, CHARTXML_LANG: language}, stdio: 'inherit',
   });
+}
+
+/** The pages of every procedure, each in a folder of its own. */
+function runAll(folder) {
+  rmSync(folder, {recursive: true, force: true});
+  for (const name of readdirSync(join(build, 'bin/procedures'))) {
+    mkdirSync(join(folder, name), {recursive: true});
+    runProcedure(name, 'en', join(folder, name));
+  }
 }
 
 const columnsOfWide = 60;
@@ -99,3 +108,4 @@ const render = (folder, environment) => execFileSync(join(build, 'bin/chartxml')
   {stdio: 'inherit', env: {...process.env, ...environment}});
 render(output, {});
 render(join(output, folders.withoutFonts), {CHARTXML_FONTS: join(output, 'procedures')});
+runAll(join(output, '../procedures'));

@@ -7,6 +7,7 @@
 #include "translate/PlaceOrder.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -68,10 +69,14 @@ void addPolarArea(const Element& element, Context& context) {
       {"value", isStack(element.modifier) ? theme::areaOpacity : theme::areaOpacity / 2}};
   update["stroke"] = color(element, context);
   update["strokeWidth"] = {{"value", theme::thinWidth}};
+  update["tooltip"] = seriesTooltip(element, context);
   context.parts.data.push_back(std::move(data));
   addMark(element,
-          {{"type", "line"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}}, true,
-          context);
+          {{"type", "line"},
+           {"from", nullptr},
+           {"walk", {{"whole", true}}},
+           {"encode", {{"update", std::move(update)}}}},
+          true, context);
 }
 
 /// A band has no pattern, which would hide what it is about.
@@ -99,7 +104,8 @@ void translateArea(const Node& node, Context& context) {
   if (const std::string_view steps = interpolationOf(node); steps != "linear")
     update["interpolate"] = {{"value", steps}};
   fill(update, *element, context);
-  if (element->group != nullptr) update["tooltip"] = itemTooltip(*element, context);
+  update["tooltip"] = tooltip(*element, context);
+  update["description"] = seriesDescription(*element, context);
 
   Json data = elementData(*element, context);
   sortAlongPlace(*element, context, data);

@@ -10,6 +10,7 @@
 #include "translate/Space.h"
 #include "translate/StyleCycle.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 
 namespace render {
 namespace {
@@ -126,46 +127,6 @@ void addSlotOffset(Json& channel, const Element& element, double share, const Co
                                               literal(placeRole(element)), first, width)}};
 }
 
-std::string tooltipEntry(const Variable& variable, Parts& parts) {
-  if (variable.categorical) addLabelScale(variable, parts);
-  const std::string value = datum(variable.id);
-  const std::string text =
-      variable.categorical
-          ? fmt::format("scale({},{})", literal(scaleName("label", variable.id)), value)
-          : textOf(variable, value);
-  return fmt::format("[{},{}]", literal(variable.title), text);
-}
-
-Json itemTooltip(const Element& element, Context& context) {
-  std::string entries;
-  const auto add = [&entries](const std::string& entry) {
-    entries += entries.empty() ? entry : "," + entry;
-  };
-  const auto number = [&](const Variable* variable, std::string_view title,
-                          std::string_view field) {
-    const std::string value = fmt::format("datum.{}", field);
-    add(fmt::format("[{},{}]", literal(title),
-                    variable != nullptr ? textOf(*variable, value) : valueText(Format(), value)));
-  };
-  const Variable* place = element.place();
-  if (element.group != nullptr && element.group != place)
-    add(tooltipEntry(*element.group, context.parts));
-  if (place != nullptr && place->categorical) add(tooltipEntry(*place, context.parts));
-  if (place != nullptr && !place->categorical) {
-    if (element.method == Method::histogram) {
-      number(place, place->title, "from");
-      number(place, "", "to");
-    } else {
-      number(place, place->title, "place");
-    }
-  }
-  const Variable* measure = element.measure();
-  const std::string title = measure != nullptr ? measure->title : "n";
-  if (measure != nullptr && element.isComposed() && element.hasBase) number(measure, title, "low");
-  number(measure, title, "value");
-  return {{"signal", fmt::format("[{}]", entries)}};
-}
-
 bool isClipped(const Chart& chart) { return chart.plot->attribute("clip") == "true"; }
 
 void addOnPaper(Json text, Json& marks) {
@@ -181,6 +142,11 @@ void addOnPaper(Json text, Json& marks) {
 
 void addMark(const Element& element, Json mark, bool isSplit, Context& context) {
   const std::string data = context.inPanel(element.node->id());
+  if (mark["encode"]["update"].contains("tooltip")) {
+    Json walk = walkOf(element, context);
+    walk.update(mark.value("walk", Json::object()));
+    mark["walk"] = std::move(walk);
+  }
   const std::vector<std::string> fields =
       isSplit ? splitFields(element) : std::vector<std::string>();
   if (fields.empty()) {

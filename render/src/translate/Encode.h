@@ -56,13 +56,6 @@ std::size_t slotCount(const Element& element, const Context& context);
 /// as the offset of `channel`. `share` is the part of the band that slots fill.
 void addSlotOffset(Json& channel, const Element& element, double share, const Context& context);
 
-/// An expression for the tooltip: a pair of the variable's title and the text of
-/// its value. Adds the scale that labels categories.
-std::string tooltipEntry(const Variable& variable, Parts& parts);
-
-/// The tooltip of an item: its categories, place and value.
-Json itemTooltip(const Element& element, Context& context);
-
 /// Whether what reaches over the edge of the plot is cut off.
 bool isClipped(const Chart& chart);
 

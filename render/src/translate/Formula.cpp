@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "text/Expression.h"
+#include "text/PlainValue.h"
 
 namespace render {
 namespace {
@@ -164,6 +165,27 @@ private:
 
 std::string translateFormula(std::string_view formula, std::string_view x) {
   return Parser(formula, x).parse();
+}
+
+std::string roundedFormula(std::string_view formula, const NumberSigns& signs) {
+  std::string text;
+  for (std::size_t at = 0; at < formula.size();) {
+    const char* const begin = formula.data() + at;
+    double number = 0;
+    const bool isDigit = std::isdigit(static_cast<unsigned char>(*begin)) != 0 || *begin == '.';
+    const auto [end, error] = isDigit
+                                  ? std::from_chars(begin, formula.data() + formula.size(), number)
+                                  : std::from_chars_result{begin, std::errc::invalid_argument};
+    if (error == std::errc())
+      text += roundedText(number, signs);
+    else
+      text += *begin;
+    at += error == std::errc() ? static_cast<std::size_t>(end - begin) : 1;
+  }
+  constexpr std::string_view plusMinus = "+ -";
+  for (std::size_t at = text.find(plusMinus); at != text.npos; at = text.find(plusMinus, at + 1))
+    text.replace(at, plusMinus.size(), "- ");
+  return text;
 }
 
 } // namespace render

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "read/ChartFolder.h"
+
 namespace render {
 
 /// A formula that cannot be read: what was met, and at which character.
@@ -24,5 +26,9 @@ public:
 /// quoted date and time, which counts seconds since 14 October 1582, as date
 /// values do. Throws FormulaError.
 std::string translateFormula(std::string_view formula, std::string_view x);
+
+/// The formula as people read it: its numbers in four significant digits, with a decimal
+/// sign of the language, and differences in place of sums with what is negative.
+std::string roundedFormula(std::string_view formula, const NumberSigns& signs);
 
 } // namespace render

@@ -10,6 +10,7 @@
 #include "translate/Formula.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -57,6 +58,27 @@ std::size_t indexOf(const Node& guide, std::vector<const Node*>& functions) {
   return index;
 }
 
+std::string nameOf(const Node& guide, const Context& context) {
+  const std::string_view name = guide.attribute("name");
+  if (!name.empty()) return std::string(name);
+  const std::string title = titleAlong("y", context);
+  return title.empty() ? "y" : title;
+}
+
+/// Its place, its value there, and the formula, unless that is one of seconds.
+Json functionTooltip(const Node& guide, std::string_view formula, const Context& context) {
+  const Format& x = context.along("x").format();
+  const bool isDate = std::holds_alternative<DateFormat>(x);
+  const std::string title = titleAlong("x", context);
+  std::vector<std::string> entries{
+      entry(title.empty() ? "x" : title, valueText(isDate ? x : Format(), "datum.x")),
+      entry(nameOf(guide, context), valueAlong("y", nullptr, "datum.y", context))};
+  if (formula.find("datetodouble") == formula.npos)
+    entries.push_back(
+        entry("", literal(roundedFormula(formula, context.chart.folder->manifest.signs))));
+  return tooltipOf(entries);
+}
+
 } // namespace
 
 /// A function of x as a line across the plot.
@@ -86,11 +108,11 @@ void translateFunction(const Node& guide, Context& context) {
               {"stroke", {{"signal", "ink"}}},
               {"strokeWidth", {{"value", theme::lineWidth}}},
               {"strokeDash", {{"value", theme::functionDash(index)}}}};
-  if (!guide.attribute("name").empty())
-    update["tooltip"] = {
-        {"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}};
+  update["tooltip"] = functionTooltip(guide, text, context);
+  update["description"] = {{"value", nameOf(guide, context)}};
   context.parts.marks.push_back({{"type", "line"},
                                  {"from", {{"data", context.inPanel(guide.id())}}},
+                                 {"walk", {{"along", walkAlong("x", context)}, {"curve", true}}},
                                  {"clip", true},
                                  {"encode", {{"update", std::move(update)}}}});
 }

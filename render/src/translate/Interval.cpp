@@ -11,6 +11,7 @@
 #include "translate/LabelPlace.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 
 namespace render {
 namespace {
@@ -51,7 +52,7 @@ Json sliceMark(const Element& element, Context& context) {
               {"fill", filling(element, context)},
               {"stroke", {{"signal", "paper"}}},
               {"strokeWidth", {{"value", theme::thinWidth}}},
-              {"tooltip", itemTooltip(element, context)}};
+              {"tooltip", tooltip(element, context)}};
   addOutline(update, element, context);
   return {{"type", "arc"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}};
 }
@@ -87,7 +88,7 @@ Json sectorMark(const Element& element, Context& context) {
               {"outerRadius", {{"scale", "y"}, {"field", "high"}}},
               {"fill", filling(element, context)},
               {"fillOpacity", {{"value", theme::barOpacity}}},
-              {"tooltip", itemTooltip(element, context)}};
+              {"tooltip", tooltip(element, context)}};
   addOutline(update, element, context);
   return {{"type", "arc"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}};
 }
@@ -104,7 +105,7 @@ Json barMark(const Element& element, Context& context) {
     update["strokeWidth"] = {{"value", 0.5}};
   }
   addOutline(update, element, context);
-  update["tooltip"] = itemTooltip(element, context);
+  update["tooltip"] = tooltip(element, context);
   return {{"type", "rect"},
           {"from", nullptr},
           {"clip", isClipped(context.chart)},
@@ -153,7 +154,7 @@ Json thinMark(const Element& element, Context& context) {
   const bool isOfGroup = element.group != nullptr && lookOf(*element.node) == Look::thin;
   update["stroke"] = isOfGroup ? color(element, context) : Json{{"signal", "ink"}};
   update["strokeWidth"] = {{"value", theme::thinWidth}};
-  update["tooltip"] = itemTooltip(element, context);
+  update["tooltip"] = tooltip(element, context);
   return {{"type", "rule"},
           {"from", nullptr},
           {"clip", isClipped(context.chart)},
@@ -173,6 +174,7 @@ Json capMark(const Element& element, const char* end, Context& context) {
   update["size"] = {{"value", theme::capLength * theme::capLength}};
   update["shape"] = {{"value", liesAcross ? "M-1,0H1" : "M0,-1V1"}};
   mark["type"] = "symbol";
+  mark["aria"] = false; // the line between them tells both ends
   return mark;
 }
 

@@ -7,6 +7,7 @@
 #include "translate/Style.h"
 #include "translate/StyleCycle.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -35,8 +36,6 @@ Json lineMark(const Element& element, Context& context) {
       update["strokeDash"] = {{"scale", scaleName("dash", dashed.id)},
                               {"field", fieldPath(dashed.id)}};
     }
-    update["tooltip"] = {
-        {"signal", fmt::format("[{}]", tooltipEntry(*element.group, context.parts))}};
   } else if (Json dash = lineDash(element, context.chart); !dash.empty()) {
     update["strokeDash"] = {{"value", std::move(dash)}};
   }
@@ -46,10 +45,14 @@ Json lineMark(const Element& element, Context& context) {
     update.erase("strokeDash");
     if (look->isDashed) update["strokeDash"] = {{"value", theme::functionDash(0)}};
   }
-  return {{"type", "line"},
-          {"from", nullptr},
-          {"clip", isClipped(context.chart)},
-          {"encode", {{"update", std::move(update)}}}};
+  update["tooltip"] = tooltip(element, context);
+  update["description"] = seriesDescription(element, context);
+  Json mark{{"type", "line"},
+            {"from", nullptr},
+            {"clip", isClipped(context.chart)},
+            {"encode", {{"update", std::move(update)}}}};
+  if (element.method == Method::distribution) mark["walk"]["curve"] = true;
+  return mark;
 }
 
 } // namespace

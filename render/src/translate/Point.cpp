@@ -13,6 +13,7 @@
 #include "translate/StyleCycle.h"
 #include "translate/SymbolSize.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -20,20 +21,6 @@ namespace {
 
 constexpr double rimShare = 1.75; ///< of its area, for the rim that a point takes from it
 constexpr double largestDot = 18; ///< of a stack, in pixels
-
-std::string pointTooltip(const Element& element, Context& context) {
-  std::string tooltip;
-  for (const Variable* variable : {element.x, element.y, element.z}) {
-    if (variable == nullptr) continue;
-    if (!tooltip.empty()) tooltip += ',';
-    tooltip += tooltipEntry(*variable, context.parts);
-  }
-  if (element.group == nullptr) return tooltip;
-  addGroupScales(*element.group, context.parts);
-  std::string groups = tooltipEntry(*element.group, context.parts) + ",";
-  if (element.shape != nullptr) groups += tooltipEntry(*element.shape, context.parts) + ",";
-  return groups + tooltip;
-}
 
 /// Symbols whose areas go with a variable, or with the counts of cells, from `low`.
 Json sizeScale(const std::string& name, double low, double high, double largest) {
@@ -117,7 +104,6 @@ void translatePoint(const Node& node, Context& context) {
   if (style != nullptr && isEmptyStyle(*style, context.chart))
     return addVariableName(*element->x, context);
 
-  const std::string tooltip = element->isPlain() ? pointTooltip(*element, context) : "";
   Json update = positions(*element, context);
   if (element->modifier == Modifier::dodge)
     addSlotOffset(update[channelsOf(placeRole(*element), context.chart).start], *element,
@@ -142,8 +128,7 @@ void translatePoint(const Node& node, Context& context) {
     update["shape"] = {{"value", theme::crossSymbol}};
     update["stroke"] = element->group ? color(*element, context) : Json{{"signal", "ink"}};
   }
-  update["tooltip"] = tooltip.empty() ? itemTooltip(*element, context)
-                                      : Json{{"signal", fmt::format("[{}]", tooltip)}};
+  update["tooltip"] = tooltip(*element, context);
 
   context.parts.data.push_back(elementData(*element, context));
   addMark(*element,

@@ -1,6 +1,7 @@
 #include "translate/Encode.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -17,11 +18,13 @@ void translatePolygon(const Node& node, Context& context) {
   update["fill"] =
       isHollow(node, context.chart) ? Json{{"value", "transparent"}} : color(*element, context);
   update["fillOpacity"] = {{"value", theme::fillOpacity}};
+  update["tooltip"] = seriesTooltip(*element, context);
   context.parts.data.push_back(elementData(*element, context));
   addMark(*element,
           {{"type", "line"},
            {"from", nullptr},
            {"clip", isClipped(context.chart)},
+           {"walk", {{"whole", true}}},
            {"encode", {{"update", std::move(update)}}}},
           true, context);
 }

@@ -4,11 +4,13 @@
 
 #include "compute/Bins.h"
 #include "text/Expression.h"
+#include "text/PlainValue.h"
 #include "text/Show.h"
 #include "translate/Encode.h"
 #include "translate/ItemPlace.h"
 #include "translate/ReferenceLook.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 #include "translate/Translator.h"
 
 namespace render {
@@ -28,6 +30,21 @@ Area areaOf(double value, std::string_view role, const Context& context) {
   if (isAcross(role, context.chart))
     return {.left = place - 1, .right = place + 1, .bottom = layout.panelHeight};
   return {.top = place - 1, .right = layout.panelWidth, .bottom = place + 1};
+}
+
+/// Its name, or what the axis shows, and where it stands.
+Json lineTooltip(const Node& guide, std::string_view role, double value, const Category* category,
+                 const Context& context) {
+  const std::string_view name = guide.attribute("name");
+  const Format& format = context.along(role).format();
+  std::string text;
+  if (category != nullptr)
+    text = literal(category->label);
+  else if (std::holds_alternative<std::monostate>(format))
+    text = literal(roundedText(value, context.chart.folder->manifest.signs));
+  else
+    text = valueText(format, literal(value));
+  return tooltipOf({entry(name.empty() ? titleAlong(role, context) : std::string(name), text)});
 }
 
 } // namespace
@@ -58,11 +75,12 @@ void translateReferenceLine(const Node& guide, Context& context) {
         {"stroke", {{"signal", "ink"}}},
         {"strokeWidth", {{"value", theme::thinWidth}}},
         {"strokeDash", {{"value", dashOf(guide, context.chart)}}},
-        {"tooltip",
-         {{"signal", fmt::format("[[{},{}]]", literal(guide.attribute("name")), literal(text))}}}};
+        {"tooltip", lineTooltip(guide, role, value, category, context)}};
     context.parts.lines.push_back(&guide);
     if (!dimension.categorical) context.parts.linesAcross.push_back(areaOf(value, role, context));
-    context.parts.marks.push_back({{"type", "rule"}, {"encode", {{"update", std::move(update)}}}});
+    context.parts.marks.push_back({{"type", "rule"},
+                                   {"walk", {{"series", context.inPanel("lines")}}},
+                                   {"encode", {{"update", std::move(update)}}}});
   }
 }
 

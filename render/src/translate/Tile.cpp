@@ -7,6 +7,7 @@
 #include "translate/Filling.h"
 #include "translate/Groups.h"
 #include "translate/Theme.h"
+#include "translate/Tooltip.h"
 
 namespace render {
 namespace {
@@ -31,7 +32,7 @@ void addHexagons(const Element& element, Context& context) {
   update["scaleX"] = {{"value", isUpright ? length("x", reach.x) : length("y", reach.y)}};
   update["scaleY"] = {{"value", isUpright ? length("y", reach.y) : length("x", reach.x)}};
   update["fill"] = {{"scale", addCountScale(element, context)}, {"field", "value"}};
-  update["tooltip"] = itemTooltip(element, context);
+  update["tooltip"] = tooltip(element, context);
   addMark(element,
           {{"type", "path"},
            {"from", nullptr},
@@ -79,7 +80,7 @@ void translateTile(const Node& node, Context& context) {
   }
   update["fill"] = filling(*element, context);
   addOutline(update, *element, context);
-  update["tooltip"] = itemTooltip(*element, context);
+  update["tooltip"] = tooltip(*element, context);
   context.parts.data.push_back(elementData(*element, context));
   addMark(*element,
           {{"type", "rect"}, {"from", nullptr}, {"encode", {{"update", std::move(update)}}}}, false,

@@ -98,8 +98,8 @@ std::string Context::inPanel(std::string_view name) const {
   return fmt::format("{}_{}", name, panelIndex + 1);
 }
 
-Parts translate(const Chart& chart, const Layout& layout, Notes& notes) {
-  Context context{.chart = chart, .layout = layout, .notes = notes, .parts = {}};
+Parts translate(const Chart& chart, const Layout& layout, const Words& words, Notes& notes) {
+  Context context{.chart = chart, .layout = layout, .words = words, .notes = notes, .parts = {}};
   for (const std::string_view role : {"x", "y"})
     context.parts.positionScales.push_back(positionScale(role, context));
   noteValuesBeyond(chart, notes);

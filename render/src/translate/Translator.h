@@ -8,6 +8,7 @@
 #include "compute/Crowd.h"
 #include "resolve/Chart.h"
 #include "text/Json.h"
+#include "text/Words.h"
 #include "translate/Layout.h"
 
 namespace render {
@@ -53,6 +54,7 @@ struct Parts {
 struct Context {
   const Chart& chart;
   const Layout& layout;
+  const Words& words;
   Notes& notes;
   Parts parts;
   std::size_t panelIndex = 0; ///< of the panel that is drawn
@@ -88,6 +90,6 @@ void translateTile(const Node& node, Context& context);
 /// Walks the document in its order and calls each node's translator, below the plot once
 /// for each panel. A node or an attribute that no rule knows is noted, and nothing below
 /// such a node is drawn.
-Parts translate(const Chart& chart, const Layout& layout, Notes& notes);
+Parts translate(const Chart& chart, const Layout& layout, const Words& words, Notes& notes);
 
 } // namespace render

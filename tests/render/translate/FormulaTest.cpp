@@ -67,4 +67,14 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{std::string(100000, '('),
                             "expected fewer nested parts at character 101"}));
 
+TEST(RoundedFormulaTest, HasNumbersThatPeopleRead) {
+  const std::pair<const char*, const char*> texts[] = {
+      {"10.787245614035088 * x + -38.10298245614034", "10,79 * x - 38,1"},
+      {"1 / ( 0.004 + 0.31970004415641945 * 0.7451835473921872**x )",
+       "1 / ( 0,004 + 0,3197 * 0,7452**x )"},
+      {"1.5e-07 * x*x + 12345.67", "1.5e-07 * x*x + 12.346"}};
+  for (const auto& [formula, rounded] : texts)
+    EXPECT_EQ(render::roundedFormula(formula, {.decimal = ",", .grouping = "."}), rounded);
+}
+
 } // namespace

@@ -54,7 +54,8 @@ TEST_F(TranslateTest, APointElementBecomesSymbolsOfItsCompleteRows) {
       fmt::format(R"([["Group",scale("label_v3",datum["v3"])],["A label",{}],["b",{}]])",
                   shortest(R"(datum["v1"])"), shortest(R"(datum["v2"])"));
   json marks = json::parse(R"json([
-    {"type": "symbol", "from": {"data": "points"}, "clip": false, "encode": {"update": {
+    {"type": "symbol", "from": {"data": "points"}, "clip": false,
+     "walk": {"along": "right", "groups": ["v3"]}, "encode": {"update": {
       "x": {"scale": "x", "field": "v1"}, "y": {"scale": "y", "field": "v2"},
       "size": {"value": 56}, "shape": {"scale": "symbol_v3", "field": "v3"},
       "stroke": {"scale": "color_v3", "field": "v3"}, "strokeWidth": {"value": 1.5},
