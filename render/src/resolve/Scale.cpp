@@ -178,11 +178,9 @@ private:
   void holdBeginning(const Element& element, const Item& item, Extent& extent) const {
     for (const double value : element.place()->numbers)
       if (takes(value, dimension_)) extent.hold(value);
-    notes_.add(
-        fmt::format("{}: {} reaches from {:.6g} to {:.6g} along {}, and has no logarithm where "
-                    "it begins: its bar begins where the scale does",
-                    element.node->name(), element.method == Method::histogram ? "a bin" : "a bar",
-                    item.from, item.to, dimension_.role));
+    const auto text = [](double end) { return fmt::format("{:.6g}", end); };
+    notes_.add("No logarithm^4",
+               {element.node->name(), text(item.from), text(item.to), dimension_.role});
   }
 
   /// A range that numbers can still divide, also when all values are one.

@@ -132,8 +132,8 @@ void leaveOut(Json& axis, const Dimension& dimension, std::size_t every, Notes& 
   for (const Category& category : dimension.categories)
     if (!isBlank(category) && labelled++ % every == 0) axis["values"].push_back(category.key);
   if (every > 1)
-    notes.add(fmt::format("{}: there is room for the labels of {} of {} categories, one in {}",
-                          dimension.role, axis["values"].size(), labelled, every));
+    notes.add("Room for labels^4", {dimension.role, fmt::to_string(axis["values"].size()),
+                                    fmt::to_string(labelled), fmt::to_string(every)});
 }
 
 /// Vega puts the first line beside the tick, not the middle of the lines.

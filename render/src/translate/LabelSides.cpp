@@ -299,11 +299,9 @@ void noteLabelsLeftOut(Context& context) {
   for (const Element& element : context.chart.elements) {
     const auto found = context.parts.labelsLeftOut.find(element.node);
     if (found != context.parts.labelsLeftOut.end())
-      context.notes.add(fmt::format("{}: labels left out where they would overlap: {}",
-                                    element.node->name(), found->second));
+      context.notes.add("Labels left out^2", {element.node->name(), fmt::to_string(found->second)});
     else if (!element.labels.empty() && !mayCollide(element) && !areArranged(element, context))
-      context.notes.add(
-          fmt::format("{}: labels that overlap are drawn all the same", element.node->name()));
+      context.notes.add("Overlapping labels^1", {element.node->name()});
   }
 }
 

@@ -170,8 +170,8 @@ TEST_F(ScalesTest, ABinWithoutALogarithmBeginsWhereTheScaleDoes) {
   for (const json& row : spec_["data"][1]["values"])
     bins.push_back({row["from"], row["to"], row["high"]});
   EXPECT_EQ(bins, json::parse("[[0,50,3],[50,100,1]]"));
-  EXPECT_EQ(notes(), json({"e: a bin reaches from 0 to 50 along x, and has no logarithm where it "
-                           "begins: its bar begins where the scale does",
+  EXPECT_EQ(notes(), json({"e: a bar from 0 to 50 along x has no logarithm where it begins, and "
+                           "begins where the scale does",
                            "data/dimension/scale: marks along x at zero or less, where there is "
                            "no logarithm: 1, which are left out; make the scale safe, linear or a "
                            "power, or draw what is "
