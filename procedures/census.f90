@@ -10,8 +10,10 @@ program census
   use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
+  use drawings, only: drawing, new_drawing
   use korva
   use least_squares
+  use number_cases
   implicit none
 
   character(*), parameter :: procedure_name = 'census'
@@ -45,8 +47,7 @@ program census
   end type
 
   !> The chart and the nodes that several steps refer to.
-  type :: drawing
-    integer :: chart, source, graph, data
+  type, extends(drawing) :: curves_plot
     integer :: x, y    !< variables
     integer :: points  !< an element
     integer, allocatable :: curves(:)
@@ -84,17 +85,10 @@ contains
   subroutine load_cases(observations, cases)
     type(data_set), intent(in) :: observations
     type(sample), intent(out) :: cases
-    real(dp) :: cells(3)
-    integer :: row
+    real(dp), allocatable :: rows(:, :)
 
-    allocate (cases%number(0), cases%day(0), cases%population(0))
-    do row = 1, observations%row_count()
-      call require(observations%read_row(row, cells), 'cannot read the data set')
-      if (any(cells <= missing_value())) cycle
-      cases%number = [cases%number, cells(number)]
-      cases%day = [cases%day, cells(day)]
-      cases%population = [cases%population, cells(population)]
-    end do
+    call read_numbers(observations, rows)
+    cases = sample(number=rows(:, number), day=rows(:, day), population=rows(:, population))
     call require(all(cases%number > 0) .and. all(cases%day > 0), &
       'numbers of censuses and days have to be after zero')
     call require(all(cases%population > 0) .and. all(cases%population < population_limit), &
@@ -189,14 +183,13 @@ contains
     type(sample), intent(in) :: cases
     type(view), intent(in) :: shown
     type(curve) :: curves(size(shown%models))
-    type(drawing) :: plot
+    type(curves_plot) :: plot
     real(dp) :: x(size(cases%number))
     integer :: i
 
     x = merge(cases%day, cases%number, shown%over_days)
     curves = [(fit(shown%models(i), x, cases%population), i=1, size(curves))]
-    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
-      source=plot%source, graph=plot%graph, data=plot%data)
+    plot%drawing = new_drawing(observations, procedure_name)
     call add_variable(plot%chart, plot%source, merge(day, number, shown%over_days), handle=plot%x)
     call add_variable(plot%chart, plot%source, population, handle=plot%y)
     call load(plot%chart, plot%x, x)
@@ -208,7 +201,7 @@ contains
   end subroutine
 
   subroutine draw_axes(plot, shown)
-    type(drawing), intent(in) :: plot
+    type(curves_plot), intent(in) :: plot
     type(view), intent(in) :: shown
     integer :: x_style, x_axis, y_style, y_axis
 
@@ -221,7 +214,7 @@ contains
 
   !> The curves go by the names that the library gives their models.
   subroutine draw_points_and_curves(plot, shown, curves)
-    type(drawing), intent(inout) :: plot
+    type(curves_plot), intent(inout) :: plot
     type(view), intent(in) :: shown
     type(curve), intent(inout) :: curves(:)
     character(6) :: key
@@ -239,7 +232,7 @@ contains
   end subroutine
 
   function curve_node(plot, line, style, over_days) result(node)
-    type(drawing), intent(in) :: plot
+    type(curves_plot), intent(in) :: plot
     type(curve), intent(in) :: line
     integer, intent(in) :: style
     logical, intent(in) :: over_days
@@ -275,7 +268,7 @@ contains
 
   !> One for the points and, below it, one for each curve.
   subroutine draw_legends(plot)
-    type(drawing), intent(in) :: plot
+    type(curves_plot), intent(in) :: plot
     integer :: i
 
     call add_legend_frame(plot%chart, plot%graph, plot%points, 1)
@@ -287,7 +280,7 @@ contains
   ! Texts
 
   subroutine write_texts_and_send(plot, shown, curves)
-    type(drawing), intent(in) :: plot
+    type(curves_plot), intent(in) :: plot
     type(view), intent(in) :: shown
     type(curve), intent(in) :: curves(:)
     character(*), parameter :: commas = '[%1:, ^1:]1'

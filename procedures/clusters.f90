@@ -13,6 +13,7 @@ program clusters
   use chartxml
   use drawings, only: computed, draw_axes, drawing, new_drawing
   use korva
+  use named_cases
   use principal_axes, only: standardized
   implicit none
 
@@ -64,23 +65,11 @@ contains
   subroutine load_cases(observations, cases)
     type(data_set), intent(in) :: observations
     type(sample), intent(out) :: cases
-    real(dp) :: cells(name_cells + measures)
-    integer :: row, kept
 
-    call require(observations%cell_count() == size(cells), 'a column is of another width')
-    allocate (cases%state(observations%row_count()))
-    allocate (cases%values(observations%row_count(), measures))
-    kept = 0
-    do row = 1, observations%row_count()
-      call require(observations%read_row(row, cells), 'cannot read the data set')
-      if (any(cells(name_cells + 1:) <= missing_value())) cycle
-      kept = kept + 1
-      cases%state(kept) = text_of_cells(cells(:name_cells))
-      cases%values(kept, :) = cells(name_cells + 1:)
-    end do
-    call require(kept > shown, 'the data set has too few complete cases')
-    cases%state = cases%state(:kept)
-    cases%values = cases%values(:kept, :)
+    call require(observations%cell_count() == name_cells + measures, &
+      'a column is of another width')
+    call read_named(observations, name_cells, cases%state, cases%values)
+    call require(size(cases%state) > shown, 'the data set has too few complete cases')
   end subroutine
 
   ! Estimation

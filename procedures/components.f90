@@ -10,6 +10,7 @@ program components
   use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
+  use drawings, only: drawing, new_drawing
   use grouped_cases
   use korva
   use principal_axes
@@ -28,8 +29,7 @@ program components
   end type
 
   !> The chart and the nodes that several steps refer to.
-  type :: drawing
-    integer :: chart, source, graph, data
+  type, extends(drawing) :: penguin_plot
     integer :: species  !< a variable
   end type
 
@@ -42,15 +42,15 @@ contains
     type(data_set) :: observations
     type(sample) :: cases
     type(analysis) :: found
-    type(drawing) :: first, second, third
+    type(penguin_plot) :: first, second, third
 
     ! All charts come first: as long as one is open, the library keeps the groups' names.
     call open_observations(observations, procedure_name, otherwise='data/penguins', &
       names=[character(17) :: 'species', 'bill_length_mm', 'bill_depth_mm', 'flipper_length_mm', &
       'body_mass_g'], numbers=2)
-    first = new_drawing(observations)
-    second = new_drawing(observations)
-    third = new_drawing(observations)
+    first = new_plot(observations)
+    second = new_plot(observations)
+    third = new_plot(observations)
     call load_sample(observations, measures, cases)
     found = components_of(cases%values)
 
@@ -77,7 +77,7 @@ contains
   ! The charts
 
   subroutine draw_measures(plot, cases)
-    type(drawing), intent(inout) :: plot
+    type(penguin_plot), intent(inout) :: plot
     type(sample), intent(in) :: cases
     integer :: variables(measures), points, m
 
@@ -95,7 +95,7 @@ contains
 
   !> Scores crowd less than measures do: they get less room around them.
   subroutine draw_scores(plot, cases, found)
-    type(drawing), intent(inout) :: plot
+    type(penguin_plot), intent(inout) :: plot
     type(sample), intent(in) :: cases
     type(analysis), intent(in) :: found
     character(*), parameter :: margin = '8%'
@@ -115,7 +115,7 @@ contains
 
   !> The first two components on scales from -m to m, with lines at 0.
   subroutine draw_plane(plot, cases, found)
-    type(drawing), intent(inout) :: plot
+    type(penguin_plot), intent(inout) :: plot
     type(sample), intent(in) :: cases
     type(analysis), intent(in) :: found
     integer :: variables(2), points, domain, zero, x_style, x_axis, y_style, y_axis
@@ -149,17 +149,16 @@ contains
 
   ! What the charts have in common
 
-  type(drawing) function new_drawing(observations) result(plot)
+  type(penguin_plot) function new_plot(observations) result(plot)
     type(data_set), intent(in) :: observations
 
-    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
-      source=plot%source, graph=plot%graph, data=plot%data)
+    plot%drawing = new_drawing(observations, procedure_name)
     call add_variable(plot%chart, plot%source, species, categorical=.true., handle=plot%species)
     call add_relabels(plot%chart, plot%species, species)
   end function
 
   function score_variables(plot, count) result(variables)
-    type(drawing), intent(in) :: plot
+    type(penguin_plot), intent(in) :: plot
     integer, intent(in) :: count
     integer :: variables(count), i
 
@@ -170,7 +169,7 @@ contains
   end function
 
   subroutine load_columns(plot, cases, variables, numbers)
-    type(drawing), intent(in) :: plot
+    type(penguin_plot), intent(in) :: plot
     type(sample), intent(in) :: cases
     integer, intent(in) :: variables(:)
     real(dp), intent(in) :: numbers(:, :)
@@ -180,7 +179,7 @@ contains
   end subroutine
 
   subroutine color_by_species(plot, points)
-    type(drawing), intent(in) :: plot
+    type(penguin_plot), intent(in) :: plot
     integer, intent(in) :: points
     integer :: colors, legend, style
 

@@ -57,7 +57,7 @@ contains
   !> A cell for each color and clarity that occur together.
   subroutine draw_table
     type(drawing) :: plot
-    integer :: colors, clarities, prices, cells, legend, style
+    integer :: colors, clarities, prices, cells
     integer :: c, k
     logical :: here(size(cases, 1))
 
@@ -82,9 +82,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_tile, colors, clarities, &
       string_scatter, cells)
     call add_color(plot%chart, cells, prices)
-    call add_legend_frame(plot%chart, plot%graph, cells, 1, aesthetic=string_color, &
-      style=style, legend=legend)
-    call add_label(plot%chart, legend, style, translation('Mean price (dollars)'))
+    call draw_legend(plot, cells, translation('Mean price (dollars)'), aesthetic=string_color)
     call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, &
       translation('About prices'))
     call end_chart(plot%chart)

@@ -95,7 +95,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_area, flipper, number, &
       string_stackedarea, areas)
     call group(plot, areas, species, string_stack)
-    call draw_legend(plot, areas, species_number)
+    call draw_legend(plot, areas, label_of_variable(species_number))
     call end_chart(plot%chart)
   end subroutine
 
@@ -120,7 +120,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_schema, species, mass, string_boxplot, &
       boxes)
     call group(plot, boxes, sex, string_dodge)
-    call draw_legend(plot, boxes, sex_number)
+    call draw_legend(plot, boxes, label_of_variable(sex_number))
     allocate (lines(0))
     do i = 1, size(cases%species%levels)
       do k = 1, size(cases%sex%levels)

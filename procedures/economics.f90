@@ -11,8 +11,10 @@ program economics
   use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
+  use drawings, only: draw_legend, drawing, new_drawing
   use korva
   use least_squares
+  use number_cases
   implicit none
 
   character(*), parameter :: procedure_name = 'economics'
@@ -43,8 +45,7 @@ program economics
   end type
 
   !> The chart and the nodes that several steps refer to.
-  type :: drawing
-    integer :: chart, source, graph, data
+  type, extends(drawing) :: trend_plot
     integer :: decade, date, value, trend  !< variables
     integer :: points                      !< the element that the legend explains
   end type
@@ -86,23 +87,22 @@ contains
   subroutine load_cases(observations, cases)
     type(data_set), intent(in) :: observations
     type(sample), intent(out) :: cases
-    real(dp) :: cells(5)
-    integer :: row
+    real(dp), allocatable :: rows(:, :)
+    integer :: i
 
-    allocate (cases%date(0), cases%spending(0), cases%savings(0), cases%group(0))
-    allocate (cases%decades(0))
-    do row = 1, observations%row_count()
-      call require(observations%read_row(row, cells), 'cannot read the data set')
-      if (any(cells <= missing_value()) .or. cells(population) <= 0) cycle
-      cases%date = [cases%date, cells(date)]
-      ! Billions of dollars for thousands of persons.
-      cases%spending = [cases%spending, 1.0e6_dp*cells(consumption)/cells(population)]
-      cases%savings = [cases%savings, cells(savings_rate)]
-      if (.not. any(cases%decades == nint(cells(decade)))) &
-        cases%decades = [cases%decades, nint(cells(decade))]
-      cases%group = [cases%group, findloc(cases%decades, nint(cells(decade)), dim=1)]
+    call read_numbers(observations, rows)
+    rows = rows(pack([(i, i=1, size(rows, 1))], rows(:, population) > 0), :)
+    call require(size(rows, 1) > 0, 'the data set has no complete case')
+    cases%date = rows(:, date)
+    ! Billions of dollars for thousands of persons.
+    cases%spending = 1.0e6_dp*rows(:, consumption)/rows(:, population)
+    cases%savings = rows(:, savings_rate)
+    allocate (cases%decades(0), cases%group(size(rows, 1)))
+    do i = 1, size(rows, 1)
+      if (.not. any(cases%decades == nint(rows(i, decade)))) &
+        cases%decades = [cases%decades, nint(rows(i, decade))]
+      cases%group(i) = findloc(cases%decades, nint(rows(i, decade)), dim=1)
     end do
-    call require(size(cases%date) > 0, 'the data set has no complete case')
   end subroutine
 
   ! Estimation
@@ -151,22 +151,21 @@ contains
     type(sample), intent(in) :: cases
     type(series), intent(in) :: shown
     type(trend) :: trends(size(cases%decades))
-    type(drawing) :: plot
+    type(trend_plot) :: plot
     integer :: i
 
     trends = [(fit(cases, shown, i), i=1, size(trends))]
-    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
-      source=plot%source, graph=plot%graph, data=plot%data)
+    plot%drawing = new_drawing(observations, procedure_name)
     call declare_variables(plot, shown)
     call load_columns(plot, cases, shown, trends)
     call draw_axes(plot, shown)
     call draw_elements(plot)
-    call draw_legend(plot)
+    call draw_legend(plot%drawing, plot%points, label_of_variable(decade))
     call write_texts_and_send(plot, cases, shown, trends)
   end subroutine
 
   subroutine declare_variables(plot, shown)
-    type(drawing), intent(inout) :: plot
+    type(trend_plot), intent(inout) :: plot
     type(series), intent(in) :: shown
     integer :: format
 
@@ -188,7 +187,7 @@ contains
   end subroutine
 
   subroutine load_columns(plot, cases, shown, trends)
-    type(drawing), intent(in) :: plot
+    type(trend_plot), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(series), intent(in) :: shown
     type(trend), intent(in) :: trends(:)
@@ -201,7 +200,7 @@ contains
 
   !> x and y with 5% of room at either end.
   subroutine draw_axes(plot, shown)
-    type(drawing), intent(in) :: plot
+    type(trend_plot), intent(in) :: plot
     type(series), intent(in) :: shown
     integer :: x_style, x_axis, y_style, y_axis, y_title
 
@@ -218,7 +217,7 @@ contains
 
   !> A point for each case and a line for each decade.
   subroutine draw_elements(plot)
-    type(drawing), intent(inout) :: plot
+    type(trend_plot), intent(inout) :: plot
     integer :: lines
 
     call add_xy_element(plot%chart, plot%data, 1, string_point, plot%date, plot%value, &
@@ -229,19 +228,10 @@ contains
     call add_style_by_color(plot%chart, lines, plot%decade)
   end subroutine
 
-  subroutine draw_legend(plot)
-    type(drawing), intent(in) :: plot
-    integer :: legend, style
-
-    call add_legend_frame(plot%chart, plot%graph, plot%points, 1, aesthetic=string_style_by, &
-      style=style, legend=legend)
-    call add_label(plot%chart, legend, style, label_of_variable(decade))
-  end subroutine
-
   ! Texts
 
   subroutine write_texts_and_send(plot, cases, shown, trends)
-    type(drawing), intent(in) :: plot
+    type(trend_plot), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(series), intent(in) :: shown
     type(trend), intent(in) :: trends(:)

@@ -68,7 +68,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_interval, island, range, &
       string_errorbar, errors)
     call group(plot, errors, species, string_dodge)
-    call draw_legend(plot, bars, species_number)
+    call draw_legend(plot, bars, label_of_variable(species_number))
     call add_frame_with_label(plot%chart, plot%graph, string_footnote, 1, &
       translation('About error bars'))
     call end_chart(plot%chart)
@@ -100,7 +100,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_interval, island, share, &
       string_stackedbar, bars)
     call group(plot, bars, species, string_stack)
-    call draw_legend(plot, bars, species_number)
+    call draw_legend(plot, bars, label_of_variable(species_number))
     call end_chart(plot%chart)
   end subroutine
 
@@ -130,7 +130,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_point, flipper, mass, string_scatter, &
       points)
     call add_style_by_color(plot%chart, points, species)
-    call draw_legend(plot, points, species_number)
+    call draw_legend(plot, points, label_of_variable(species_number))
     call end_chart(plot%chart)
   end subroutine
 

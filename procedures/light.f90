@@ -169,7 +169,7 @@ contains
     type(drawing), intent(in) :: plot
     type(statistic), intent(in) :: shown
     integer, intent(in) :: numbers, values
-    integer :: states, points, legend, style
+    integer :: states, points
 
     call add_aggregate(plot%chart, plot%source, categorical=.true., &
       label=translation('Sample'), handle=states)
@@ -179,9 +179,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_point, numbers, values, &
       string_controlchart_marker, points)
     call add_style_by_color(plot%chart, points, states)
-    call add_legend_frame(plot%chart, plot%graph, points, 1, aesthetic=string_style_by, &
-      style=style, legend=legend)
-    call add_label(plot%chart, legend, style, translation('Sample'))
+    call draw_legend(plot, points, translation('Sample'))
   end subroutine
 
   subroutine write_texts_and_send(plot, shown)

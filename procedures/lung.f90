@@ -125,7 +125,7 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_line, times, shares, &
       string_survival_line, lines)
     call add_style_by_color(plot%chart, lines, groups)
-    call draw_legend(plot, lines, cases%number)
+    call draw_legend(plot, lines, label_of_variable(cases%number))
   end subroutine
 
   !> The limits are a source of their own: where nobody is left there are none.

@@ -82,12 +82,9 @@ contains
     type(drawing), intent(in) :: plot
     type(regression), intent(in) :: fit
     real(dp) :: places(places_of_line)
-    integer :: source, x, y, lower, upper, group, i
+    integer :: source, x, y, lower, upper, group
 
-    associate (masses => log10(cases%values(:, 1)))
-      places = [(minval(masses) + (maxval(masses) - minval(masses))*i/(places_of_line - 1), &
-        i=0, places_of_line - 1)]
-    end associate
+    places = even_places(log10(cases%values(:, 1)), places_of_line)
     call add_source(plot%chart, handle=source)
     call add_variable(plot%chart, source, body, handle=x)
     y = computed(plot, 'Fitted brain mass (g)', 2, source)

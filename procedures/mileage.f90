@@ -58,11 +58,9 @@ contains
     type(drawing), intent(in) :: plot
     type(regression), intent(in) :: fit
     real(dp) :: places(places_of_curve)
-    integer :: source, x, y, group, i
+    integer :: source, x, y, group
 
-    associate (low => minval(cases(:, displacement)), high => maxval(cases(:, displacement)))
-      places = [(low + (high - low)*i/(places_of_curve - 1), i=0, places_of_curve - 1)]
-    end associate
+    places = even_places(cases(:, displacement), places_of_curve)
     call add_source(plot%chart, handle=source)
     call add_variable(plot%chart, source, displacement, handle=x)
     y = computed(plot, 'Fitted fuel economy', 1, source)

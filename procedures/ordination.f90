@@ -12,8 +12,10 @@ program ordination
   use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
+  use drawings, only: drawing, name_element, new_drawing
   use korva
   use least_squares, only: fitted_coefficients
+  use named_cases
   use principal_axes
   implicit none
 
@@ -31,12 +33,6 @@ program ordination
     real(dp), allocatable :: values(:, :)  !< standardized; of a case, of a variable of the run
   end type
 
-  !> Two axes and the shares of the variance that they tell.
-  type :: axes
-    real(dp), allocatable :: scores(:, :)
-    real(dp) :: share(2), explained  !< explained by the regressions
-  end type
-
   !> What one of the charts shows.
   type :: view
     character(:), allocatable :: title, subtitle, description, measures  !< keys of texts
@@ -44,8 +40,7 @@ program ordination
     logical :: has_conditions  !< and lines for them
   end type
 
-  type :: drawing
-    integer :: chart, source, graph, data
+  type, extends(drawing) :: plane_plot
     real(dp) :: reach(2)   !< of the scores, on either side of 0
     real(dp) :: lengthening
   end type
@@ -65,7 +60,7 @@ contains
       'income', 'illiteracy', 'graduates', 'frost'], numbers=region)
     call load_cases(observations, cases)
 
-    call draw(observations, cases, principal_components(cases, [crimes, urban]), [crimes, urban], &
+    call draw(observations, cases, axes_of(cases%values(:, [crimes, urban])), [crimes, urban], &
       view(title='Crimes and cities', subtitle='Explained by components^3', &
       description='Description of the biplot', measures='Measures', points=string_biplot_point, &
       lines=string_biplot_line, has_conditions=.false.))
@@ -82,37 +77,17 @@ contains
   subroutine load_cases(observations, cases)
     type(data_set), intent(in) :: observations
     type(sample), intent(out) :: cases
-    real(dp) :: cells(width)
-    integer :: row, kept
+    real(dp), allocatable :: numbers(:, :)
 
     call require(observations%cell_count() == width, 'the abbreviation is no text of one cell')
-    allocate (cases%state(observations%row_count()), cases%region(observations%row_count()))
-    allocate (cases%values(observations%row_count(), width))
-    kept = 0
-    do row = 1, observations%row_count()
-      call require(observations%read_row(row, cells), 'cannot read the data set')
-      if (any(cells(region:) <= missing_value())) cycle
-      kept = kept + 1
-      cases%state(kept) = text_of_cells(cells([state]))
-      cases%region(kept) = cells(region)
-      cases%values(kept, crimes(1):) = cells(crimes(1):)
-    end do
-    call require(kept > width, 'the data set has too few complete cases')
-    cases%state = cases%state(:kept)
-    cases%region = cases%region(:kept)
-    cases%values = cases%values(:kept, :)
-    cases%values(:, crimes(1):) = standardized(cases%values(:, crimes(1):))
+    call read_named(observations, 1, cases%state, numbers)
+    call require(size(cases%state) > width, 'the data set has too few complete cases')
+    cases%region = numbers(:, region - state)
+    allocate (cases%values(size(cases%state), width))
+    cases%values(:, crimes(1):) = standardized(numbers(:, crimes(1) - state:))
   end subroutine
 
   ! Estimation
-
-  function principal_components(cases, variables) result(found)
-    type(sample), intent(in) :: cases
-    integer, intent(in) :: variables(:)
-    type(axes) :: found
-
-    found = axes_of(cases%values(:, variables))
-  end function
 
   !> The principal components of what the conditions predict of the crimes.
   function redundancy(cases) result(found)
@@ -130,30 +105,6 @@ contains
     found = axes_of(predicted)
   end function
 
-  !> Of columns with mean 0, which stand for standardized measures.
-  function axes_of(columns) result(found)
-    real(dp), intent(in) :: columns(:, :)
-    type(axes) :: found
-    real(dp) :: variances(size(columns, 2)), vectors(size(columns, 2), size(columns, 2))
-    integer :: i
-
-    call decompose(matmul(transpose(columns), columns)/(size(columns, 1) - 1), variances, vectors)
-    found%share = variances(:2)/size(columns, 2)
-    found%explained = sum(variances)/size(columns, 2)
-    allocate (found%scores(size(columns, 1), 2))
-    do i = 1, 2
-      found%scores(:, i) = matmul(columns, vectors(:, i))/sqrt(variances(i))
-    end do
-  end function
-
-  !> Correlations of standardized measures with the scores.
-  pure function correlations(measures, scores)
-    real(dp), intent(in) :: measures(:, :), scores(:, :)
-    real(dp) :: correlations(size(measures, 2), size(scores, 2))
-
-    correlations = matmul(transpose(measures), scores)/(size(measures, 1) - 1)
-  end function
-
   ! The charts
 
   subroutine draw(observations, cases, found, measures, shown)
@@ -162,10 +113,9 @@ contains
     type(axes), intent(in) :: found
     integer, intent(in) :: measures(:)
     type(view), intent(in) :: shown
-    type(drawing) :: plot
+    type(plane_plot) :: plot
 
-    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
-      source=plot%source, graph=plot%graph, data=plot%data)
+    plot%drawing = new_drawing(observations, procedure_name)
     plot%reach = 0.5_dp*ceiling(2*maxval(abs(found%scores), dim=1) + 1)
     plot%lengthening = max(1, floor(minval(plot%reach) - 0.5_dp)) ! names need room
     call draw_plane(plot)
@@ -179,7 +129,7 @@ contains
 
   !> Axes with units of one length that cross in the middle.
   subroutine draw_plane(plot)
-    type(drawing), intent(in) :: plot
+    type(plane_plot), intent(in) :: plot
     integer :: domains(2), x_style, x_axis, y_style, y_axis, zero, i
 
     do i = 1, 2
@@ -198,7 +148,7 @@ contains
 
   !> A point for each state, with its abbreviation.
   subroutine draw_points(plot, cases, found, shown)
-    type(drawing), intent(in) :: plot
+    type(plane_plot), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(axes), intent(in) :: found
     type(view), intent(in) :: shown
@@ -224,7 +174,7 @@ contains
   !> A line from the middle for each measure; the names stand beyond the ends of the lines,
   !> where an element that is hidden has them.
   subroutine draw_lines(plot, measures, correlation, kind, index, name)
-    type(drawing), intent(in) :: plot
+    type(plane_plot), intent(in) :: plot
     integer, intent(in) :: measures(:), kind, index
     real(dp), intent(in) :: correlation(:, :)  !< of a measure, with an axis
     character(*), intent(in) :: name           !< a key of the string table
@@ -241,15 +191,14 @@ contains
     call add_places(plot, [names, names], reshape([transpose(middle), transpose(ends)], &
       [2*size(names), 2], order=[2, 1]), index, string_line, kind, lines, by)
     call add_split(plot%chart, lines, by)
-    call set_element_name(plot%chart, lines, translation(name))
-    call add_legend_frame_of(plot%chart, plot%graph, lines, index + 1)
+    call name_element(plot%drawing, lines, name, index + 1)
     call add_places(plot, names, beyond, index, string_point, string_hiddenline, labels, by)
     call add_labeling(plot%chart, labels, by)
   end subroutine
 
   !> An element of rows of their own, each with a name and a place.
   subroutine add_places(plot, names, places, index, type, kind, element, by)
-    type(drawing), intent(in) :: plot
+    type(plane_plot), intent(in) :: plot
     character(*), intent(in) :: names(:)
     real(dp), intent(in) :: places(:, :)
     integer, intent(in) :: index, type, kind
@@ -268,7 +217,7 @@ contains
   !> Where the middle of a name stands that begins beyond the end of a line: half a letter is
   !> as wide as this share of the plot's half.
   pure function place_beyond(plot, tip, letters) result(place)
-    type(drawing), intent(in) :: plot
+    type(plane_plot), intent(in) :: plot
     real(dp), intent(in) :: tip(2)
     integer, intent(in) :: letters
     real(dp), parameter :: half_letter = 0.013_dp, gap = 0.03_dp
@@ -279,7 +228,7 @@ contains
   end function
 
   function axis_variables(plot, source) result(variables)
-    type(drawing), intent(in) :: plot
+    type(plane_plot), intent(in) :: plot
     integer, intent(in) :: source
     integer :: variables(2), i
 
@@ -299,7 +248,7 @@ contains
   end function
 
   subroutine write_texts_and_send(plot, found, shown)
-    type(drawing), intent(in) :: plot
+    type(plane_plot), intent(in) :: plot
     type(axes), intent(in) :: found
     type(view), intent(in) :: shown
 

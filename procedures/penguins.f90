@@ -10,6 +10,7 @@ program penguins
   use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
+  use drawings, only: draw_legend, drawing, new_drawing
   use grouped_cases
   use korva
   use least_squares
@@ -27,8 +28,7 @@ program penguins
   end type
 
   !> The chart and the nodes that several steps refer to.
-  type :: drawing
-    integer :: chart, source, graph, data
+  type, extends(drawing) :: scatter
     integer :: species, x, y, fitted  !< variables
     integer :: points                 !< the element that the legend explains
   end type
@@ -43,13 +43,13 @@ contains
     type(sample) :: cases
     type(line_fit) :: overall
     type(line_fit), allocatable :: within(:)
-    type(drawing) :: plot
+    type(scatter) :: plot
     integer :: g, i
 
     ! The chart comes first: with it the library learns of the data.
     call open_observations(observations, procedure_name, otherwise='data/penguins', &
       names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g'], numbers=2)
-    plot = new_drawing(observations)
+    plot%drawing = new_drawing(observations, procedure_name)
     call load_sample(observations, measures=2, cases=cases)
 
     overall = fit('all penguins', cases%values)
@@ -63,7 +63,7 @@ contains
     call load_columns(plot, cases, within)
     call draw_axes(plot)
     call draw_elements(plot, overall)
-    call draw_legend(plot)
+    call draw_legend(plot%drawing, plot%points, label_of_variable(species))
     call write_texts_and_send(plot, cases, overall, within)
     call end_library
     call observations%close()
@@ -98,15 +98,8 @@ contains
 
   ! The chart
 
-  type(drawing) function new_drawing(observations) result(plot)
-    type(data_set), intent(in) :: observations
-
-    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
-      source=plot%source, graph=plot%graph, data=plot%data)
-  end function
-
   subroutine declare_variables(plot)
-    type(drawing), intent(inout) :: plot
+    type(scatter), intent(inout) :: plot
 
     call add_variable(plot%chart, plot%source, species, categorical=.true., handle=plot%species)
     call add_variable(plot%chart, plot%source, flipper_length, handle=plot%x)
@@ -117,7 +110,7 @@ contains
   end subroutine
 
   subroutine load_columns(plot, cases, within)
-    type(drawing), intent(in) :: plot
+    type(scatter), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(line_fit), intent(in) :: within(:)
 
@@ -128,7 +121,7 @@ contains
 
   !> x and y with 5% of room at either end; a variable's label is its axis's title.
   subroutine draw_axes(plot)
-    type(drawing), intent(in) :: plot
+    type(scatter), intent(in) :: plot
     integer :: x_style, x_axis, y_style, y_axis
 
     call add_xy_dimensions_with_axes(plot%chart, plot%data, x_style=x_style, x_axis=x_axis, &
@@ -139,7 +132,7 @@ contains
 
   !> A point for each penguin, a line for each species and one over all.
   subroutine draw_elements(plot, overall)
-    type(drawing), intent(inout) :: plot
+    type(scatter), intent(inout) :: plot
     type(line_fit), intent(in) :: overall
     integer :: lines, overall_line
 
@@ -156,19 +149,10 @@ contains
     call set_element_name(plot%chart, overall_line, translation('All penguins'))
   end subroutine
 
-  subroutine draw_legend(plot)
-    type(drawing), intent(in) :: plot
-    integer :: legend, style
-
-    call add_legend_frame(plot%chart, plot%graph, plot%points, 1, aesthetic=string_style_by, &
-      style=style, legend=legend)
-    call add_label(plot%chart, legend, style, label_of_variable(species))
-  end subroutine
-
   ! Texts
 
   subroutine write_texts_and_send(plot, cases, overall, within)
-    type(drawing), intent(in) :: plot
+    type(scatter), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(line_fit), intent(in) :: overall, within(:)
     integer :: lines(size(within))

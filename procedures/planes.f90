@@ -10,6 +10,7 @@ program planes
   use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
+  use drawings, only: drawing, new_drawing
   use grouped_cases
   use korva
   use least_squares
@@ -29,8 +30,7 @@ program planes
   end type
 
   !> The chart and the nodes that several steps refer to.
-  type :: drawing
-    integer :: chart, source, graph, data
+  type, extends(drawing) :: penguin_plot
     integer :: species, measures(3)  !< variables
   end type
 
@@ -42,14 +42,14 @@ contains
   subroutine run
     type(data_set) :: observations
     type(sample) :: cases
-    type(drawing) :: first, second
+    type(penguin_plot) :: first, second
 
     ! Both charts come first: as long as one is open, the library keeps the groups' names.
     call open_observations(observations, procedure_name, otherwise='data/penguins', &
       names=[character(17) :: 'species', 'flipper_length_mm', 'body_mass_g', 'bill_depth_mm'], &
       numbers=2)
-    first = new_drawing(observations)
-    second = new_drawing(observations)
+    first = new_plot(observations)
+    second = new_plot(observations)
     call load_sample(observations, size(measure), cases)
 
     call draw_cases(first, cases)
@@ -76,7 +76,7 @@ contains
 
   !> The cases by species in a wire frame.
   subroutine draw_cases(plot, cases)
-    type(drawing), intent(in) :: plot
+    type(penguin_plot), intent(in) :: plot
     type(sample), intent(in) :: cases
     integer :: points, legend, style
 
@@ -97,7 +97,7 @@ contains
 
   !> Observed and fitted masses before three planes.
   subroutine draw_plane(plot, cases, mass)
-    type(drawing), intent(in) :: plot
+    type(penguin_plot), intent(in) :: plot
     type(sample), intent(in) :: cases
     type(plane), intent(in) :: mass
     integer :: fitted
@@ -124,12 +124,11 @@ contains
 
   ! What the charts have in common
 
-  type(drawing) function new_drawing(observations) result(plot)
+  type(penguin_plot) function new_plot(observations) result(plot)
     type(data_set), intent(in) :: observations
     integer :: m
 
-    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
-      source=plot%source, graph=plot%graph, data=plot%data)
+    plot%drawing = new_drawing(observations, procedure_name)
     call add_variable(plot%chart, plot%source, species, categorical=.true., handle=plot%species)
     call add_relabels(plot%chart, plot%species, species)
     do m = 1, size(measure)
@@ -139,7 +138,7 @@ contains
 
   !> Body mass stands upright between the other two.
   subroutine draw_axes(plot)
-    type(drawing), intent(in) :: plot
+    type(penguin_plot), intent(in) :: plot
     character(*), parameter :: margin = '5%'
     integer :: role, style, axis
 
@@ -152,7 +151,7 @@ contains
 
   !> A point for each case, as high as `height` says.
   function points_at(plot, height, style) result(points)
-    type(drawing), intent(in) :: plot
+    type(penguin_plot), intent(in) :: plot
     integer, intent(in) :: height, style
     integer :: points
 
@@ -163,7 +162,7 @@ contains
 
   !> Names points and gives them a legend.
   subroutine explain(plot, points, name, index)
-    type(drawing), intent(in) :: plot
+    type(penguin_plot), intent(in) :: plot
     integer, intent(in) :: points, index
     character(*), intent(in) :: name  !< a key of the string table
 

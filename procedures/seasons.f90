@@ -12,7 +12,7 @@ program seasons
   use calendar, only: months_of_year, split_date
   use charts
   use chartxml
-  use drawings, only: computed, draw_axes, drawing, group, new_drawing
+  use drawings
   use korva
   use least_squares, only: mean
   implicit none
@@ -89,21 +89,14 @@ contains
 
   subroutine draw_areas
     type(drawing) :: plot
-    integer :: months, sex, deaths, areas, i, k
+    integer :: months, sex, deaths, areas
 
     plot = new_drawing(observations, procedure_name, 'Deaths from lung diseases', &
       'Description of areas')
     call add_variable(plot%chart, plot%source, month, handle=months)
     sex = sex_variable(plot)
     deaths = computed(plot, 'Deaths', 0)
-    do i = 1, size(cases%month)
-      do k = 1, size(sexes)
-        call add_row(plot%chart)
-        call add_double_data_value(plot%chart, months, cases%month(i))
-        call add_data_value(plot%chart, sex, label_of_variable(sexes(k)))
-        call add_double_data_value(plot%chart, deaths, cases%deaths(i, k))
-      end do
-    end do
+    call load_side_by_side(plot, months, sex, deaths, cases%month, sexes, cases%deaths)
     call draw_axes(plot, label_of_variable(month), translation('Deaths'))
     call add_xy_element(plot%chart, plot%data, 1, string_area, months, deaths, &
       string_stackedarea, areas)
@@ -115,6 +108,7 @@ contains
   !> The radius goes with the root of the deaths, so that areas go with the deaths.
   subroutine draw_rose
     type(drawing) :: plot
+    real(dp) :: means(months_of_year, size(sexes))
     integer :: months, sex, deaths, sectors, m, k
 
     plot = new_drawing(observations, procedure_name, 'Deaths by month of the year', &
@@ -122,15 +116,11 @@ contains
     months = month_variable(plot)
     sex = sex_variable(plot)
     deaths = computed(plot, 'Mean deaths', 0)
-    do m = 1, months_of_year
-      do k = 1, size(sexes)
-        call add_row(plot%chart)
-        call add_double_data_value(plot%chart, months, m)
-        call add_data_value(plot%chart, sex, label_of_variable(sexes(k)))
-        call add_double_data_value(plot%chart, deaths, &
-          mean(pack(cases%deaths(:, k), cases%of_year == m)))
-      end do
+    do concurrent(m=1:months_of_year, k=1:size(sexes))
+      means(m, k) = mean(pack(cases%deaths(:, k), cases%of_year == m))
     end do
+    call load_side_by_side(plot, months, sex, deaths, [(real(m, dp), m=1, months_of_year)], &
+      sexes, means)
     call add_coordinate_transform(plot%chart, plot%data, string_polar)
     call draw_axes(plot, label_of_variable(month), translation('Mean deaths'))
     call set_dimension_scale(plot%chart, get_dimension(plot%chart, plot%data, role_y), &
@@ -189,22 +179,9 @@ contains
     call add_xy_element(plot%chart, plot%data, 1, string_interval, lags, values, &
       string_simplebar, bars)
     limit = normal_95/sqrt(real(size(cases%month), dp))
-    call draw_limit(plot, limit, 'Upper limit', 1)
-    call draw_limit(plot, -limit, 'Lower limit', 2)
+    call draw_level(plot, limit, 'Upper limit', 1)
+    call draw_level(plot, -limit, 'Lower limit', 2)
     call end_chart(plot%chart)
-  end subroutine
-
-  subroutine draw_limit(plot, value, name, index)
-    type(drawing), intent(in) :: plot
-    real(dp), intent(in) :: value
-    character(*), intent(in) :: name  !< a key of the string table
-    integer, intent(in) :: index
-    integer :: line
-
-    call add_y_reference_line(plot%chart, plot%data, real_string(value), guide_style=index, &
-      handle=line)
-    call set_element_name(plot%chart, line, translation(name))
-    call add_legend_frame_of(plot%chart, plot%graph, line, index)
   end subroutine
 
   ! Variables

@@ -8,11 +8,12 @@
 ! columns; data/sleep below the working directory when none is named.
 program sleep
   use, intrinsic :: iso_c_binding, only: dp => c_double
-  use charts
+  use charts, only: require
   use chartxml
-  use drawings, only: computed, draw_axes, drawing, new_drawing
+  use drawings
   use korva
   use least_squares, only: mean
+  use number_cases
   use student_t, only: quantile, tail_probability
   implicit none
 
@@ -42,38 +43,17 @@ contains
     type(data_set) :: observations
     type(sample) :: cases
     type(comparison) :: found
+    real(dp), allocatable :: rows(:, :)
 
-    call open_observations(observations, procedure_name, otherwise='data/sleep', &
-      names=[character(7) :: 'patient', 'drug_1', 'drug_2'], numbers=1)
-    call load_cases(observations, cases)
+    call load_numbers(observations, procedure_name, procedure_name, &
+      [character(7) :: 'patient', 'drug_1', 'drug_2'], rows)
+    cases = sample(patient=rows(:, patient), hours=rows(:, drug))
     found = compared(cases%hours(:, 2) - cases%hours(:, 1))
 
-    call start_library(procedure_name, observations%dictionary)
     call draw_pairs(observations, cases)
     call draw_differences(observations, cases, found)
     call end_library
     call observations%close()
-  end subroutine
-
-  ! Data
-
-  subroutine load_cases(observations, cases)
-    type(data_set), intent(in) :: observations
-    type(sample), intent(out) :: cases
-    real(dp) :: cells(3)
-    integer :: row, kept
-
-    allocate (cases%patient(observations%row_count()), cases%hours(observations%row_count(), 2))
-    kept = 0
-    do row = 1, observations%row_count()
-      call require(observations%read_row(row, cells), 'cannot read the data set')
-      if (any(cells <= missing_value())) cycle
-      kept = kept + 1
-      cases%patient(kept) = cells(patient)
-      cases%hours(kept, :) = cells(drug)
-    end do
-    cases%patient = cases%patient(:kept)
-    cases%hours = cases%hours(:kept, :)
   end subroutine
 
   ! Estimation
@@ -101,8 +81,7 @@ contains
     type(data_set), intent(in) :: observations
     type(sample), intent(in) :: cases
     type(drawing) :: plot
-    integer :: patients, drugs, hours, lines, points, zero
-    integer :: i, d
+    integer :: patients, drugs, hours, lines, points
 
     plot = new_drawing(observations, procedure_name, 'Sleep with two drugs', &
       'Description of pairs')
@@ -110,18 +89,10 @@ contains
     call add_aggregate(plot%chart, plot%source, categorical=.true., label=translation('Drug'), &
       handle=drugs)
     hours = computed(plot, 'Extra sleep (hours)', 1)
-    do i = 1, size(cases%patient)
-      do d = 1, size(drug)
-        call add_row(plot%chart)
-        call add_double_data_value(plot%chart, patients, cases%patient(i))
-        call add_data_value(plot%chart, drugs, label_of_variable(drug(d)))
-        call add_double_data_value(plot%chart, hours, cases%hours(i, d))
-      end do
-    end do
+    call load_side_by_side(plot, patients, drugs, hours, cases%patient, drug, cases%hours)
 
     call draw_axes(plot, label_of_variable(patient), translation('Extra sleep (hours)'))
-    call add_y_reference_line(plot%chart, plot%data, real_string(0), guide_style=1, handle=zero)
-    call explain(plot, zero, 'Sleep without a drug', 2)
+    call draw_level(plot, 0.0_dp, 'Sleep without a drug', 1, legend_index=2)
     call add_xy_element(plot%chart, plot%data, 1, string_interval, patients, hours, &
       string_differenceline, lines)
     call add_statistic(plot%chart, lines, string_range)
@@ -184,28 +155,5 @@ contains
     call set_sort_descending(plot%chart, sort, .true.)
     call add_statistic_sort(plot%chart, sort, categories, values)
   end function
-
-  !> A line at a difference; the index is that of its style and of its legend.
-  subroutine draw_level(plot, value, name, index)
-    type(drawing), intent(in) :: plot
-    real(dp), intent(in) :: value
-    character(*), intent(in) :: name
-    integer, intent(in) :: index
-    integer :: line
-
-    call add_y_reference_line(plot%chart, plot%data, real_string(value), guide_style=index, &
-      handle=line)
-    call explain(plot, line, name, index)
-  end subroutine
-
-  !> Names a line and gives it a legend.
-  subroutine explain(plot, line, name, index)
-    type(drawing), intent(in) :: plot
-    integer, intent(in) :: line, index
-    character(*), intent(in) :: name  !< a key of the string table
-
-    call set_element_name(plot%chart, line, translation(name))
-    call add_legend_frame_of(plot%chart, plot%graph, line, index)
-  end subroutine
 
 end program

@@ -11,8 +11,10 @@ program titanic
   use, intrinsic :: iso_c_binding, only: dp => c_double
   use charts
   use chartxml
+  use drawings, only: categories, drawing, name_element, new_drawing
   use korva
   use least_squares
+  use number_cases
   implicit none
 
   character(*), parameter :: procedure_name = 'titanic'
@@ -33,10 +35,6 @@ program titanic
     real(dp), allocatable :: class(:)  !< of grown men
     real(dp) :: female, child          !< what these add
     real(dp) :: overall
-  end type
-
-  type :: drawing
-    integer :: chart, source, graph, data  !< the chart and its nodes
   end type
 
   call stop_when_refused(.true.)
@@ -72,24 +70,19 @@ contains
   subroutine load_cases(observations, cases)
     type(data_set), intent(in) :: observations
     type(sample), intent(out) :: cases
-    real(dp) :: cells(5)
-    integer :: row, kept
+    real(dp), allocatable :: rows(:, :)
+    integer :: i
 
-    allocate (cases%codes(observations%row_count(), 4), cases%persons(observations%row_count()))
+    call read_numbers(observations, rows)
+    rows = rows(pack([(i, i=1, size(rows, 1))], rows(:, persons) > 0), :)
+    call require(size(rows, 1) > 0, 'the data set has no complete case')
+    cases%codes = nint(rows(:, :fate))
+    cases%persons = rows(:, persons)
     allocate (cases%classes(0))
-    kept = 0
-    do row = 1, observations%row_count()
-      call require(observations%read_row(row, cells), 'cannot read the data set')
-      if (any(cells <= missing_value()) .or. cells(persons) <= 0) cycle
-      kept = kept + 1
-      cases%codes(kept, :) = nint(cells(:fate))
-      cases%persons(kept) = cells(persons)
-      if (.not. any(cases%classes == cases%codes(kept, class))) &
-        cases%classes = [cases%classes, cases%codes(kept, class)]
+    do i = 1, size(rows, 1)
+      if (.not. any(cases%classes == cases%codes(i, class))) &
+        cases%classes = [cases%classes, cases%codes(i, class)]
     end do
-    call require(kept > 0, 'the data set has no complete case')
-    cases%codes = cases%codes(:kept, :)
-    cases%persons = cases%persons(:kept)
   end subroutine
 
   !> The percentage of survivors among the persons of some rows.
@@ -164,7 +157,7 @@ contains
     integer :: classes, fates, counts, sort, order, bars, colors, legend, style
     integer :: i, code
 
-    plot = new_drawing(observations)
+    plot = new_drawing(observations, procedure_name)
     classes = categories(plot, class)
     fates = categories(plot, fate)
     call add_aggregate(plot%chart, plot%source, name=string_countname, &
@@ -208,7 +201,7 @@ contains
     real(dp) :: split_cells(1)
 
     percent = packed_format(format_percent, 6, 1)
-    plot = new_drawing(observations)
+    plot = new_drawing(observations, procedure_name)
     call add_aggregate(plot%chart, plot%source, categorical=.true., &
       label=translation('Sex and age'), handle=groups)
     call add_aggregate(plot%chart, plot%source, label=translation('Observed'), handle=observed)
@@ -280,28 +273,10 @@ contains
     integer :: element
 
     call add_xy_element(plot%chart, plot%data, 1, type, x, y, style_kind, element)
-    call set_element_name(plot%chart, element, translation(name))
-    call add_legend_frame_of(plot%chart, plot%graph, element, index)
+    call name_element(plot, element, name, index)
   end subroutine
 
   ! What the charts have in common
-
-  type(drawing) function new_drawing(observations) result(plot)
-    type(data_set), intent(in) :: observations
-
-    call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
-      source=plot%source, graph=plot%graph, data=plot%data)
-  end function
-
-  !> A variable of the run whose codes have labels.
-  function categories(plot, number) result(variable)
-    type(drawing), intent(in) :: plot
-    integer, intent(in) :: number
-    integer :: variable
-
-    call add_variable(plot%chart, plot%source, number, categorical=.true., handle=variable)
-    call add_relabels(plot%chart, variable, number)
-  end function
 
   !> Bars stand on the x axis and leave room beside them.
   subroutine draw_axes(plot, x_title, y_title, x_domain, y_domain)

@@ -8,7 +8,7 @@ module drawings
   implicit none
   private
   public :: new_drawing, factor_variable, categories, computed, range_of, domain_between
-  public :: draw_axes, group, draw_legend, name_element
+  public :: load_side_by_side, draw_axes, draw_level, group, draw_legend, name_element
 
   !> A chart under construction and the nodes that several steps refer to.
   type, public :: drawing
@@ -17,16 +17,19 @@ module drawings
 
 contains
 
-  !> A chart of the procedure, with its title and what it shows for readers who do not see it.
+  !> A chart of the procedure, with its title and what it shows for readers who do not see it,
+  !> unless these are written later.
   type(drawing) function new_drawing(observations, procedure_name, title, description) &
       result(plot)
     type(data_set), intent(in) :: observations
-    character(*), intent(in) :: procedure_name, title, description
+    character(*), intent(in) :: procedure_name
+    character(*), intent(in), optional :: title, description
 
     call new_chart_with_frames(procedure_name, plot%chart, observations%dictionary, &
       source=plot%source, graph=plot%graph, data=plot%data)
-    call add_frame_with_label(plot%chart, plot%graph, string_title, 1, translation(title))
-    call set_chart_description(plot%chart, translation(description))
+    if (present(title)) &
+      call add_frame_with_label(plot%chart, plot%graph, string_title, 1, translation(title))
+    if (present(description)) call set_chart_description(plot%chart, translation(description))
   end function
 
   !> A variable of names, with the labels that the data set has for them.
@@ -95,6 +98,25 @@ contains
     end do
   end function
 
+  !> A row for each place and each of some variables of the run, whose labels tell the rows
+  !> apart: values(i, k) is that of variables(k) at places(i).
+  subroutine load_side_by_side(plot, place, by, value, places, variables, values)
+    type(drawing), intent(in) :: plot
+    integer, intent(in) :: place, by, value  !< variables of the chart
+    real(dp), intent(in) :: places(:), values(:, :)
+    integer, intent(in) :: variables(:)
+    integer :: i, k
+
+    do i = 1, size(places)
+      do k = 1, size(variables)
+        call add_row(plot%chart)
+        call add_double_data_value(plot%chart, place, places(i))
+        call add_data_value(plot%chart, by, label_of_variable(variables(k)))
+        call add_double_data_value(plot%chart, value, values(i, k))
+      end do
+    end do
+  end subroutine
+
   !> y_decimals: how many decimals the y axis shows, where its values have others.
   subroutine draw_axes(plot, x_title, y_title, x_domain, y_domain, y_decimals)
     type(drawing), intent(in) :: plot
@@ -121,14 +143,35 @@ contains
     call set_element_position_modifier(plot%chart, marks, modifier)
   end subroutine
 
-  subroutine draw_legend(plot, explained, titled_by)
+  !> A line across the plot at a value of y, under a name, a key of the string table; the
+  !> index is that of its style and, unless another is given, of its legend.
+  subroutine draw_level(plot, value, name, index, legend_index)
     type(drawing), intent(in) :: plot
-    integer, intent(in) :: explained, titled_by
-    integer :: legend, style
+    real(dp), intent(in) :: value
+    character(*), intent(in) :: name
+    integer, intent(in) :: index
+    integer, intent(in), optional :: legend_index
+    integer :: line, legend
 
-    call add_legend_frame(plot%chart, plot%graph, explained, 1, aesthetic=string_style_by, &
-      style=style, legend=legend)
-    call add_label(plot%chart, legend, style, label_of_variable(titled_by))
+    legend = index
+    if (present(legend_index)) legend = legend_index
+    call add_y_reference_line(plot%chart, plot%data, real_string(value), guide_style=index, &
+      handle=line)
+    call name_element(plot, line, name, legend)
+  end subroutine
+
+  !> The legend of what colors an element, or another aesthetic does, with a title.
+  subroutine draw_legend(plot, explained, title, aesthetic)
+    type(drawing), intent(in) :: plot
+    integer, intent(in) :: explained, title
+    integer, intent(in), optional :: aesthetic
+    integer :: legend, style, by
+
+    by = string_style_by
+    if (present(aesthetic)) by = aesthetic
+    call add_legend_frame(plot%chart, plot%graph, explained, 1, aesthetic=by, style=style, &
+      legend=legend)
+    call add_label(plot%chart, legend, style, title)
   end subroutine
 
   !> Gives an element a name, a key of the string table, and a legend that explains it.

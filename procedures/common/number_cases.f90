@@ -6,7 +6,7 @@ module number_cases
   use korva
   implicit none
   private
-  public :: load_numbers, is_present
+  public :: load_numbers, read_numbers, is_present
 
 contains
 
@@ -19,14 +19,24 @@ contains
     character(*), intent(in) :: procedure_name, otherwise, names(:)
     real(dp), allocatable, intent(out) :: cases(:, :)
     integer, intent(in), optional :: needed
-    real(dp) :: cells(size(names))
-    integer :: row, kept, checked
 
     call open_observations(observations, procedure_name, 'data/'//otherwise, names, numbers=1)
     call start_library(procedure_name, observations%dictionary)
-    checked = size(names)
+    call read_numbers(observations, cases, needed)
+  end subroutine
+
+  !> The same of a data set that is open.
+  subroutine read_numbers(observations, cases, needed)
+    type(data_set), intent(in) :: observations
+    real(dp), allocatable, intent(out) :: cases(:, :)
+    integer, intent(in), optional :: needed
+    real(dp), allocatable :: cells(:)
+    integer :: row, kept, checked
+
+    allocate (cells(observations%cell_count()))
+    checked = size(cells)
     if (present(needed)) checked = needed
-    allocate (cases(observations%row_count(), size(names)))
+    allocate (cases(observations%row_count(), size(cells)))
     kept = 0
     do row = 1, size(cases, 1)
       call require(observations%read_row(row, cells), 'cannot read the data set')

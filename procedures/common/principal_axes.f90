@@ -5,7 +5,13 @@ module principal_axes
   use least_squares, only: mean
   implicit none
   private
-  public :: standardized, decompose
+  public :: standardized, decompose, axes_of, correlations
+
+  !> Scores of variance 1 on two axes, and the shares of the variance that these tell.
+  type, public :: axes
+    real(dp), allocatable :: scores(:, :)
+    real(dp) :: share(2), explained  !< explained by all axes
+  end type
 
   ! Eigenvalues, in ascending order, and eigenvectors of a symmetric matrix.
   interface
@@ -52,5 +58,29 @@ contains
       vectors(:, m) = sign(1.0_dp, vectors(maxloc(abs(vectors(:, m)), dim=1), m))*vectors(:, m)
     end do
   end subroutine
+
+  !> The first two axes of columns with mean 0, which stand for standardized measures.
+  function axes_of(columns) result(found)
+    real(dp), intent(in) :: columns(:, :)
+    type(axes) :: found
+    real(dp) :: variances(size(columns, 2)), vectors(size(columns, 2), size(columns, 2))
+    integer :: i
+
+    call decompose(matmul(transpose(columns), columns)/(size(columns, 1) - 1), variances, vectors)
+    found%share = variances(:2)/size(columns, 2)
+    found%explained = sum(variances)/size(columns, 2)
+    allocate (found%scores(size(columns, 1), 2))
+    do i = 1, 2
+      found%scores(:, i) = matmul(columns, vectors(:, i))/sqrt(variances(i))
+    end do
+  end function
+
+  !> Correlations of standardized measures with the scores.
+  pure function correlations(measures, scores)
+    real(dp), intent(in) :: measures(:, :), scores(:, :)
+    real(dp) :: correlations(size(measures, 2), size(scores, 2))
+
+    correlations = matmul(transpose(measures), scores)/(size(measures, 1) - 1)
+  end function
 
 end module

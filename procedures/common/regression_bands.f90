@@ -7,7 +7,7 @@ module regression_bands
   use student_t, only: quantile
   implicit none
   private
-  public :: regression_of
+  public :: regression_of, even_places
 
   type, public :: regression
     real(dp), allocatable :: coefficients(:)  !< the constant first
@@ -46,6 +46,16 @@ contains
     fit%error = sqrt(sum((y - fitted)**2)/(fit%cases - degree - 1))
     fit%r_squared = explained_share(y, fitted)
     fit%widest = quantile(confidence, fit%cases - degree - 1)
+  end function
+
+  !> Where a curve is drawn: at even steps from the least x to the greatest.
+  pure function even_places(x, count) result(places)
+    real(dp), intent(in) :: x(:)
+    integer, intent(in) :: count
+    real(dp) :: places(count)
+    integer :: i
+
+    places = [(minval(x) + (maxval(x) - minval(x))*i/(count - 1), i=0, count - 1)]
   end function
 
   !> The powers of x in the design. Around their mean and in units of their spread they
