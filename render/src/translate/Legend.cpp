@@ -1,9 +1,11 @@
 #include <algorithm>
+#include <cmath>
 
 #include <fmt/format.h>
 
 #include "text/Show.h"
 #include "text/Wrap.h"
+#include "translate/AxisTicks.h"
 #include "translate/Encode.h"
 #include "translate/Filling.h"
 #include "translate/Groups.h"
@@ -38,30 +40,48 @@ bool asksFor(const Variable& variable, const Node& target, const Element& elemen
   });
 }
 
-/// A range of colors with the values at its ends.
-void addGradient(const std::string& name, const std::string& title, const Format& format,
+/// Whole numbers where it is rows that are counted.
+AxisTicks gradientTicks(const Dimension& colors, const Context& context) {
+  constexpr int most = 5;
+  if (!(colors.low < colors.high))
+    return {.values = {colors.low}, .label = valueText(colors.format(), "datum.value")};
+  AxisTicks ticks = axisTicks(colors, nullptr, {.numbers = most, .dates = most}, context);
+  if (colors.variables.empty())
+    std::erase_if(ticks.values, [](double value) { return value != std::floor(value); });
+  return ticks;
+}
+
+/// A range of colors with ticks as an axis of its values has them.
+void addGradient(const std::string& name, const std::string& title, const Variable* variable,
                  const Node& legend, Context& context) {
   const auto hasColors = [&](const Json& each) {
     return each.contains("fill") && each["fill"] == name;
   };
   if (std::ranges::any_of(context.parts.legends, hasColors)) return;
+  Dimension colors{.role = "color"};
+  if (variable != nullptr) colors.variables.push_back(variable);
+  for (const Json& scale : context.parts.scales) {
+    if (scale["name"] != name) continue;
+    colors.low = scale["domain"][0];
+    colors.high = scale["domain"][1];
+  }
+  const AxisTicks ticks = gradientTicks(colors, context);
   const Node* label = legend.child("label");
   context.parts.legends.push_back(
       {{"fill", name},
+       {"values", ticks.values},
        {"type", "gradient"},
        {"title", legendTitle(label && !label->text.empty() ? label->text : title)},
        {"gradientLength", 160},
        {"encode",
         {{"labels",
-          {{"update",
-            {{"text", {{"signal", valueText(format, "datum.value")}}},
-             {"dx", {{"value", 4}}}}}}}}}});
+          {{"update", {{"text", {{"signal", ticks.label}}}, {"dx", {{"value", 4}}}}}}}}}});
 }
 
 void addShadeLegend(const Element& element, const Node& legend, Context& context) {
   const Variable& shade = *element.shade;
   color(element, context); // adds the scale
-  addGradient(scaleName("shade", shade.id), shade.title, shade.format, legend, context);
+  addGradient(scaleName("shade", shade.id), shade.title, &shade, legend, context);
 }
 
 void addEntry(const Element& element, const Variable& group, std::vector<Entry>& entries,
@@ -90,7 +110,7 @@ void addTarget(const Node& target, const Node& legend, std::vector<Entry>& entri
   const Element* element = context.chart.find(*node);
   if (element == nullptr) return;
   if (element->method == Method::hexagons && element->type() != "point")
-    return addGradient(addCountScale(*element, context), "n", Format(), legend, context);
+    return addGradient(addCountScale(*element, context), "n", nullptr, legend, context);
   if (element->shade != nullptr) addShadeLegend(*element, legend, context);
   if (element->group == nullptr && element->shade == nullptr)
     return addNamed(*node, legend, context);

@@ -14,6 +14,7 @@
 #include "compute/Bins.h"
 #include "compute/View.h"
 #include "text/Expression.h"
+#include "text/PlainValue.h"
 #include "text/Show.h"
 #include "text/Wrap.h"
 #include "translate/AxisTicks.h"
@@ -176,6 +177,30 @@ const char* alignOf(double across) {
   return across > 0 ? "left" : "right";
 }
 
+/// Every how many ticks there is room for a label, which are about as wide as they are told
+/// plainly.
+std::size_t stepOfLabels(const std::vector<View::Point>& places, const AxisTicks& ticks,
+                         const Dimension& dimension, const Context& context) {
+  constexpr double gap = 6;
+  constexpr double height = theme::labelSize + 3;
+  const PlainValue text(dimension.format(), context.chart.folder->manifest);
+  double width = 0;
+  for (const double value : ticks.values)
+    width = std::max(width, gap + textWidth(text(value), theme::labelSize));
+  const auto fits = [&](std::size_t step) {
+    for (std::size_t i = step; i < places.size(); i += step) {
+      const View::Point& one = places[i - step];
+      if (std::abs(places[i].x - one.x) < width && std::abs(places[i].y - one.y) < height)
+        return false;
+    }
+    return true;
+  };
+  std::size_t step = 1;
+  while (step < places.size() && !fits(step))
+    ++step;
+  return step;
+}
+
 void addAxis(const Node& axis, std::size_t along, Context& context) {
   constexpr double labelGap = 14;
   constexpr double titleGap = 52;   // beyond labels above each other
@@ -189,13 +214,17 @@ void addAxis(const Node& axis, std::size_t along, Context& context) {
   if (const Node* majorTicks = axis.child("majorTicks")) {
     const double angle = labelAngle(*majorTicks, context.notes);
     const AxisTicks ticks = ticksAlong(roles[along], context);
+    std::vector<View::Point> places;
     for (const double value : ticks.values) {
       BoxPlace place = edge;
       place[along] = inBox(value, dimension);
-      const View::Point point = view.at(place);
-      addLabel({.text = {{"signal", ticks.labelOf(value)}},
-                .x = point.x + labelGap * outX,
-                .y = point.y + labelGap * outY,
+      places.push_back(view.at(place));
+    }
+    const std::size_t step = angle == 0 ? stepOfLabels(places, ticks, dimension, context) : 1;
+    for (std::size_t i = 0; i < places.size(); i += step) {
+      addLabel({.text = {{"signal", ticks.labelOf(ticks.values[i])}},
+                .x = places[i].x + labelGap * outX,
+                .y = places[i].y + labelGap * outY,
                 .align = alignOf(outX),
                 .angle = angle},
                context);

@@ -248,11 +248,27 @@ TEST_F(ElementsTest, TheColorsOfHexagonsHaveALegend) {
   ASSERT_EQ(plot["legends"].size(), 1U);
   EXPECT_EQ(plot["legends"][0]["fill"], "shade_e");
   EXPECT_EQ(plot["legends"][0]["title"], json({"Rows"}));
+  EXPECT_EQ(plot["legends"][0]["values"], json({0, 1, 2})) << "there are no halves of rows";
   for (const json& each : plot["scales"])
     if (each["name"] == "shade_e") {
       EXPECT_EQ(each["domain"], json({0, 2}));
     }
   EXPECT_EQ(drawn["usermeta"]["notes"], json::array());
+}
+
+TEST_F(ElementsTest, ARangeOfColorsHasTheTicksOfAnAxisOfItsValues) {
+  const auto legend = [this](const char* rows) {
+    return spec(
+        element("point", R"(<x variable="v1"/><y variable="v1"/><color variable="v2"/>)"),
+        std::string("A,B,Group\n") + rows,
+        R"(<frame id="f"><legend id="l"><legendTarget element="e"/></legend></frame>)")["marks"][0]
+                                                                                       ["legends"]
+                                                                                       [0];
+  };
+  const json drawn = legend("1,0.31,a\n2,1.07,a\n");
+  EXPECT_EQ(drawn["values"], json({0.4, 0.6, 0.8, 1.0}));
+  EXPECT_EQ(drawn["encode"]["labels"]["update"]["text"]["signal"], R"(format(datum.value,".1f"))");
+  EXPECT_EQ(legend("1,7,a\n2,7,a\n")["values"], json({7}));
 }
 
 TEST_F(ElementsTest, TheNameOfAStyleSaysWhatALineOrAPointLooksLike) {

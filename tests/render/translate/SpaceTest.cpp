@@ -1,5 +1,6 @@
 // Three dimensions: how the box is seen, and what is drawn in it.
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <string_view>
@@ -78,9 +79,15 @@ TEST_F(SpaceTest, PointsStandWhereTheViewPutsThemTheNearestLast) {
   std::vector<json> texts;
   for (const json& mark : marks())
     if (mark["type"] == "text") texts.push_back(mark["encode"]["update"]["text"]);
-  EXPECT_EQ(texts.size(), 7U) << "six ticks and the title";
+  EXPECT_EQ(texts.size(), 4U) << "every other one of six ticks, which would overlap, and the title";
+  EXPECT_THAT(texts[1]["signal"].get<std::string>(), testing::HasSubstr("format(40,"));
   EXPECT_EQ(texts.back(), json({{"value", {"C label"}}}));
   EXPECT_EQ(notes(), json::array());
+  draw(R"(<coordinateTransform method="rectangular"><parameter name="phi" value="-60"/>
+    </coordinateTransform>)");
+  EXPECT_EQ(
+      std::ranges::count(marks(), json("text"), [](const json& mark) { return mark["type"]; }), 7)
+      << "all where the edge is longer";
 }
 
 TEST_F(SpaceTest, GuidesDrawSidesAndEdgesOfTheBox) {
