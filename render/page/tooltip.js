@@ -43,11 +43,15 @@ function nearest({mark}, event, container) {
   return shown.reduce((best, item) => (wayTo(item) < wayTo(best) ? item : best), shown[0]);
 }
 
-/** For Vega's View: shows the tooltips of marks in a picture within `container`. */
+/**
+ * For Vega's View: shows the tooltips of marks in a picture within `container`. Vega itself
+ * finds places of a line only where the pointer is upon them.
+ */
 export function tooltipHandler(container, theme) {
   const handler = new Handler({theme, formatTooltip});
   return (vega, event, item, tell) => {
-    const isOfMany = tell && (item.mark.marktype === 'line' || item.mark.marktype === 'area');
-    handler.call(vega, event, item, isOfMany ? nearest(item, event, container).tooltip : tell);
+    const [first] = [event.target.__data__].flat();
+    const isOfMany = event.type !== 'mouseout' && /^(line|area)$/.test(first?.mark?.marktype);
+    handler.call(vega, event, item, isOfMany ? nearest(first, event, container).tooltip : tell);
   };
 }
