@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include <fmt/format.h>
+
 #include "resolve/Domain.h"
 #include "resolve/ScaleMethod.h"
 #include "resolve/Ticks.h"
