@@ -71,8 +71,8 @@ void addTexts(const Json& json, bool withPlain, Letters& letters) {
   }
 }
 
-/// Titles are bold, subtitles not, nor what says so. The text of a legend's title is the
-/// title itself.
+/// Titles are bold unless they say otherwise; subtitles are not. That of a legend is a text
+/// alone.
 void addTitle(const Json& title, Letters& bold) {
   if (!title.is_object()) return addTexts(title, true, bold);
   if (title.value("fontWeight", "bold") != "normal")
