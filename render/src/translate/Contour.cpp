@@ -1,5 +1,6 @@
 #include "text/Expression.h"
 #include "translate/Encode.h"
+#include "translate/LineMark.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
 
@@ -15,12 +16,7 @@ void translateContour(const Node& node, Context& context) {
   update["strokeOpacity"] = {{"signal", "0.4+datum.value/150"}};
   update["tooltip"] = {{"signal", "[[\"\",format(datum.value/100,\"%\")]]"}};
   context.parts.data.push_back(elementData(*element, context));
-  addMark(*element,
-          {{"type", "line"},
-           {"from", nullptr},
-           {"clip", isClipped(context.chart)},
-           {"encode", {{"update", std::move(update)}}}},
-          true, context);
+  addLineMark(*element, std::move(update), context);
 }
 
 } // namespace render

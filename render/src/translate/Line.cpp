@@ -3,6 +3,7 @@
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
+#include "translate/LineMark.h"
 #include "translate/PlaceOrder.h"
 #include "translate/Style.h"
 #include "translate/StyleCycle.h"
@@ -18,7 +19,7 @@ bool goesAround(const Element& element, const Context& context) {
          element.place()->categorical;
 }
 
-Json lineMark(const Element& element, Context& context) {
+Json looksOf(const Element& element, Context& context) {
   Json update = positions(element, context);
   // A curve over bars of the first color has to differ from them.
   const bool isOverBars = element.method == Method::distribution && element.group == nullptr;
@@ -46,10 +47,7 @@ Json lineMark(const Element& element, Context& context) {
     update.erase("strokeDash");
     if (look->isDashed) update["strokeDash"] = {{"value", theme::functionDash(0)}};
   }
-  return {{"type", "line"},
-          {"from", nullptr},
-          {"clip", isClipped(context.chart)},
-          {"encode", {{"update", std::move(update)}}}};
+  return update;
 }
 
 } // namespace
@@ -63,7 +61,7 @@ void translateLine(const Node& node, Context& context) {
   // A path goes as its rows do.
   if (element->type() == "line") sortAlongPlace(*element, context, data);
   context.parts.data.push_back(std::move(data));
-  addMark(*element, lineMark(*element, context), true, context);
+  addLineMark(*element, looksOf(*element, context), context);
   addLabels(*element, context);
 }
 

@@ -1,4 +1,5 @@
 #include "translate/Encode.h"
+#include "translate/LineMark.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
 #include "translate/Translator.h"
@@ -18,12 +19,7 @@ void translatePolygon(const Node& node, Context& context) {
       isHollow(node, context.chart) ? Json{{"value", "transparent"}} : color(*element, context);
   update["fillOpacity"] = {{"value", theme::fillOpacity}};
   context.parts.data.push_back(elementData(*element, context));
-  addMark(*element,
-          {{"type", "line"},
-           {"from", nullptr},
-           {"clip", isClipped(context.chart)},
-           {"encode", {{"update", std::move(update)}}}},
-          true, context);
+  addLineMark(*element, std::move(update), context);
 }
 
 } // namespace render
