@@ -6,6 +6,7 @@
 #include "text/Expression.h"
 #include "text/PlainValue.h"
 #include "text/Wrap.h"
+#include "translate/Cell.h"
 #include "translate/FacetLabels.h"
 #include "translate/Filling.h"
 #include "translate/Groups.h"
@@ -15,12 +16,6 @@
 namespace render {
 namespace {
 
-Json cell(const Variable& variable, std::size_t row) {
-  if (variable.isMissing(row)) return nullptr;
-  if (variable.categorical) return (*variable.texts)[row];
-  return jsonNumber(variable.numbers[row]);
-}
-
 /// The rows of each data source, with a field for each variable.
 Json sources(const std::vector<Excerpt>& excerpts) {
   Json data = Json::array();
@@ -29,7 +24,7 @@ Json sources(const std::vector<Excerpt>& excerpts) {
     for (const std::size_t row : excerpt.rows) {
       Json fields = Json::object();
       for (const Variable* variable : excerpt.variables)
-        fields[variable->id] = cell(*variable, row);
+        fields[variable->id] = cellOf(*variable, row);
       rows.push_back(std::move(fields));
     }
     data.push_back({{"name", excerpt.source}, {"values", std::move(rows)}});

@@ -11,11 +11,8 @@ namespace {
 /// Sentences, each closed by a full stop of the language unless it has an end.
 class Sentences {
 public:
-  explicit Sentences(std::string_view language) {
-    const bool isWide = language == "ja" || language.starts_with("zh");
-    stop_ = isWide ? "。" : ".";
-    gap_ = isWide ? "" : " ";
-  }
+  explicit Sentences(std::string_view language)
+      : stop_(language == "ja" || language.starts_with("zh") ? "。" : ".") {}
 
   /// The lines of a text are sentences of their own.
   void addLines(std::string_view text) {
@@ -28,9 +25,10 @@ public:
 
   void add(std::string_view sentence) {
     if (sentence.empty()) return;
-    if (!text_.empty()) text_.append(isEnded() ? "" : stop_).append(gap_);
+    if (!text_.empty()) text_.append(isEnded() ? "" : stop_).append(hasWideEnd() ? "" : " ");
     text_ += sentence;
   }
+
   /// All of them; what ends without a sign gets its stop.
   std::string text() const {
     return text_.empty() || isEnded() ? text_ : text_ + std::string(stop_);
@@ -42,7 +40,10 @@ private:
     return std::ranges::any_of(ends, [this](std::string_view end) { return text_.ends_with(end); });
   }
 
-  std::string_view stop_, gap_;
+  /// Wide stops have their gap in them.
+  bool hasWideEnd() const { return static_cast<unsigned char>(text_.back()) >= 0x80; }
+
+  std::string_view stop_;
   std::string text_;
 };
 

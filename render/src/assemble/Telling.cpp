@@ -50,8 +50,9 @@ std::string Telling::withAddition(const std::string& text, const std::string& ad
 std::string Telling::list(const std::vector<std::string>& texts) const {
   const std::string comma = words("Comma");
   const std::string sign = comma.substr(0, comma.find_last_not_of(' ') + 1);
-  const bool haveCommas = std::ranges::any_of(
-      texts, [&sign](const std::string& text) { return text.find(sign) != text.npos; });
+  const bool haveCommas = std::ranges::any_of(texts, [&sign](const std::string& text) {
+    return text.find(sign) != text.npos || text.find(", ") != text.npos;
+  });
   const std::string between = haveCommas ? words("Semicolon") : comma;
   std::string list;
   std::size_t count = 0;

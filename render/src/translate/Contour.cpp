@@ -2,6 +2,7 @@
 
 #include "text/Expression.h"
 #include "translate/Encode.h"
+#include "translate/LineMark.h"
 #include "translate/Theme.h"
 #include "translate/Tooltip.h"
 #include "translate/Translator.h"
@@ -31,13 +32,7 @@ void translateContour(const Node& node, Context& context) {
   entries.push_back(entry("", densityText(context.words)));
   update["tooltip"] = tooltipOf(entries);
   context.parts.data.push_back(elementData(*element, context));
-  addMark(*element,
-          {{"type", "line"},
-           {"from", nullptr},
-           {"clip", isClipped(context.chart)},
-           {"walk", {{"whole", true}}},
-           {"encode", {{"update", std::move(update)}}}},
-          true, context);
+  addLineMark(*element, std::move(update), {{"whole", true}}, context);
 }
 
 } // namespace render

@@ -6,6 +6,7 @@
 
 #include "resolve/ScaleMethod.h"
 #include "text/Expression.h"
+#include "translate/Cell.h"
 #include "translate/Encode.h"
 #include "translate/Space.h"
 
@@ -15,17 +16,11 @@ namespace {
 constexpr std::array<const char*, 6> partNames{"",       "whisker", "box",
                                                "median", "outlier", "extreme"};
 
-Json valueOf(const Variable& variable, std::size_t row) {
-  if (variable.isMissing(row)) return nullptr;
-  if (variable.categorical) return (*variable.texts)[row];
-  return jsonNumber(variable.numbers[row]);
-}
-
 void addVariables(Json& fields, const Element& element, const Item& item) {
   const auto add = [&](const Variable* variable, bool isOneRow) {
     const bool isShown =
         variable != nullptr && variable->texts != nullptr && (variable->categorical || isOneRow);
-    if (isShown) fields[variable->id] = valueOf(*variable, item.row);
+    if (isShown) fields[variable->id] = cellOf(*variable, item.row);
   };
   const bool isRow = element.method == Method::none;
   for (const Variable* variable :

@@ -3,6 +3,7 @@
 #include "text/Expression.h"
 #include "translate/Encode.h"
 #include "translate/Groups.h"
+#include "translate/LineMark.h"
 #include "translate/PlaceOrder.h"
 #include "translate/Style.h"
 #include "translate/StyleCycle.h"
@@ -19,7 +20,7 @@ bool goesAround(const Element& element, const Context& context) {
          element.place()->categorical;
 }
 
-Json lineMark(const Element& element, Context& context) {
+Json looksOf(const Element& element, Context& context) {
   Json update = positions(element, context);
   // A curve over bars of the first color has to differ from them.
   const bool isOverBars = element.method == Method::distribution && element.group == nullptr;
@@ -47,12 +48,7 @@ Json lineMark(const Element& element, Context& context) {
   }
   update["tooltip"] = tooltip(element, context);
   update["description"] = seriesDescription(element, context);
-  Json mark{{"type", "line"},
-            {"from", nullptr},
-            {"clip", isClipped(context.chart)},
-            {"encode", {{"update", std::move(update)}}}};
-  if (element.method == Method::distribution) mark["walk"]["curve"] = true;
-  return mark;
+  return update;
 }
 
 } // namespace
@@ -66,7 +62,8 @@ void translateLine(const Node& node, Context& context) {
   // A path goes as its rows do.
   if (element->type() == "line") sortAlongPlace(*element, context, data);
   context.parts.data.push_back(std::move(data));
-  addMark(*element, lineMark(*element, context), true, context);
+  const Json walk = element->method == Method::distribution ? Json{{"curve", true}} : Json();
+  addLineMark(*element, looksOf(*element, context), walk, context);
   addLabels(*element, context);
 }
 

@@ -1,4 +1,5 @@
 #include "translate/Encode.h"
+#include "translate/LineMark.h"
 #include "translate/Style.h"
 #include "translate/Theme.h"
 #include "translate/Tooltip.h"
@@ -20,13 +21,7 @@ void translatePolygon(const Node& node, Context& context) {
   update["fillOpacity"] = {{"value", theme::fillOpacity}};
   update["tooltip"] = seriesTooltip(*element, context);
   context.parts.data.push_back(elementData(*element, context));
-  addMark(*element,
-          {{"type", "line"},
-           {"from", nullptr},
-           {"clip", isClipped(context.chart)},
-           {"walk", {{"whole", true}}},
-           {"encode", {{"update", std::move(update)}}}},
-          true, context);
+  addLineMark(*element, std::move(update), {{"whole", true}}, context);
 }
 
 } // namespace render

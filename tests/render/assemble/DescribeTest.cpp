@@ -51,7 +51,7 @@ TEST(Describe, TellsKindRangesGroupsTrendAndOutliersInTheChartsLanguage) {
             "What it is about. Liniendiagramm. x-Achse: A label von 0 bis 2,5. y-Achse: b von 0 "
             "bis 3. Werte: 0: 3; 1: 2; 2,5: 0. Verlauf: fallend, Korrelation -0,997.");
   EXPECT_EQ(describe(line, "A,B,Group\n0,1,a\n1,1,a\n2,1,a\n", "ja"),
-            "What it is about.折れ線グラフ。x軸: A label、0から2まで。y軸: b、常に1。値: 0: 1、1: "
+            "What it is about. 折れ線グラフ。x軸: A label、0から2まで。y軸: b、常に1。値: 0: 1、1: "
             "1、2: 1。");
 }
 
