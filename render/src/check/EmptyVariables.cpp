@@ -12,8 +12,8 @@ namespace render {
 namespace {
 
 std::string lackOf(const Variable& variable) {
-  const Table::Column& texts = *variable.texts;
-  if (std::ranges::all_of(texts, &std::string::empty))
+  const Column& texts = *variable.texts;
+  if (std::ranges::all_of(texts.texts(), &std::string_view::empty))
     return fmt::format("{} has no value in any of {} rows; load its values, or leave it out",
                        called(variable), texts.size());
   const auto isMissing = [](double value) { return std::isnan(value); };

@@ -33,7 +33,7 @@ bool isMeasured(const Variable& variable) {
     values.push_back(value);
   }
   const auto count =
-      std::ranges::count_if(*variable.texts, [](const std::string& text) { return !text.empty(); });
+      std::ranges::count_if(variable.codes, [](double code) { return !std::isnan(code); });
   std::ranges::sort(values);
   return static_cast<std::size_t>(count) == values.size() && !isEven(values);
 }

@@ -15,7 +15,7 @@ public:
   void name(std::size_t, std::string_view text) override { table_.names.emplace_back(text); }
   void headerEnd(std::size_t columns) override { table_.columns.resize(columns); }
   void cell(std::size_t, std::size_t column, std::string_view text) override {
-    table_.columns[column].emplace_back(text);
+    table_.columns[column].add(text);
   }
 
 private:
@@ -35,7 +35,7 @@ Table Table::read(const std::filesystem::path& file) {
   return table;
 }
 
-const Table::Column* Table::find(std::string_view name) const {
+const Column* Table::find(std::string_view name) const {
   const auto found = std::ranges::find(names, name);
   return found == names.end() ? nullptr : &columns[static_cast<std::size_t>(found - names.begin())];
 }

@@ -6,12 +6,12 @@
 #include <string_view>
 #include <vector>
 
+#include "read/Column.h"
+
 namespace render {
 
 /// The rows of one data source, column by column; a missing value is empty.
 struct Table {
-  using Column = std::vector<std::string>;
-
   std::vector<std::string> names;
   std::vector<Column> columns;
   std::size_t rowCount = 0;

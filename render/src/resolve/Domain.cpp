@@ -84,7 +84,7 @@ using Ranks = std::map<std::string_view, double>;
 Ranks firstRows(const Dimension& dimension) {
   Ranks ranks;
   for (const Variable* variable : dimension.variables)
-    for (const std::string_view text : *variable->texts)
+    for (const std::string_view text : variable->texts->texts())
       ranks.try_emplace(text, static_cast<double>(ranks.size()));
   return ranks;
 }

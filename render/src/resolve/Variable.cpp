@@ -21,11 +21,11 @@ constexpr double missing = std::numeric_limits<double>::quiet_NaN();
 /// there too.
 constexpr double largest = 1e300;
 
-std::vector<double> readNumbers(const Table::Column& texts, std::string_view title, Notes& notes) {
+std::vector<double> readNumbers(const Column& texts, std::string_view title, Notes& notes) {
   std::vector<double> numbers;
   numbers.reserve(texts.size());
   std::size_t refused = 0;
-  for (const std::string& text : texts) {
+  for (const std::string_view text : texts.texts()) {
     double value = numberOf(text);
     if (!(std::abs(value) <= largest)) {
       if (!text.empty()) ++refused;
@@ -64,9 +64,10 @@ Category unlabelled(const std::string& key, const Format& format) {
           .expression = isFormatted ? valueText(format, literal(value)) : std::string()};
 }
 
-std::vector<Category> readCategories(const Node& node, const Table::Column& texts,
-                                     const Format& format, const std::string& language) {
-  const std::unordered_set<std::string_view> distinct(texts.begin(), texts.end());
+std::vector<Category> readCategories(const Node& node, const Column& texts, const Format& format,
+                                     const std::string& language) {
+  const auto all = texts.texts();
+  const std::unordered_set<std::string_view> distinct(all.begin(), all.end());
   std::vector<std::string> keys;
   for (const std::string_view key : distinct)
     if (!key.empty()) keys.emplace_back(key);
@@ -111,27 +112,30 @@ std::string rowsOf(const Node& node, const ChartFolder& folder) {
   return std::string(id);
 }
 
-const Table::Column* findColumn(const Node& node, const Table* table) {
+const Column* findColumn(const Node& node, const Table* table) {
   return table == nullptr ? nullptr : table->find(node.attribute("sourceName"));
 }
 
 /// "constant(label)" is the value label; any other text is a value itself.
-std::shared_ptr<const Table::Column> constantColumn(const Node& node, const Table* table) {
+std::shared_ptr<const Column> constantColumn(const Node& node, const Table* table) {
   constexpr std::string_view begin = "constant(";
   std::string_view value = node.attribute("value");
   if (value.empty() || table == nullptr) return nullptr;
   if (value.starts_with(begin) && value.ends_with(')'))
     value = value.substr(begin.size(), value.size() - begin.size() - 1);
-  return std::make_shared<Table::Column>(table->rowCount, std::string(value));
+  const auto column = std::make_shared<Column>();
+  for (std::size_t row = 0; row < table->rowCount; ++row)
+    column->add(value);
+  return column;
 }
 
-std::vector<double> codesOf(const Table::Column& texts, const std::vector<Category>& categories) {
+std::vector<double> codesOf(const Column& texts, const std::vector<Category>& categories) {
   std::unordered_map<std::string_view, double> codeOfKey;
   for (const Category& category : categories)
     codeOfKey.try_emplace(category.key, static_cast<double>(codeOfKey.size()));
   std::vector<double> codes;
   codes.reserve(texts.size());
-  for (const std::string& text : texts)
+  for (const std::string_view text : texts.texts())
     codes.push_back(text.empty() ? missing : codeOfKey.at(text));
   return codes;
 }
@@ -162,10 +166,10 @@ std::string labelled(const std::vector<ValueLabel>& labels, std::string_view val
 }
 
 bool Variable::isMissing(std::size_t row) const {
+  if (members.empty()) return std::isnan((categorical ? codes : numbers)[row]);
   const auto isMissingIn = [row](const Variable* member) { return member->isMissing(row); };
-  if (isMatrix) return std::ranges::any_of(members, isMissingIn);
-  if (!members.empty()) return std::ranges::all_of(members, isMissingIn);
-  return categorical ? (*texts)[row].empty() : std::isnan(numbers[row]);
+  return isMatrix ? std::ranges::any_of(members, isMissingIn)
+                  : std::ranges::all_of(members, isMissingIn);
 }
 
 Variable readVariable(const Node& node, const ChartFolder& folder, Notes& notes) {

@@ -34,14 +34,14 @@ struct Variable {
   bool isWeight = false; ///< tells how often each row counts
   Format format;
 
-  const Table::Column* texts = nullptr;   ///< null when it has no data
+  const Column* texts = nullptr;          ///< null when it has no data
   std::vector<double> numbers;            ///< of a continuous variable; NaN is missing
   std::vector<Category> categories{};     ///< of a categorical one, in drawing order
   std::vector<double> codes{};            ///< the index of each row's category; NaN is missing
   std::vector<const Variable*> members{}; ///< of a variable that is composed of others
   std::vector<ValueLabel> valueLabels{};  ///< of a continuous variable
   bool isMatrix = false; ///< each member has panels of its own; rows need all of them
-  std::shared_ptr<const Table::Column> constants{}; ///< the values of a constant
+  std::shared_ptr<const Column> constants{}; ///< the values of a constant
 
   bool isMissing(std::size_t row) const;
 };
