@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 #include <host/DataSet.h>
+#include <host/RegularFile.h>
 
 namespace host {
 namespace {
@@ -24,13 +25,17 @@ struct CloseFile {
 
 } // namespace
 
+void requireRegularFile(const std::filesystem::path& path) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  if (!std::filesystem::exists(status)) fail(path, error.message());
+  if (!std::filesystem::is_regular_file(status)) fail(path, "not a regular file");
+}
+
 void readFile(const std::filesystem::path& path,
               const std::function<void(std::string_view piece)>& take) {
   constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-  std::error_code error;
-  const auto status = std::filesystem::status(path, error);
-  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
-    fail(path, "not a regular file");
+  requireRegularFile(path);
   const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(path.c_str(), "rb"));
   if (!file) fail(path, systemReason());
 

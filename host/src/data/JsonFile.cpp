@@ -16,13 +16,10 @@ using nlohmann::json;
 
 namespace {
 
-/// What the parser says without its own prefix and without the token that it
-/// read last, which may be of any length.
-std::string reasonOf(const json::parse_error& error) {
-  const std::string_view what = error.what();
-  const std::string_view reason = what.substr(what.find(": ") + 2);
+/// What the parser says without the token that it read last, which may be of any length.
+std::string withoutToken(const std::string& reason) {
   const auto token = reason.find("; last read");
-  if (token == std::string_view::npos) return std::string(reason);
+  if (token == reason.npos) return reason;
   const auto expected = std::min(reason.rfind("; expected"), reason.size());
   return fmt::format("{}{}", reason.substr(0, token), reason.substr(expected));
 }
@@ -37,19 +34,37 @@ std::string at(std::istringstream& in, const std::filesystem::path& file, std::s
   return fmt::format("{}:{}:{}: {}", file.native(), line, column, reason);
 }
 
-} // namespace
-
-json readJson(const std::filesystem::path& file) {
+template <class Json>
+Json readAs(const std::filesystem::path& file, const typename Json::parser_callback_t& keep) {
   std::string text;
   readFile(file, [&](std::string_view piece) { text += piece; });
   std::istringstream in(std::move(text));
   try {
-    return json::parse(in);
+    return Json::parse(in, keep);
   } catch (const json::parse_error& error) {
-    throw DataError(at(in, file, reasonOf(error)));
+    throw DataError(at(in, file, withoutToken(reasonOf(error))));
   } catch (const json::out_of_range&) {
     throw DataError(at(in, file, "a number is out of the range of numbers"));
   }
+}
+
+} // namespace
+
+std::string reasonOf(const json::exception& error) {
+  // "[json.exception.parse_error.101] parse error at line 1, column 2: <reason>", or
+  // without a place
+  std::string_view what = error.what();
+  what.remove_prefix(std::min(what.find("] ") + 2, what.size()));
+  if (what.starts_with("parse error")) what.remove_prefix(what.find(": ") + 2);
+  return std::string(what);
+}
+
+json readJson(const std::filesystem::path& file, const json::parser_callback_t& keep) {
+  return readAs<json>(file, keep);
+}
+
+nlohmann::ordered_json readOrderedJson(const std::filesystem::path& file) {
+  return readAs<nlohmann::ordered_json>(file, nullptr);
 }
 
 std::string shownJson(const json& value) {

@@ -1,17 +1,14 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 
+#include <host/JsonFile.h>
 #include <nlohmann/json.hpp>
 
 /// Checked access to JSON that a person wrote; what is not as it should be is
 /// thrown as Refusal.
 namespace host {
-
-/// Parses a JSON file. Throws DataError, "<file>:<line>:<column>: <reason>".
-nlohmann::json readJson(const std::filesystem::path& file);
 
 /// A member, or null when it is absent.
 const nlohmann::json* member(const nlohmann::json& object, const char* key);

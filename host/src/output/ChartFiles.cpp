@@ -75,7 +75,7 @@ public:
 
   bool parse_error(std::size_t, const std::string&,
                    const nlohmann::detail::exception& error) override {
-    reason_ = error.what();
+    reason_ = reasonOf(error);
     return false;
   }
   const std::string& reason() const { return reason_; }

@@ -20,6 +20,10 @@ public:
 
 using Findings = std::vector<host::Finding>;
 
+/// The check whose findings tell that a folder's data are not those that it was written
+/// with; others tell what was wrong from the beginning.
+constexpr const char* changedData = "changed-data";
+
 /// Writes chart.vg.json and chart.html into a chart folder, from its chart.xml,
 /// its CSV files and, when it is there, its manifest.json. The same folder gives
 /// the same bytes; each file appears whole or not at all. What the chart asks for
@@ -32,6 +36,10 @@ Findings writeChart(const std::filesystem::path& chartFolder, const std::string&
 /// The checks of a chart folder alone; nothing is written. Throws RenderError when the
 /// chart cannot be read.
 Findings findingsOf(const std::filesystem::path& chartFolder);
+
+/// The CSV files that a chart document reads, by their names in a chart folder. Throws
+/// RenderError when the document cannot be read.
+std::vector<std::string> dataFilesOf(const std::filesystem::path& document);
 
 /// The names of the themes that charts are drawn in, the usual one first.
 std::vector<std::string> themes();

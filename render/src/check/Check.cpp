@@ -1,5 +1,7 @@
 #include "check/Check.h"
 
+#include <render/Pages.h>
+
 namespace render {
 namespace {
 
@@ -13,7 +15,9 @@ constexpr Rule rules[] = {
     {"lost-reference", checkReferences},
     {"lost-target", checkLegendTargets},
     {"role-twice", checkRoles},
+    {changedData, checkChangedData},
     {"empty-variable", checkEmptyVariables},
+    {"stray-text", checkStrayTexts},
     {"unrepeated-numbers", checkUnrepeatedNumbers},
     {"logarithm", checkLogarithms},
     {"empty-panel", checkEmptyPanels},

@@ -10,6 +10,7 @@ namespace render {
 void check(const Chart& chart, Notes& notes);
 
 // One rule each, in a file of its own.
+void checkChangedData(const Chart& chart, Report& report);
 void checkEmptyVariables(const Chart& chart, Report& report);
 void checkEmptyPanels(const Chart& chart, Report& report);
 void checkGlyphs(const Chart& chart, Report& report);
@@ -17,6 +18,7 @@ void checkLegendTargets(const Chart& chart, Report& report);
 void checkLogarithms(const Chart& chart, Report& report);
 void checkReferences(const Chart& chart, Report& report);
 void checkRoles(const Chart& chart, Report& report);
+void checkStrayTexts(const Chart& chart, Report& report);
 void checkUnrepeatedNumbers(const Chart& chart, Report& report);
 
 } // namespace render

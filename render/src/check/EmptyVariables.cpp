@@ -1,6 +1,5 @@
 // Variables that the chart uses and that have no value.
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <set>
 
@@ -11,15 +10,6 @@
 
 namespace render {
 namespace {
-
-/// Columns of these names are counted while the chart is drawn.
-constexpr std::array<std::string_view, 3> countedColumns{"countname", "percentname", "casenum"};
-
-bool hasOwnColumn(const Node& node) {
-  const bool isCounted =
-      std::ranges::find(countedColumns, node.attribute("sourceName")) != countedColumns.end();
-  return !isCounted && node.attribute("value").empty() && node.attribute("expression").empty();
-}
 
 std::string lackOf(const Variable& variable) {
   const Table::Column& texts = *variable.texts;
@@ -47,12 +37,8 @@ void checkEmptyVariables(const Chart& chart, Report& report) {
     if (!hasRows && withoutRows.insert(variable->source).second)
       report.add(*source, "the chart uses its variables and it has no rows; add rows and load "
                           "their values");
-    if (!hasRows) continue;
-    if (variable->texts == nullptr)
-      report.add(*variable,
-                 fmt::format("{} has no values; load them, or leave it out", called(*variable)));
-    else if (const std::string lack = lackOf(*variable); !lack.empty())
-      report.add(*variable, lack);
+    if (!hasRows || variable->texts == nullptr) continue; // a lost column is changed data
+    if (const std::string lack = lackOf(*variable); !lack.empty()) report.add(*variable, lack);
   }
 }
 

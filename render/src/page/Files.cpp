@@ -6,6 +6,8 @@
 #include <system_error>
 
 #include <fmt/format.h>
+#include <host/DataSet.h>
+#include <host/RegularFile.h>
 #include <unistd.h>
 
 namespace render {
@@ -40,6 +42,11 @@ void writeFile(const std::filesystem::path& file, std::string_view bytes) {
 }
 
 std::string readFile(const std::filesystem::path& file) {
+  try {
+    host::requireRegularFile(file);
+  } catch (const host::DataError& e) {
+    throw RenderError(e.what());
+  }
   errno = 0;
   std::ifstream stream(file, std::ios::binary);
   std::string bytes(std::istreambuf_iterator<char>(stream), {});

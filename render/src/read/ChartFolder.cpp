@@ -1,11 +1,13 @@
 #include "read/ChartFolder.h"
 
-#include <fstream>
-
 #include <fmt/format.h>
+#include <host/DataSet.h>
+#include <host/JsonFile.h>
 #include <host/Locale.h>
 #include <nlohmann/json.hpp>
 #include <render/Pages.h>
+
+#include "read/Sources.h"
 
 namespace render {
 namespace {
@@ -15,11 +17,8 @@ std::map<std::string, Table, std::less<>> readTables(const std::filesystem::path
   std::map<std::string, Table, std::less<>> tables;
   for (const Node& node : graph.children) {
     if (node.kind != "source" || node.id().empty()) continue;
-    const std::filesystem::path name = std::string(node.id()) + ".csv";
-    if (name != name.filename())
-      throw RenderError(fmt::format("{}: the source id \"{}\" names no file",
-                                    (folder / "chart.xml").native(), node.id()));
-    if (exists(folder / name))
+    const std::string name = csvNameIn(folder / "chart.xml", node.id());
+    if (exists(folder / name) || isRead(node.id(), graph))
       tables.try_emplace(std::string(node.id()), Table::read(folder / name));
   }
   return tables;
@@ -37,10 +36,9 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
   Manifest manifest;
   manifest.name = chartFolder.filename().native();
   const std::filesystem::path file = chartFolder / "manifest.json";
-  std::ifstream stream(file);
-  if (!stream) return manifest;
+  if (!exists(file)) return manifest;
   try {
-    const nlohmann::json json = nlohmann::json::parse(stream, skipLongParts);
+    const nlohmann::json json = host::readJson(file, skipLongParts);
     if (!json.is_object()) throw RenderError(fmt::format("{}: not an object", file.native()));
     const std::string name = json.value("name", "");
     if (!name.empty()) manifest.name = name;
@@ -55,8 +53,13 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
     const nlohmann::json signs = json.value("numberSigns", nlohmann::json::object());
     manifest.signs = {.decimal = signs.value("decimal", usual.decimal),
                       .grouping = signs.value("grouping", usual.grouping)};
+    for (const nlohmann::json& source : json.value("sources", nlohmann::json::array()))
+      if (source.is_object() && source.contains("rows"))
+        manifest.rowsOfFile.emplace(source.value("file", ""), source["rows"].get<std::size_t>());
+  } catch (const host::DataError& e) {
+    throw RenderError(e.what());
   } catch (const nlohmann::json::exception& e) {
-    throw RenderError(fmt::format("{}: {}", file.native(), e.what()));
+    throw RenderError(fmt::format("{}: {}", file.native(), host::reasonOf(e)));
   }
   return manifest;
 }

@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "read/Document.h"
 #include "read/Table.h"
@@ -31,11 +32,19 @@ struct Manifest {
   std::string chartTemplate{}; ///< names the theme that it is drawn in
   std::optional<Icicle> icicle{};
   NumberSigns signs{}; ///< those of the language, unless the manifest has its own
+  std::map<std::string, std::size_t, std::less<>> rowsOfFile{}; ///< of each source's CSV file
 
   /// Reads manifest.json of a chart folder; a folder without one has a manifest
   /// that names the folder. Throws RenderError.
   static Manifest read(const std::filesystem::path& chartFolder);
 };
+
+/// Whether a variable has a column of its own in its source: it is neither composed nor
+/// constant nor counted while the chart is drawn.
+bool hasOwnColumn(const Node& variable);
+
+/// What a source's CSV file is called.
+std::string csvNameOf(std::string_view source);
 
 /// A chart as its folder holds it.
 struct ChartFolder {

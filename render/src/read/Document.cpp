@@ -1,6 +1,8 @@
 #include "read/Document.h"
 
 #include <fmt/format.h>
+#include <host/DataSet.h>
+#include <host/RegularFile.h>
 #include <host/Text.h>
 #include <render/Pages.h>
 #include <xercesc/dom/DOM.hpp>
@@ -81,7 +83,10 @@ Document Document::read(const std::filesystem::path& file) {
   };
   std::unique_ptr<Node> graph;
   try {
+    host::requireRegularFile(file);
     graph = readGraph(file);
+  } catch (const host::DataError& e) {
+    throw RenderError(e.what());
   } catch (const xercesc::XMLException& e) {
     refuse(host::utf8(e.getMessage()));
   } catch (const TooDeep&) {
