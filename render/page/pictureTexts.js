@@ -1,6 +1,7 @@
 // Pictures say what they show: a title and a description in SVG, text chunks in PNG.
 // Shared by the page and the program that draws without a browser.
 
+import {withOwnIds} from './ids.js';
 import {patternsOf} from './patterns.js';
 
 const escapes = {'&': '&amp;', '<': '&lt;', '>': '&gt;'};
@@ -15,11 +16,14 @@ export const textsOfPicture = (spec) => ({
 /** How much larger than its plot says a Vega chart is shown. */
 export const magnificationOf = (spec) => spec.usermeta?.theme?.magnification ?? 1;
 
-/** Vega's SVG of a chart with its texts and its patterns as the first elements. */
+/**
+ * Vega's SVG of a chart with its texts and its patterns as the first elements, and with ids
+ * of its own.
+ */
 export function wholeSvg(svg, spec) {
   const {title, description} = textsOfPicture(spec);
-  return svg.replace(/<svg[^>]*>/, (open) =>
-    `${open}<title>${escape(title)}</title><desc>${escape(description)}</desc>${patternsOf(spec)}`);
+  return withOwnIds(svg.replace(/<svg[^>]*>/, (open) =>
+    `${open}<title>${escape(title)}</title><desc>${escape(description)}</desc>${patternsOf(spec)}`));
 }
 
 const crcTable = Uint32Array.from({length: 256}, (_, byte) => {
