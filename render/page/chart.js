@@ -4,11 +4,15 @@ import {patternsOf} from './patterns.js';
 import {magnificationOf} from './pictureTexts.js';
 import {tooltipHandler} from './tooltip.js';
 
-/** Shows the picture larger than Vega draws it, where its theme says so. */
-function magnify(container, spec) {
-  const svg = container.querySelector('svg');
-  const magnification = magnificationOf(spec);
-  if (magnification !== 1) svg.style.width = `${svg.width.baseVal.value * magnification}px`;
+/** Narrower than this its letters cannot be read: the picture is scrolled instead. */
+const leastWidth = 640;
+
+/** Shows the picture as large as its theme says, and as small as the page needs. */
+function fitIn(container, spec) {
+  const {style, width} = container.querySelector('svg');
+  const whole = width.baseVal.value * magnificationOf(spec);
+  style.width = `${whole}px`;
+  style.minWidth = `${Math.min(whole, leastWidth)}px`;
 }
 
 /** Makes the patterns known to the page; a picture of no size is there all the same. */
@@ -42,7 +46,7 @@ export async function drawChart(runtime, container, spec) {
   };
   placePatterns(spec);
   await follow(isDarkNow()).runAsync();
-  magnify(container, spec);
+  fitIn(container, spec);
   dark.addEventListener('change', () => follow(isDarkNow()).runAsync());
   addEventListener('beforeprint', () => follow(false).run());
   addEventListener('afterprint', () => follow(isDarkNow()).run());

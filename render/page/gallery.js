@@ -37,7 +37,7 @@
   const langOf = (code) => (Object.hasOwn(all, code) ? code : language);
 
   function cardOf(chart) {
-    const {folder, name, title, subtitle, description = '', picture, trouble} = chart;
+    const {folder, name, title, subtitle, description = '', kinds, source, picture, trouble} = chart;
     const page = urlOf(folder, 'chart.html');
     const card = make('li', {lang: langOf(chart.language)});
     if (picture) {
@@ -50,7 +50,7 @@
     card.append(make('p', {className: 'soft'}, folder));
     if (trouble) card.append(make('p', {className: 'bad'}, trouble));
     card.append(...sourceOf(chart));
-    const text = [name, title, subtitle, description, folder].join('\n').toLowerCase();
+    const text = [name, title, subtitle, description, kinds, source, folder].join('\n').toLowerCase();
     return {card, text, language: chart.language};
   }
 

@@ -14,6 +14,7 @@ import {addZoom, prepareZoom} from './zoom.js';
 
 const pristine = document.documentElement.cloneNode(true);
 const element = (id) => document.getElementById(id);
+element('still')?.remove(); // the picture for pages without this script
 
 async function drawPage() {
   const spec = JSON.parse(element('spec').textContent);

@@ -1,6 +1,7 @@
 // Pictures say what they show: a title and a description in SVG, text chunks in PNG.
 // Shared by the page and the program that draws without a browser.
 
+import {withOwnIds} from './ids.js';
 import {patternsOf} from './patterns.js';
 
 const escapes = {'&': '&amp;', '<': '&lt;', '>': '&gt;'};
@@ -17,13 +18,13 @@ export const magnificationOf = (spec) => spec.usermeta?.theme?.magnification ?? 
 
 /**
  * Vega's SVG of a chart with its texts, its patterns and its letters, which are rules of
- * CSS, as the first elements.
+ * CSS, as the first elements, and with ids of its own.
  */
 export function wholeSvg(svg, spec, fonts = '') {
   const {title, description} = textsOfPicture(spec);
-  const style = fonts && `<style>${fonts}</style>`;
-  return svg.replace(/<svg[^>]*>/, (open) =>
-    `${open}<title>${escape(title)}</title><desc>${escape(description)}</desc>${patternsOf(spec)}${style}`);
+  const texts = `<title>${escape(title)}</title><desc>${escape(description)}</desc>${patternsOf(spec)}`;
+  const own = withOwnIds(svg.replace(/<svg[^>]*>/, (open) => open + texts));
+  return fonts ? own.replace('</desc>', `</desc><style>${fonts}</style>`) : own;
 }
 
 const crcTable = Uint32Array.from({length: 256}, (_, byte) => {

@@ -48,7 +48,7 @@ async function wholePage({pristine}) {
   const page = pristine.cloneNode(true);
   const policy = page.querySelector('meta[http-equiv]');
   policy.content = policy.content.replace(/script-src [^;]*/, `script-src 'sha256-${await sha256(script)}'`);
-  page.querySelector('nav')?.remove();
+  for (const needless of ['nav', '#still']) page.querySelector(needless)?.remove();
   const inline = document.createElement('script');
   inline.textContent = script;
   page.querySelector('#runtime').replaceWith(inline);

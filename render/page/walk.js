@@ -150,10 +150,12 @@ class Walk {
     if (!stop) return;
     const matrix = this.container.querySelector('svg > g').getScreenCTM();
     const at = new DOMPoint(stop.x, stop.y).matrixTransform(matrix);
-    const origin = this.ring.parentElement.getBoundingClientRect();
-    this.ring.style.left = `${at.x - origin.left}px`;
+    const box = this.ring.parentElement;
+    const origin = box.getBoundingClientRect();
+    this.ring.style.left = `${at.x - origin.left + box.scrollLeft}px`;
     this.ring.style.top = `${at.y - origin.top}px`;
     this.ring.hidden = false;
+    this.ring.scrollIntoView({block: 'nearest', inline: 'nearest'});
   }
 }
 

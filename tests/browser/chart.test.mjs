@@ -190,18 +190,38 @@ test('a page saved as one file stands alone', async () => {
   }
 });
 
-test('a page without its script says so', async () => {
+test('a page without its script shows the picture beside it, and says how to send it', async () => {
   const folder = mkdtempSync(join(tmpdir(), 'page-'));
   try {
-    copyFileSync(join(charts, folders.penguins, 'chart.html'), join(folder, 'chart.html'));
+    for (const file of ['chart.html', 'chart.svg'])
+      copyFileSync(join(charts, folders.penguins, file), join(folder, file));
     await assert.rejects(withPage(pathToFileURL(join(folder, 'chart.html')).href, async (page) => {
       await until(page, "getComputedStyle(document.getElementById('trouble')).visibility === 'visible'");
-      assert.match(await page.textContent('#trouble'), /the script \.\.\/runtime\/chartxml-page\.js is missing/);
+      assert.match(await page.textContent('#trouble'), /the script \.\.\/runtime\/chartxml-page\.js is missing.*choose “Save the page as one file”/);
+      await until(page, "document.getElementById('still').naturalWidth > 0");
+      assert.equal(await page.locator('#still').isVisible(), true);
     }), /ERR_FILE_NOT_FOUND/);
   } finally {
     rmSync(folder, {recursive: true});
   }
 });
+
+test('on a narrow screen the picture is scrolled in its own box, its letters can be read', () =>
+  withChart(folders.penguins, async (page) => {
+    const {picture, box, body} = await page.evaluate(() => ({
+      picture: document.querySelector('#chart svg').getBoundingClientRect().width,
+      box: document.querySelector('.plot').getBoundingClientRect().width,
+      body: document.documentElement.scrollWidth,
+    }));
+    assert.equal(picture, 640);
+    assert.ok(box < 420 && body <= 420, `${box} ${body}`);
+    await page.focus('#chart');
+    for (const key of ['End', 'ArrowDown', 'ArrowDown', 'End']) await page.keyboard.press(key);
+    await until(page, "document.querySelector('.plot').scrollLeft > 0");
+    const ring = await page.locator('.ring').boundingBox();
+    assert.ok(ring.x + ring.width <= 420, String(ring.x));
+    await assertAccessible(page);
+  }, {viewport: {width: 420, height: 800}}));
 
 test('a chart of many rows is drawn thinned, says so, and stays usable', () =>
   withChart(folders.big, async (page) => {

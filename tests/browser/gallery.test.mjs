@@ -1,8 +1,9 @@
 import assert from 'node:assert/strict';
 import {readFileSync} from 'node:fs';
+import {join} from 'node:path';
 import {test} from 'node:test';
 import {attack, folders, nameOfHostile} from './names.mjs';
-import {assertAccessible, saved, until, urlOf, withChart, withPage} from './support.mjs';
+import {assertAccessible, charts, saved, until, urlOf, withChart, withPage} from './support.mjs';
 
 const index = urlOf('index.html');
 const shown = (page) => page.$$eval('#charts > li', (cards) => cards.filter((card) => !card.hidden).length);
@@ -36,6 +37,8 @@ test('the search finds names and descriptions', () =>
     await page.getByLabel('Search names and descriptions').fill('  FLIPPER body');
     assert.equal(await shown(page), 1);
     assert.equal(await page.textContent('#found'), '1 of 10 charts');
+    await page.getByLabel('Search names and descriptions').fill('plot f90 penguins scatter');
+    assert.equal(await shown(page), 1);
     await page.getByLabel('Search names and descriptions').fill('no such');
     assert.equal(await shown(page), 0);
   }));
@@ -57,9 +60,25 @@ test("the gallery speaks the reader's language", () =>
     assert.equal(await page.getAttribute('html', 'lang'), 'zh-cn');
   }, {locale: 'zh-CN'}));
 
+test('pictures of many charts share no id, and one drawn again has the same bytes', () =>
+  withChart(folders.print, async (page) => {
+    const idsOf = (svg) => [...svg.matchAll(/<[^>]* id="([^"]*)"/g)].map(([, id]) => id);
+    const drawn = [folders.penguins, folders.dates, folders.print, folders.presentation]
+      .map((folder) => readFileSync(join(charts, folder, 'chart.svg'), 'utf8'));
+    const all = drawn.flatMap((svg) => [...new Set(idsOf(svg))]);
+    assert.ok(all.length > 4);
+    assert.equal(new Set(all).size, all.length);
+    for (const svg of drawn)
+      for (const [, id] of svg.matchAll(/url\(#([^)]*)\)/g)) assert.ok(idsOf(svg).includes(id), id);
+    const [first, again] = [await saved(page, 'Save as SVG'), await saved(page, 'Save as SVG')]
+      .map((file) => readFileSync(file, 'utf8'));
+    assert.equal(first, again);
+  }));
+
 test('hostile texts are texts on a chart page', () =>
   withChart(folders.hostile, async (page) => {
-    assert.equal(await page.textContent('h1'), nameOfHostile);
+    assert.equal(await page.textContent('h1'), attack);
+    assert.equal(await page.textContent('#name'), nameOfHostile);
     assert.equal(await page.textContent('figcaption'), attack);
     await page.locator('#data summary').click();
     await page.waitForSelector('#data tbody tr');

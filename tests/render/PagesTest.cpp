@@ -32,7 +32,7 @@ TEST(ChartPage, HoldsHostileTextsAsTexts) {
   EXPECT_THAT(page, Not(HasSubstr("<script>")));
   const std::string json = page.substr(page.find("<script type=\"application/json\""));
   EXPECT_THAT(json, Not(HasSubstr("\xE2\x80\xA8")));
-  EXPECT_THAT(page, HasSubstr("<h1>&lt;script&gt;n</h1>"));
+  EXPECT_THAT(page, HasSubstr("<p id=\"name\" class=\"soft\">&lt;script&gt;n</p>"));
   EXPECT_THAT(page,
               HasSubstr("<script id=\"runtime\" src=\"../runtime/chartxml-page.js\"></script>"));
 }

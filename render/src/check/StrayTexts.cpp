@@ -17,7 +17,7 @@ bool isStray(std::string_view text) {
 }
 
 void checkTexts(const Variable& variable, Report& report) {
-  const Table::Column& texts = *variable.texts;
+  const Column& texts = *variable.texts;
   std::size_t count = 0;
   std::size_t first = 0;
   for (std::size_t row = 0; row < texts.size(); ++row) {

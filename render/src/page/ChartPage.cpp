@@ -8,13 +8,15 @@ namespace render {
 namespace {
 
 constexpr std::string_view policy =
-    "default-src 'none'; script-src 'self'; style-src 'unsafe-inline'; img-src data: blob:; "
-    "font-src data:";
+    "default-src 'none'; script-src 'self'; style-src 'unsafe-inline'; "
+    "img-src 'self' data: blob:; font-src data:";
 
-std::string header(const Manifest& manifest, const Words& words) {
+std::string header(const Manifest& manifest, std::string_view title, const Words& words) {
   std::string html =
       fmt::format("<body>\n<nav><a href=\"../index.html\">{}</a></nav>\n<main>\n<h1>{}</h1>\n",
-                  escapeHtml(words("All charts")), escapeHtml(manifest.name));
+                  escapeHtml(words("All charts")), escapeHtml(title));
+  if (title != manifest.name)
+    html += fmt::format("<p id=\"name\" class=\"soft\">{}</p>\n", escapeHtml(manifest.name));
   if (!manifest.splitHeader.empty())
     html += fmt::format("<p class=\"soft\">{}</p>\n", escapeHtml(manifest.splitHeader));
   return html;
@@ -52,11 +54,13 @@ std::string chartPage(const Manifest& manifest, const Json& spec, const FontCss&
   const std::string json = spec.dump(-1, ' ', false, Json::error_handler_t::replace);
   const auto& title = spec["usermeta"]["title"].get_ref<const std::string&>();
   const auto word = [&words](std::string_view key) { return escapeHtml(words(key)); };
-  return pageHead(manifest.language, title, policy, fontStyle(fonts)) + header(manifest, words) +
+  return pageHead(manifest.language, title, policy, fontStyle(fonts)) +
+         header(manifest, title, words) +
          fmt::format(
              R"(<figure>
 <div class="plot"><div id="chart" role="img" aria-label="{title}"></div></div>
-<p id="trouble" class="later bad">{trouble}</p>
+<img id="still" src="chart.svg" alt="" loading="lazy">
+<p id="trouble" class="later bad">{trouble} {alone}</p>
 <p id="live" role="status"></p>
 <figcaption>{description}</figcaption>
 </figure>
@@ -78,6 +82,7 @@ std::string chartPage(const Manifest& manifest, const Json& spec, const FontCss&
 )",
              fmt::arg("title", escapeHtml(title)),
              fmt::arg("trouble", escapeHtml(words("No script^1", {script}))),
+             fmt::arg("alone", escapeHtml(words("Send alone^1", {words("Save the page")}))),
              fmt::arg("description", escapeHtml(manifest.description)),
              fmt::arg("keys", word("Keys")), fmt::arg("zoomKeys", word("Zoom keys")),
              fmt::arg("shows", word("What it shows")),
@@ -89,7 +94,8 @@ std::string chartPage(const Manifest& manifest, const Json& spec, const FontCss&
 
 std::string refusedPage(const Manifest& manifest, std::string_view reason) {
   const Words words(manifest.language);
-  return pageHead(manifest.language, manifest.name, policy) + header(manifest, words) +
+  return pageHead(manifest.language, manifest.name, policy) +
+         header(manifest, manifest.name, words) +
          fmt::format("<p class=\"bad\">{}</p>\n</main>\n</body>\n</html>\n",
                      escapeHtml(words("Refused^1", {reason})));
 }

@@ -19,6 +19,7 @@
 
 #include "page/Files.h"
 #include "page/Html.h"
+#include "page/Kinds.h"
 #include "read/ChartFolder.h"
 #include "read/Titles.h"
 #include "text/Json.h"
@@ -87,6 +88,8 @@ Json cardOf(const fs::path& folder) {
          {std::pair("title", TextPlace::title), std::pair("subtitle", TextPlace::subtitle)})
       if (const auto texts = textsAt(place, document); !texts.empty())
         chart[key] = fmt::to_string(fmt::join(texts, " "));
+    if (const auto kinds = kindsOf(document, manifest.language); !kinds.empty())
+      chart["kinds"] = fmt::to_string(fmt::join(kinds, ", "));
   } catch (const RenderError& e) {
     chart["trouble"] = reasonWithin(folder, e);
   }

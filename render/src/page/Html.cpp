@@ -21,17 +21,20 @@ h2 { font-size: 1.1rem; margin: 1.5rem 0 .5rem; }
 h3 { font-size: 1rem; margin: 1rem 0 .25rem; }
 figure { margin: 0; }
 figcaption, .soft { color: var(--soft); }
-.plot { position: relative; }
+.plot { position: relative; overflow-x: auto; padding: .3rem; margin: -.3rem; }
 #chart { width: fit-content; max-width: 100%; }
 #chart svg { max-width: 100%; height: auto; }
 .patterns { position: absolute; }
 .ring { position: absolute; width: 1.4rem; height: 1.4rem; margin: -.8rem 0 0 -.8rem; border: .15rem solid var(--ink);
   border-radius: 50%; outline: .1rem solid var(--paper); pointer-events: none; }
-#live { min-height: 1.5em; margin: .25rem 0; font-weight: 600; }
+#live { margin: .25rem 0; font-weight: 600; }
+#live:empty { margin: 0; }
 :focus-visible { outline: .15rem solid var(--link); outline-offset: .15rem; }
 [hidden] { display: none !important; }
 .later { visibility: hidden; animation: show 0s 1.5s forwards; }
 @keyframes show { to { visibility: visible; } }
+#still { max-width: 100%; transform: translateY(-99999px); animation: come 0s 1.5s forwards; }
+@keyframes come { to { transform: none; } }
 .bad { border-left: .3rem solid #d55e00; padding: .3rem 1rem; }
 fieldset { display: flex; flex-wrap: wrap; gap: .25rem 1.25rem; margin: .75rem 0; border: 1px solid var(--line); border-radius: .3rem; }
 #actions { display: flex; flex-wrap: wrap; gap: .5rem; }
@@ -48,7 +51,9 @@ td.number, th.number { text-align: right; }
 .search input { flex: 1 1 15rem; }
 .cards { display: grid; grid-template-columns: repeat(auto-fill, minmax(min(20rem, 100%), 1fr)); gap: 1.5rem; align-items: start; padding: 0; list-style: none; }
 .cards li { border: 1px solid var(--line); border-radius: .4rem; overflow: hidden; }
-.cards img { display: block; width: 100%; aspect-ratio: 4 / 3; object-fit: contain; background: #fff; }
+.cards img { display: block; box-sizing: border-box; width: calc(100% - 1.5rem); margin: .75rem .75rem 0; padding: .25rem;
+  aspect-ratio: 4 / 3; object-fit: contain; background: #fff; border-radius: .25rem; }
+@media (prefers-color-scheme: dark) { .cards img { filter: brightness(.85); } }
 .cards p, .cards h2, .cards details { margin: .6rem 1rem; overflow-wrap: anywhere; }
 .cards h2 + p { margin-top: -.3rem; }
 pre { overflow: auto; max-height: 20rem; font-size: .85rem; line-height: 1.35; }
