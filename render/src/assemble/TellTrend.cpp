@@ -126,10 +126,12 @@ std::string tellGroupTrends(const Telling& telling) {
   if (categories.size() < 2 || categories.size() > mostListed) return {};
   std::vector<std::string> texts;
   const auto all = correlations(*element, sidesOf(*element, chart), element->group);
-  for (std::size_t code = 0; code < categories.size(); ++code)
-    if (all[code])
-      texts.push_back(telling.pair(telling.label(*element->group, categories[code]),
-                                   rounded(*all[code], telling)));
+  for (std::size_t code = 0; code < categories.size(); ++code) {
+    const std::optional<double>& r = all[code];
+    if (r)
+      texts.push_back(
+          telling.pair(telling.label(*element->group, categories[code]), rounded(*r, telling)));
+  }
   return texts.empty() ? std::string() : telling.words("Within groups^1", {telling.list(texts)});
 }
 
