@@ -24,43 +24,70 @@ Length lengthAlong(std::string_view role, const Chart& chart) {
   return [&dimension](double value) { return scaled(value, dimension); };
 }
 
-/// Pearson's correlation in the rows that an element draws, or in those of a group; nothing
-/// where one side does not vary.
-std::optional<double> correlation(const Element& element, const Variable& one,
-                                  const Variable& other, const Length& oneLength = asIs,
-                                  const Length& otherLength = asIs,
-                                  std::optional<double> group = {}) {
-  double rows = 0;
-  double weight = 0;
-  double meanX = 0;
-  double meanY = 0;
-  const auto forEachRow = [&](const auto& take) {
-    for (std::size_t row = 0; row < one.numbers.size(); ++row) {
-      if (!element.draws(row) || (group && element.group->codes[row] != *group)) continue;
-      const double x = oneLength(one.numbers[row]);
-      const double y = otherLength(other.numbers[row]);
-      if (std::isfinite(x) && std::isfinite(y)) take(x, y, element.weightOf(row));
-    }
-  };
-  forEachRow([&](double x, double y, double w) {
+/// Of the rows of a group: the means, then the sums of squares about them.
+struct Moments {
+  double rows = 0, weight = 0, meanX = 0, meanY = 0, xx = 0, yy = 0, xy = 0;
+
+  void count(double x, double y, double w) {
     rows += 1;
     weight += w;
     meanX += w * x;
     meanY += w * y;
-  });
-  if (rows < 3) return std::nullopt;
-  meanX /= weight;
-  meanY /= weight;
-  double xx = 0;
-  double yy = 0;
-  double xy = 0;
-  forEachRow([&](double x, double y, double w) {
+  }
+  void divide() {
+    meanX /= weight;
+    meanY /= weight;
+  }
+  void square(double x, double y, double w) {
     xx += w * (x - meanX) * (x - meanX);
     yy += w * (y - meanY) * (y - meanY);
     xy += w * (x - meanX) * (y - meanY);
-  });
-  const double result = xy / std::sqrt(xx) / std::sqrt(yy);
-  return std::isfinite(result) ? std::optional(result) : std::nullopt;
+  }
+  /// Pearson's; nothing where one side does not vary.
+  std::optional<double> correlation() const {
+    const double result = xy / std::sqrt(xx) / std::sqrt(yy);
+    return rows >= 3 && std::isfinite(result) ? std::optional(result) : std::nullopt;
+  }
+};
+
+/// Two variables, as long as the scales along which they are seen make their values.
+struct Sides {
+  const Variable& x;
+  const Variable& y;
+  Length xLength = asIs;
+  Length yLength = asIs;
+};
+
+Sides sidesOf(const Element& element, const Chart& chart) {
+  return {.x = *element.x,
+          .y = *element.y,
+          .xLength = lengthAlong("x", chart),
+          .yLength = lengthAlong("y", chart)};
+}
+
+/// The correlations in the rows that an element draws: one for each category of `group`, or
+/// without it that of all rows.
+std::vector<std::optional<double>> correlations(const Element& element, const Sides& sides,
+                                                const Variable* group = nullptr) {
+  std::vector<Moments> moments(group == nullptr ? 1 : group->categories.size());
+  const auto forEachRow = [&](const auto& take) {
+    for (std::size_t row = 0; row < sides.x.numbers.size(); ++row) {
+      if (!element.draws(row)) continue;
+      const double x = sides.xLength(sides.x.numbers[row]);
+      const double y = sides.yLength(sides.y.numbers[row]);
+      const auto code = group == nullptr ? 0 : static_cast<std::size_t>(group->codes[row]);
+      if (std::isfinite(x) && std::isfinite(y)) take(moments[code], x, y, element.weightOf(row));
+    }
+  };
+  forEachRow([](Moments& of, double x, double y, double w) { of.count(x, y, w); });
+  for (Moments& each : moments)
+    each.divide();
+  forEachRow([](Moments& of, double x, double y, double w) { of.square(x, y, w); });
+  std::vector<std::optional<double>> all;
+  all.reserve(moments.size());
+  for (const Moments& each : moments)
+    all.push_back(each.correlation());
+  return all;
 }
 
 /// In two digits, and in more where two would make it a perfect one.
@@ -80,8 +107,7 @@ std::string tellDirection(const Telling& telling) {
   const Chart& chart = telling.chart;
   const Element* element = continuousElement(chart);
   if (element == nullptr) return {};
-  const std::optional<double> r = correlation(*element, *element->x, *element->y,
-                                              lengthAlong("x", chart), lengthAlong("y", chart));
+  const std::optional<double> r = correlations(*element, sidesOf(*element, chart)).front();
   if (!r) return {};
   const Panel& panel = chart.panels.front();
   const bool isEven = panel.x.type == ScaleType::linear && panel.y.type == ScaleType::linear;
@@ -99,9 +125,9 @@ std::string tellGroupTrends(const Telling& telling) {
   const auto& categories = element->group->categories;
   if (categories.size() < 2 || categories.size() > mostListed) return {};
   std::vector<std::string> texts;
+  const auto all = correlations(*element, sidesOf(*element, chart), element->group);
   for (std::size_t code = 0; code < categories.size(); ++code) {
-    const auto r = correlation(*element, *element->x, *element->y, lengthAlong("x", chart),
-                               lengthAlong("y", chart), static_cast<double>(code));
+    const std::optional<double>& r = all[code];
     if (r)
       texts.push_back(
           telling.pair(telling.label(*element->group, categories[code]), rounded(*r, telling)));
@@ -129,7 +155,8 @@ std::string tellStrongest(const Telling& telling) {
   for (std::size_t i = 0; i < all.size(); ++i)
     for (std::size_t j = i + 1; j < all.size(); ++j) {
       if (all[i] == all[j]) continue;
-      const auto r = correlation(telling.chart.elements.front(), *all[i], *all[j]);
+      const auto r =
+          correlations(telling.chart.elements.front(), {.x = *all[i], .y = *all[j]}).front();
       if (!r || std::abs(*r) < std::abs(best) + 1e-9) continue;
       best = *r;
       strongest[0] = all[i];
