@@ -23,6 +23,7 @@ struct Entry {
   bool points = false;
   bool lines = false;
   bool bars = false;
+  double opacity = 0; ///< of the bars or areas
   bool hollow = false;
   bool shapesOnly = false; ///< color tells other groups apart
   bool colorsOnly = false; ///< shape does
@@ -94,6 +95,8 @@ void addEntry(const Element& element, const Variable& group, std::vector<Entry>&
   entry->points = entry->points || isPoint;
   entry->lines = entry->lines || isLine;
   entry->bars = entry->bars || (!isPoint && !isLine);
+  const double opacity = type == "area" ? areaOpacity(element) : theme::barOpacity;
+  entry->opacity = std::max(entry->opacity, opacity);
   entry->hollow = entry->hollow || (isPoint && isHollow(*element.node, context.chart));
   entry->shapesOnly = &group == element.shape;
   entry->colorsOnly = element.shape != nullptr && &group == element.group;
@@ -188,7 +191,9 @@ Json legendOf(const Entry& entry, const Node& legend, Context& context) {
   if (entry.bars) {
     json["symbolType"] = theme::barSymbol;
     addBarFilling(json, group, context);
-    json["encode"]["symbols"]["update"]["fillOpacity"] = {{"value", theme::barOpacity}};
+    const bool isArea = entry.opacity < theme::barOpacity;
+    if (isArea && !context.chart.isPolar) json.erase("stroke"); // areas have no edge
+    json["encode"]["symbols"]["update"]["fillOpacity"] = {{"value", entry.opacity}};
   } else if (entry.points) {
     if (entry.colorsOnly)
       json["symbolType"] = theme::symbols.front().path;

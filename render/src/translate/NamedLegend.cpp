@@ -6,6 +6,7 @@
 
 #include "text/Expression.h"
 #include "text/Wrap.h"
+#include "translate/Filling.h"
 #include "translate/Groups.h"
 #include "translate/ReferenceLook.h"
 #include "translate/Style.h"
@@ -49,6 +50,12 @@ Named drawnAs(const Element& element, const Context& context) {
   } else {
     named.shape = theme::barSymbol;
     named.opacity = type == "area" ? areaOpacity(element) : theme::barOpacity;
+    // As addOutline() and filling() draw it; a band has the color of its element.
+    const bool isBand = type == "area" && element.isComposed();
+    if (!isBand && isPatterned(element, context.chart)) {
+      named.color = "ink";
+      named.filling = literal(theme::filling(theme::patternFillings().front()));
+    }
   }
   return named;
 }
@@ -86,7 +93,8 @@ Json legendOf(const std::vector<Named>& entries, std::size_t number, Parts& part
     opacities.push_back(each.opacity);
     const std::string_view comma = strokes.empty() ? "" : ",";
     strokes += fmt::format("{}{}", comma, each.color);
-    fills += fmt::format("{}{}", comma, each.opacity > 0 ? each.color : "'transparent'");
+    const std::string& filling = each.filling.empty() ? each.color : each.filling;
+    fills += fmt::format("{}{}", comma, each.opacity > 0 ? filling : "'transparent'");
   }
   const auto add = [&](std::string_view purpose, Json range) {
     std::string name = scaleName(purpose, fmt::format("named{}", number));

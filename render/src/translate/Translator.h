@@ -18,7 +18,8 @@ struct Named {
   const Node* node;
   std::string title{}; ///< of the legend
   std::string text{};
-  std::string color; ///< an expression
+  std::string color;     ///< an expression
+  std::string filling{}; ///< one, where that is not the color
   std::string_view shape{};
   Json dash = Json::array();
   double opacity = 0; ///< of its filling

@@ -173,4 +173,25 @@ TEST(Themes, DashLinesBesideSymbolsInPrint) {
   EXPECT_EQ(dashOf("default"), json());
 }
 
+TEST(Themes, LegendsShowBarsAndAreasAsTheyAreFilled) {
+  const auto plotOf = [](std::string_view type, std::string_view content) {
+    return fmt::format(R"(<element type="{}" id="e" name="Named"><x variable="v1"/>
+      <y variable="v2"/>{}</element><legend id="l"><legendTarget id="t" element="e"/></legend>)",
+                       type, content);
+  };
+  const json named = drawn("print", plotOf("interval", ""))["marks"][0];
+  const json& bar = named["marks"][0]["encode"]["update"];
+  for (const json& scale : named["scales"]) {
+    if (scale["name"] != "fill_named1") continue;
+    EXPECT_EQ(scale["range"]["signal"], R"(["#cfcfcf"])");
+  }
+  EXPECT_EQ(bar["fill"]["value"], "#cfcfcf");
+
+  const json areas = drawn("", plotOf("area", R"(<color variable="v3" id="by"/>)"))["marks"][0];
+  const json& legend = areas["legends"][0];
+  EXPECT_EQ(legend["encode"]["symbols"]["update"]["fillOpacity"],
+            areas["marks"][0]["marks"][0]["encode"]["update"]["fillOpacity"]);
+  EXPECT_FALSE(legend.contains("stroke")) << "as the areas";
+}
+
 } // namespace
