@@ -8,6 +8,7 @@
 #include "page/Gallery.h"
 #include "page/GalleryList.h"
 #include "page/Runtime.h"
+#include "read/Sources.h"
 #include "resolve/Chart.h"
 #include "text/Show.h"
 #include "text/Words.h"
@@ -93,6 +94,15 @@ Findings findingsOf(const std::filesystem::path& chartFolder) {
   Notes notes(chart.manifest.language);
   check(resolve(chart, notes), notes);
   return notes.findings();
+}
+
+std::vector<std::string> dataFilesOf(const std::filesystem::path& document) {
+  const Document read = Document::read(document);
+  std::vector<std::string> files;
+  for (const Node& node : read.graph().children)
+    if (node.kind == "source" && isRead(node.id(), read.graph()))
+      files.push_back(csvNameIn(document, node.id()));
+  return files;
 }
 
 std::vector<std::string> themes() {

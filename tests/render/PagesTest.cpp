@@ -104,10 +104,16 @@ INSTANTIATE_TEST_SUITE_P(
                             "source0.csv:2:3: field \"Group\": the row ends after 2 of 3 fields"},
                     BadFile{"manifest.json", "[1]", "manifest.json: not an object"}));
 
-TEST(ChartFolder, MayLackDataAndManifest) {
+TEST(ChartFolder, MayLackTheManifestAndDataThatNothingReads) {
   const TestFolder folder;
-  const auto spec = folder.write("chart.xml", document(point)).spec();
+  const std::string counted = "<graph><source id='source0'/><variable id='v1' source='source0' "
+                              "sourceName='countname'/><frame>" +
+                              std::string(point) + "</frame></graph>";
+  const auto spec = folder.write("chart.xml", counted).spec();
   EXPECT_EQ(spec["usermeta"]["notes"][0], "points is not drawn: it has no x variable with data");
+  folder.write("chart.xml", document(point));
+  EXPECT_EQ(messageOf(folder.path()),
+            (folder.path() / "source0.csv").native() + ": No such file or directory");
 }
 
 TEST(ChartFolder, WithoutAnyFileIsRefused) {

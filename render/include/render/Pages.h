@@ -37,6 +37,10 @@ Findings writeChart(const std::filesystem::path& chartFolder, const std::string&
 /// chart cannot be read.
 Findings findingsOf(const std::filesystem::path& chartFolder);
 
+/// The CSV files that a chart document reads, by their names in a chart folder. Throws
+/// RenderError when the document cannot be read.
+std::vector<std::string> dataFilesOf(const std::filesystem::path& document);
+
 /// The names of the themes that charts are drawn in, the usual one first.
 std::vector<std::string> themes();
 

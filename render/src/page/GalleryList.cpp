@@ -39,8 +39,10 @@ std::string line(std::string_view call, const Json& arguments) {
   return fmt::format("{}{}{}", call, escapeScript(json.substr(1, json.size() - 2)), lineEnd);
 }
 
+/// A chart whose document is lost has its place, which says so.
 bool isChart(const fs::path& folder) {
-  return !folder.filename().native().starts_with('.') && exists(folder / "chart.xml");
+  return !folder.filename().native().starts_with('.') &&
+         (exists(folder / "chart.xml") || exists(folder / "manifest.json"));
 }
 
 std::optional<std::string> firstOf(const fs::path& folder,

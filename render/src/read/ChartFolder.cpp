@@ -1,8 +1,5 @@
 #include "read/ChartFolder.h"
 
-#include <algorithm>
-#include <array>
-
 #include <fmt/format.h>
 #include <host/DataSet.h>
 #include <host/JsonFile.h>
@@ -10,27 +7,17 @@
 #include <nlohmann/json.hpp>
 #include <render/Pages.h>
 
+#include "read/Sources.h"
+
 namespace render {
 namespace {
-
-/// Columns of these names are counted while the chart is drawn.
-constexpr std::array<std::string_view, 3> countedColumns{"countname", "percentname", "casenum"};
-
-bool isRead(std::string_view source, const Node& graph) {
-  return std::ranges::any_of(graph.children, [source](const Node& node) {
-    return node.kind == "variable" && node.attribute("source") == source && hasOwnColumn(node);
-  });
-}
 
 std::map<std::string, Table, std::less<>> readTables(const std::filesystem::path& folder,
                                                      const Node& graph) {
   std::map<std::string, Table, std::less<>> tables;
   for (const Node& node : graph.children) {
     if (node.kind != "source" || node.id().empty()) continue;
-    const std::filesystem::path name = csvNameOf(node.id());
-    if (name != name.filename())
-      throw RenderError(fmt::format("{}: the source id \"{}\" names no file",
-                                    (folder / "chart.xml").native(), node.id()));
+    const std::string name = csvNameIn(folder / "chart.xml", node.id());
     if (exists(folder / name) || isRead(node.id(), graph))
       tables.try_emplace(std::string(node.id()), Table::read(folder / name));
   }
@@ -66,7 +53,7 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
     manifest.signs = {.decimal = signs.value("decimal", usual.decimal),
                       .grouping = signs.value("grouping", usual.grouping)};
     for (const nlohmann::json& source : json.value("sources", nlohmann::json::array()))
-      if (source.contains("rows"))
+      if (source.is_object() && source.contains("rows"))
         manifest.rowsOfFile.emplace(source.value("file", ""), source["rows"].get<std::size_t>());
   } catch (const host::DataError& e) {
     throw RenderError(e.what());
@@ -75,15 +62,6 @@ Manifest Manifest::read(const std::filesystem::path& chartFolder) {
   }
   return manifest;
 }
-
-bool hasOwnColumn(const Node& variable) {
-  const bool isCounted =
-      std::ranges::find(countedColumns, variable.attribute("sourceName")) != countedColumns.end();
-  return !isCounted && variable.attribute("value").empty() &&
-         variable.attribute("expression").empty();
-}
-
-std::string csvNameOf(std::string_view source) { return fmt::format("{}.csv", source); }
 
 ChartFolder ChartFolder::read(const std::filesystem::path& folder) {
   Document document = Document::read(folder / "chart.xml");

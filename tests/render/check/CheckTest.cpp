@@ -91,7 +91,13 @@ const Case cases[] = {
     {"a variable without a column",
      document(point),
      "A,Group\n1,a\n2,a\n",
-     {"empty-variable - v2: \"b\" has no values; load them, or leave it out"}},
+     {"changed-data - v2: \"b\" is the column B of source0.csv, which has A, Group only; put the "
+      "column there, or leave the variable out"}},
+    {"a text among numbers",
+     document(point),
+     "A,B,Group\n1,NaN,a\n2,INF,a\n3,,a\n4,3x,a\n5,5,a\n6,none,a\n",
+     {"stray-text - v2: \"b\" is drawn along numbers, and 2 of its values in 6 rows are none, the "
+      "first \"3x\" in row 4; load numbers, or make it categorical"}},
     {"a variable of texts along numbers",
      document(point),
      "A,B,Group\n1,low,a\n2,high,a\n",
@@ -162,6 +168,19 @@ TEST(Checks, NameTheCallOfTheNodeOrOfTheOneAroundIt) {
   EXPECT_EQ(findings[1].node, "e/y[2]");
   EXPECT_EQ(findings[1].call, 5U);
   EXPECT_EQ(findings[1].callName, "cx_addelement_");
+}
+
+TEST(Checks, CompareTheRowsWithThoseOfTheManifest) {
+  const TestFolder folder;
+  folder.write("chart.xml", document(point))
+      .write("source0.csv", smallTable)
+      .write("manifest.json", R"({"sources": [{"name": "source0", "file": "source0.csv", "rows": 4},
+                                  {"name": "other", "file": "other.csv", "rows": 9}, 3]})");
+  EXPECT_EQ(findingsOf(folder),
+            Texts{"changed-data - source0: source0.csv has 3 rows where the manifest lists 4; put "
+                  "the whole file back"});
+  folder.write("manifest.json", R"({"sources": [{"file": "source0.csv", "rows": 3}]})");
+  EXPECT_EQ(findingsOf(folder), Texts{});
 }
 
 TEST(Checks, SumUpWhatIsMoreThanAnybodyReads) {

@@ -89,7 +89,7 @@ TEST_F(GalleryTest, ShowsPicturesSourcesAndTroubles) {
           "\n"
           R"(chartxmlGallery.chart("3",{"name":"long","description":"","language":"en","source":"long.c"});)"
           "\n"
-          R"(chartxmlGallery.chart("4",{"name":"4","trouble":"manifest.json: )"));
+          R"(chartxmlGallery.chart("4",{"name":"4","trouble":"manifest.json:1:1: )"));
   output.write("5/chart.xml", "<graph").write("5/manifest.json", R"({"name": "n"})");
   EXPECT_EQ(
       update(),

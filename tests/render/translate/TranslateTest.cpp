@@ -254,7 +254,9 @@ TEST_F(TranslateTest, WhatIsNotDrawnIsNoted) {
 TEST_F(TranslateTest, ValuesThatCannotBeDrawnAreCounted) {
   EXPECT_EQ(notes(point, "", "A,B,Group\n1,1,a\nx,2,a\n-1.797e308,3,a\n,4,a\n"),
             json({"values of A label left out, as they are no numbers that can be drawn: 2 of 4",
-                  "rows left out for a missing value: 3 of 4 (points)"}));
+                  "rows left out for a missing value: 3 of 4 (points)",
+                  "v1: \"A label\" is drawn along numbers, and 1 of its values in 4 rows is none, "
+                  "the first \"x\" in row 2; load numbers, or make it categorical"}));
 }
 
 TEST_F(TranslateTest, AChartWithoutRowsOrWithoutAPlotIsStillAChart) {
