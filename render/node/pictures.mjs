@@ -1,11 +1,14 @@
 // Draws the charts of chart folders from their Vega text: chart.svg, chart.png and
 // chart.pdf beside chart.vg.json. Reads from standard input, as JSON:
 //   {"folders": ["charts/0001-penguins", …], "svg": true, "png": true, "pdf": true}
-// Names the folders that it could not draw on standard error, in this order, and ends with
-// status 1 then; a terminal there also shows how far it is, in a line that is gone at the
-// end. Many charts are drawn by several threads: the same files, whoever draws them.
+// Tells of each folder by its number when it begins and when it has ended, in a line of JSON
+// on standard output, so that who started it knows what was at work should it end early:
+//   {"begun": 0}
+//   {"ended": 0, "files": ["chart.svg"], "trouble": "why not all are drawn, or null"}
+// A terminal on standard error shows how far it is, in a line that is gone at the end.
+// Many charts are drawn by several threads: the same files, whoever draws them.
 
-import {readFileSync, renameSync, rmSync, writeFileSync} from 'node:fs';
+import {readFileSync, renameSync, rmSync, writeFileSync, writeSync} from 'node:fs';
 import {basename, join} from 'node:path';
 import {setImmediate} from 'node:timers/promises';
 import {isMainThread} from 'node:worker_threads';
@@ -13,6 +16,7 @@ import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
 import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from '../page/pictureTexts.js';
 import {nameFaces} from './faces.mjs';
 import {fontsOf, missingFamilies} from './fonts.mjs';
+import {checkSize, checkSvg} from './limits.mjs';
 import {serve, spread, threadsFor} from './spread.mjs';
 import {textWidth} from './textWidth.mjs';
 
@@ -60,46 +64,58 @@ function dropTooltips({marks = []}) {
 const fontsOfPage = (folder) =>
   /<style id="fonts">([^<]*)/.exec(readFileSync(join(folder, 'chart.html'), 'utf8'))[1];
 
-async function draw(folder, {svg, png, pdf}) {
+/** Draws a chart; calls `wrote` with the name of each file. */
+async function draw(folder, {svg, png, pdf}, wrote) {
+  const write = (name, bytes) => {
+    writeWhole(join(folder, name), bytes);
+    wrote(name);
+  };
   const spec = JSON.parse(readFileSync(join(folder, 'chart.vg.json'), 'utf8'));
+  const magnification = magnificationOf(spec);
+  checkSize(spec.width * magnification, spec.height * magnification);
   dropTooltips(spec);
   // The ids in a picture count from one, whatever was drawn before it.
   resetSVGDefIds();
   const view = new View(parse(spec), {renderer: 'none'});
-  const drawn = await view.toSVG(magnificationOf(spec));
+  const drawn = await view.toSVG(magnification);
+  checkSvg(drawn);
   const picture = wholeSvg(drawn, spec);
-  if (svg) writeWhole(join(folder, 'chart.svg'), wholeSvg(drawn, spec, fontsOfPage(folder)));
+  if (svg) write('chart.svg', wholeSvg(drawn, spec, fontsOfPage(folder)));
   if (png) {
     const {Resvg} = await import('@resvg/resvg-js');
     const named = nameFaces(anchorClippedGroups(picture));
     const options = {fitTo: {mode: 'zoom', value: pngScale}, font: fontsOf(named)};
     const pixels = new Resvg(named, options).render().asPng();
-    writeWhole(join(folder, 'chart.png'), pngWithTexts(pixels, textsOfPicture(spec)));
+    write('chart.png', pngWithTexts(pixels, textsOfPicture(spec)));
   }
   if (pdf) {
     const {pdfOf} = await import('./chartxml-pdf.mjs');
-    writeWhole(join(folder, 'chart.pdf'), await pdfOf(picture, textsOfPicture(spec)));
+    write('chart.pdf', await pdfOf(picture, textsOfPicture(spec)));
   }
 }
 
-/** Draws a chart; gives what went wrong, or null. */
+/** Draws a chart; gives the files that are written and what went wrong, or null. */
 async function tried({folder, formats}) {
+  const files = [];
   try {
-    await draw(folder, formats);
-    return null;
+    await draw(folder, formats, (name) => files.push(name));
+    return {files, trouble: null};
   } catch (error) {
-    return error.message;
+    return {files, trouble: String(error?.message ?? error)};
   }
 }
 
 /** One after the other in this thread. */
-async function drawInTurn(tasks, ended) {
+async function drawInTurn(tasks, begun, ended) {
   for (const [index, task] of tasks.entries()) {
+    begun(index);
     ended(index, await tried(task));
     // The bitmaps of a picture are given back between two turns of the event loop.
     await setImmediate();
   }
 }
+
+const tell = (event) => writeSync(1, `${JSON.stringify(event)}\n`);
 
 async function drawAll() {
   const missing = missingFamilies();
@@ -108,21 +124,16 @@ async function drawAll() {
     console.error(`chartxml: fonts that are not installed: ${missing.join(', ')}; other fonts take their place in pictures, or characters are missing`);
   const showLine = (text) => process.stderr.isTTY && process.stderr.write(`\r\x1B[K${text}`);
   const tasks = folders.map((folder) => ({folder, formats}));
-  const troubles = [];
   let done = 0;
-  const ended = (index, trouble) => {
-    troubles[index] = trouble;
+  const begun = (index) => tell({begun: index});
+  const ended = (index, answer) => {
+    tell({ended: index, ...answer});
     showLine(`[${++done}/${folders.length}] ${basename(folders[index])}, pictures`);
   };
   const threads = threadsFor(tasks.length, worthwhile(formats));
-  if (threads > 1) await spread(tasks, threads, new URL(import.meta.url), ended);
-  else await drawInTurn(tasks, ended);
+  if (threads > 1) await spread(tasks, threads, new URL(import.meta.url), begun, ended);
+  else await drawInTurn(tasks, begun, ended);
   showLine('');
-  troubles.forEach((trouble, index) => {
-    if (trouble === null) return;
-    console.error(`chartxml: ${folders[index]}: the picture cannot be drawn: ${trouble}`);
-    process.exitCode = 1;
-  });
 }
 
 if (isMainThread) await drawAll();

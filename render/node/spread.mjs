@@ -15,13 +15,17 @@ export const threadsFor = (tasks, worthwhile) =>
 export const serve = (act) =>
   parentPort.on('message', async (task) => parentPort.postMessage(await act(task)));
 
-/** Has the threads act on all tasks; calls `ended` with the number of a task and the answer. */
-export async function spread(tasks, threads, script, ended) {
+/**
+ * Has the threads act on all tasks; calls `begun` with the number of a task and `ended` with
+ * it and the answer.
+ */
+export async function spread(tasks, threads, script, begun, ended) {
   let next = 0;
   const workThrough = async () => {
     const worker = new Worker(script);
     while (next < tasks.length) {
       const task = next++;
+      begun(task);
       worker.postMessage(tasks[task]);
       const [answer] = await once(worker, 'message');
       ended(task, answer);

@@ -8,10 +8,8 @@
 namespace tools {
 namespace {
 
-bool isShown(const CLI::App* app) { return !app->get_group().empty(); }
-
 std::vector<const CLI::App*> verbsOf(const CLI::App& app) {
-  return app.get_subcommands([](const CLI::App* verb) { return isShown(verb); });
+  return app.get_subcommands([](const CLI::App*) { return true; });
 }
 
 bool isNamed(const CLI::Option* option) { return !option->get_lnames().empty(); }
@@ -65,14 +63,13 @@ std::string valuedOf(const CLI::App& verb) {
   return names;
 }
 
-/// What follows options that take one of a few words, as cases of the shell.
+/// What follows options that take one of a few words, or the verb, as cases of the shell.
 std::string choiceCases(const CLI::App& verb) {
   std::string cases;
-  for (const CLI::Option* option :
-       verb.get_options([](const CLI::Option* each) { return isNamed(each); }))
+  for (const CLI::Option* option : verb.get_options())
     if (const std::string choices = choicesOf(option); !choices.empty())
-      cases +=
-          fmt::format("  '{} {}') choices='{}' ;;\n", verb.get_name(), nameOf(option), choices);
+      cases += fmt::format("  '{} {}') choices='{}' ;;\n", verb.get_name(),
+                           isNamed(option) ? nameOf(option) : verb.get_name(), choices);
   return cases;
 }
 
@@ -94,13 +91,16 @@ std::string zshArguments(const CLI::App& verb) {
   std::string arguments;
   for (const CLI::Option* option : verb.get_options()) {
     const char* const files = takesFolders(option) ? "_files -/" : "_files";
-    if (const std::string choices = choicesOf(option); isNamed(option) && !choices.empty())
+    const std::string choices = choicesOf(option);
+    if (isNamed(option) && !choices.empty())
       arguments += fmt::format(" \\\n      '{}[{}]:word:({})'", nameOf(option),
                                quoted(option->get_description()), choices);
     else if (isNamed(option))
       arguments +=
           fmt::format(" \\\n      '{}[{}]{}'", nameOf(option), quoted(option->get_description()),
                       takesValue(option) ? ":file:_files" : "");
+    else if (!choices.empty())
+      arguments += fmt::format(" \\\n      ':{}:({})'", quoted(option->get_name()), choices);
     else
       arguments += fmt::format(" \\\n      '*:{}:{}'", quoted(option->get_name()), files);
   }

@@ -6,8 +6,7 @@
 
 namespace tools {
 
-/// The script by which a shell completes the command, made from its verbs and options;
-/// hidden ones are left out.
+/// The script by which a shell completes the command, made from its verbs and options.
 std::string bashCompletion(const CLI::App& app);
 std::string zshCompletion(const CLI::App& app);
 

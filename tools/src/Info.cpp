@@ -1,11 +1,14 @@
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include <fmt/format.h>
 #include <host/ChartFiles.h>
+#include <host/DataSet.h>
+#include <host/JsonFile.h>
+#include <host/RegularFile.h>
 #include <nlohmann/json.hpp>
 
 #include "Charts.h"
@@ -18,16 +21,26 @@ namespace {
 namespace fs = std::filesystem;
 using nlohmann::ordered_json;
 
-ordered_json readJson(const fs::path& file) {
-  std::ifstream stream(file);
-  if (!stream) throw std::runtime_error(fmt::format("{}: cannot be read", file.native()));
+/// What keeps a chart from being told whole.
+using Troubles = std::vector<std::string>;
+
+ordered_json readObject(const fs::path& file, Troubles& troubles) {
   try {
-    ordered_json json = ordered_json::parse(stream);
+    ordered_json json = host::readOrderedJson(file);
     if (json.is_object()) return json;
-  } catch (const nlohmann::json::exception& error) {
-    throw std::runtime_error(fmt::format("{}: {}", file.native(), error.what()));
+    troubles.push_back(fmt::format("{}: not an object", file.native()));
+  } catch (const host::DataError& error) {
+    troubles.emplace_back(error.what());
   }
-  throw std::runtime_error(fmt::format("{}: not an object", file.native()));
+  return ordered_json::object();
+}
+
+void findDocument(const fs::path& folder, Troubles& troubles) {
+  try {
+    host::requireRegularFile(folder / "chart.xml");
+  } catch (const host::DataError& error) {
+    troubles.emplace_back(error.what());
+  }
 }
 
 ordered_json sizesIn(const fs::path& folder) {
@@ -41,22 +54,25 @@ ordered_json sizesIn(const fs::path& folder) {
 }
 
 /// What the chart asks for and is not drawn.
-ordered_json notesIn(const fs::path& folder) {
+ordered_json notesIn(const fs::path& folder, Troubles& troubles) {
   const fs::path file = folder / "chart.vg.json";
   if (!fs::exists(file)) return ordered_json::array();
-  const ordered_json notes = readJson(file).value("/usermeta/notes"_json_pointer, ordered_json());
+  const ordered_json notes =
+      readObject(file, troubles).value("/usermeta/notes"_json_pointer, ordered_json());
   return notes.is_array() ? notes : ordered_json::array();
 }
 
 /// The manifest without what it tells of single files and nodes, and what only the folder
 /// tells.
-ordered_json infoOf(const fs::path& folder) {
+ordered_json infoOf(const fs::path& folder, Troubles& troubles) {
   ordered_json info{{"folder", folder.native()}};
-  const ordered_json manifest = readJson(folder / host::manifestName);
+  findDocument(folder, troubles);
+  const ordered_json manifest = readObject(folder / host::manifestName, troubles);
   for (const auto& [key, value] : manifest.items())
     if (key != "files" && key != "calls") info[key] = value;
-  info["notes"] = notesIn(folder);
+  info["notes"] = notesIn(folder, troubles);
   info["files"] = sizesIn(folder);
+  if (!troubles.empty()) info["troubles"] = troubles;
   return info;
 }
 
@@ -107,18 +123,23 @@ void printInfo(const ordered_json& info) {
 
 Status info(const Arguments& folders, bool asJson) {
   ordered_json json = ordered_json::array();
+  Status status = good;
   for (const fs::path& chart : findCharts(folders)) {
-    ordered_json told = infoOf(chart);
+    Troubles troubles;
+    ordered_json told = infoOf(chart, troubles);
     try {
       if (!asJson) printInfo(told);
     } catch (const nlohmann::json::exception& error) {
-      throw std::runtime_error(
-          fmt::format("{}: {}", (chart / host::manifestName).native(), error.what()));
+      troubles.push_back(
+          fmt::format("{}: {}", (chart / host::manifestName).native(), host::reasonOf(error)));
     }
+    if (!troubles.empty()) status = findings;
+    for (const std::string& trouble : troubles)
+      if (!asJson) std::cerr << fmt::format("chartxml: {}\n", trouble);
     if (asJson) json.push_back(std::move(told));
   }
   if (asJson) print({{"charts", std::move(json)}});
-  return good;
+  return status;
 }
 
 } // namespace tools

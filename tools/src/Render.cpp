@@ -4,11 +4,12 @@
 #include <set>
 
 #include <fmt/format.h>
-#include <host/ChartFiles.h>
-#include <host/DataSet.h>
 #include <render/Pages.h>
 
+#include "ChartDrawing.h"
 #include "Charts.h"
+#include "Documents.h"
+#include "Output.h"
 #include "Progress.h"
 #include "Verbs.h"
 
@@ -16,95 +17,113 @@ namespace tools {
 namespace {
 
 namespace fs = std::filesystem;
+using nlohmann::ordered_json;
 
-/// What came of drawing a page.
-struct Drawn {
-  std::vector<std::string> errors{}; ///< why there is none
-  render::Findings findings{};
-};
+void say(const fs::path& place, std::string_view text) {
+  std::cerr << fmt::format("chartxml: {}: {}\n", place.native(), text);
+}
 
-/// Makes the page; what went wrong and what was found is said and told.
-Drawn drawPage(const fs::path& chart, const std::string& theme, const Progress& progress) {
-  try {
-    Drawn drawn{.findings = render::writeChart(chart, theme)};
-    if (!drawn.findings.empty()) progress.clear();
-    for (const host::Finding& finding : drawn.findings)
-      std::cerr << fmt::format("chartxml: {}: {}\n", chart.native(), finding.text);
-    return drawn;
-  } catch (const render::RenderError& error) {
+std::vector<ChartDrawing> drawPages(const std::vector<fs::path>& charts,
+                                    const PictureOptions& options, bool isQuiet) {
+  std::vector<ChartDrawing> drawings;
+  Progress progress(charts.size());
+  for (const fs::path& chart : charts) {
+    progress.step(chart.filename().native() + ", page");
+    const ChartDrawing& drawn = drawings.emplace_back(drawPage(chart, options.theme));
+    if (isQuiet || (drawn.hasPage && drawn.findings.empty())) continue;
     progress.clear();
-    std::cerr << "chartxml: " << error.what() << '\n';
-    const std::string_view reason = error.what();
-    const std::string place = chart.native() + "/";
-    return {
-        .errors = {std::string(reason.starts_with(place) ? reason.substr(place.size()) : reason)}};
+    if (!drawn.hasPage) std::cerr << fmt::format("chartxml: {}\n", drawn.refusal);
+    for (const host::Finding& finding : drawn.findings)
+      say(chart, finding.text);
+  }
+  return drawings;
+}
+
+void sayPictures(const ChartDrawing& chart) {
+  if (!chart.hasPage) return;
+  for (const std::string& error : chart.errors)
+    say(chart.folder, error);
+  for (const std::string& name : chart.removed)
+    say(chart.folder / name, "removed, as it showed the chart as it was before");
+  for (const std::string& name : chart.kept)
+    say(chart.folder / name, "left as it was drawn before");
+}
+
+void drawAllPictures(std::vector<ChartDrawing>& charts, const PictureOptions& options,
+                     bool isQuiet) {
+  std::vector<ChartDrawing*> withPage;
+  std::vector<fs::path> folders;
+  for (ChartDrawing& chart : charts) {
+    if (!chart.hasPage) continue;
+    withPage.push_back(&chart);
+    folders.push_back(chart.folder);
+  }
+  std::vector<DrawnPictures> pictures(folders.size());
+  if (options.any()) pictures = drawPictures(folders, options);
+  for (std::size_t i = 0; i < withPage.size(); ++i) {
+    settlePictures(*withPage[i], pictures[i], options);
+    if (!isQuiet) sayPictures(*withPage[i]);
   }
 }
 
-/// What the manifest lists. A manifest that cannot be read keeps the page from being
-/// drawn, which tells of it.
-host::ChartFiles listedIn(const fs::path& chart) {
-  if (!fs::exists(chart / host::manifestName)) return {};
-  try {
-    return host::readChartFiles(chart);
-  } catch (const host::DataError&) {
-    return {};
+using Galleries = std::set<fs::path>;
+
+ordered_json writeGalleries(const Galleries& galleries, bool asJson) {
+  auto json = ordered_json::array();
+  for (const fs::path& folder : galleries) {
+    render::writeGallery(folder);
+    json.push_back((folder / "index.html").native());
+    if (!asJson) std::cout << "open " << (folder / "index.html").native() << '\n';
   }
+  return json;
 }
 
-/// Lists what was made in the manifest. What was not made is not looked at: a file that
-/// somebody changed stays one that is not as listed.
-void listMade(const fs::path& chart, const Drawn& drawn, const PictureOptions& options) {
-  host::ChartFiles listed = listedIn(chart);
-  if (listed.files.empty()) return;
-  const std::pair<const char*, bool> made[] = {{"chart.html", true},
-                                               {"chart.vg.json", drawn.errors.empty()},
-                                               {"chart.svg", options.svg},
-                                               {"chart.png", options.png},
-                                               {"chart.pdf", options.pdf}};
-  for (const auto& [name, isMade] : made)
-    if (isMade && fs::is_regular_file(chart / name))
-      listed.files[name] = host::hashOf(chart / name);
-  for (const auto& [name, version] : render::versions())
-    listed.versions[name] = version;
-  listed.errors = drawn.errors;
-  listed.findings = drawn.findings;
-  host::writeChartFiles(chart, listed);
+fs::path galleryOf(const fs::path& chart) { return fs::absolute(chart).parent_path(); }
+
+bool isDamaged(const ChartDrawing& chart) {
+  const auto isChange = [](const host::Finding& finding) {
+    return finding.check == render::changedData;
+  };
+  return !chart.errors.empty() || std::ranges::any_of(chart.findings, isChange);
+}
+
+Status statusOf(const std::vector<ChartDrawing>& charts) {
+  if (std::ranges::any_of(charts, &ChartDrawing::nodeFailed)) return failed;
+  return std::ranges::any_of(charts, isDamaged) ? findings : good;
 }
 
 } // namespace
 
-Status render(const Arguments& folders, const PictureOptions& options) {
-  const std::vector<fs::path> charts = findCharts(folders);
-  std::vector<fs::path> drawn;
-  std::vector<Drawn> pages;
-  std::set<fs::path> galleries;
-  {
-    Progress progress(charts.size());
-    for (const fs::path& chart : charts) {
-      progress.step(chart.filename().native() + ", page");
-      pages.push_back(drawPage(chart, options.theme, progress));
-      if (pages.back().errors.empty()) drawn.push_back(chart);
-      galleries.insert(fs::absolute(chart).parent_path());
-    }
+Status render(const Arguments& arguments, const DocumentOptions& documents,
+              const PictureOptions& pictures, bool asJson) {
+  const std::vector<fs::path> folders = chartsToDraw(arguments, documents);
+  std::vector<ChartDrawing> charts = drawPages(folders, pictures, asJson);
+  drawAllPictures(charts, pictures, asJson);
+
+  Galleries galleries;
+  auto json = ordered_json::array();
+  for (const ChartDrawing& chart : charts) {
+    listMade(chart);
+    galleries.insert(galleryOf(chart.folder));
+    json.push_back(jsonOf(chart));
   }
-  bool allDrawn = drawn.size() == charts.size();
-  if (options.any() && !drawPictures(drawn, options)) {
-    std::cerr << "chartxml: not all pictures could be drawn\n";
-    allDrawn = false;
-  }
-  for (std::size_t i = 0; i < charts.size(); ++i)
-    listMade(charts[i], pages[i], options);
-  for (const fs::path& gallery : galleries) {
-    render::writeGallery(gallery);
-    std::cout << "open " << (gallery / "index.html").native() << '\n';
-  }
-  return allDrawn ? good : findings;
+  ordered_json pages = writeGalleries(galleries, asJson);
+  if (asJson) print({{"charts", std::move(json)}, {"galleries", std::move(pages)}});
+  return statusOf(charts);
 }
 
-Status gallery(const Arguments& folders) {
-  for (const std::string& folder : folders)
-    render::writeGallery(named(folder));
+Status gallery(const Arguments& folders, bool asJson) {
+  Galleries galleries;
+  for (const std::string& folder : folders) {
+    // Charts that failed at once have left nothing but their errors.
+    if (fs::exists(fs::path(folder) / "errors.json"))
+      galleries.insert(fs::absolute(named(folder)));
+    else
+      for (const fs::path& chart : findCharts({folder}))
+        galleries.insert(galleryOf(chart));
+  }
+  ordered_json pages = writeGalleries(galleries, asJson);
+  if (asJson) print({{"galleries", std::move(pages)}});
   return good;
 }
 

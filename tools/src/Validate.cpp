@@ -1,14 +1,13 @@
-#include <cerrno>
 #include <charconv>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <stdexcept>
 #include <string_view>
 
 #include <fmt/format.h>
+#include <host/DataSet.h>
+#include <host/RegularFile.h>
 #include <nlohmann/json.hpp>
 #include <render/Pages.h>
 #include <schema/SchemaCheck.h>
@@ -42,11 +41,11 @@ std::vector<ToValidate> documentsOf(const Arguments& filesOrFolders) {
 }
 
 std::string read(const fs::path& file) {
-  errno = 0;
+  host::requireRegularFile(file);
   std::ifstream stream(file, std::ios::binary);
   std::string bytes(std::istreambuf_iterator<char>(stream), {});
   if (stream && !stream.bad()) return bytes;
-  throw std::runtime_error(fmt::format("{}: {}", file.native(), std::strerror(errno)));
+  throw host::DataError(fmt::format("{}: cannot be read", file.native()));
 }
 
 /// What the checks of a chart folder's document against its data find, without a place.
@@ -59,6 +58,16 @@ std::vector<std::string> dataFindings(const fs::path& folder) {
     found.push_back(fmt::format(" {}", error.what()));
   }
   return found;
+}
+
+std::vector<std::string> findingsOf(const ToValidate& chart, const schema::SchemaCheck& check) {
+  std::vector<std::string> found;
+  try {
+    found = check.findings(read(chart.document));
+  } catch (const host::DataError& error) { // "<file>: <reason>"
+    return {std::string(error.what()).substr(chart.document.native().size() + 1)};
+  }
+  return found.empty() && chart.hasData ? dataFindings(chart.document.parent_path()) : found;
 }
 
 /// {"line": 3, "column": 12, "reason": "..."}; a finding about the whole document has no
@@ -85,18 +94,17 @@ Status validate(const Arguments& filesOrFolders, bool asJson) {
   const schema::SchemaCheck check;
   ordered_json json = ordered_json::array();
   std::size_t count = 0;
-  for (const auto& [document, hasData] : documents) {
-    std::vector<std::string> found = check.findings(read(document));
-    if (found.empty() && hasData) found = dataFindings(document.parent_path());
+  for (const ToValidate& chart : documents) {
+    const std::vector<std::string> found = findingsOf(chart, check);
     count += found.size();
     ordered_json list = ordered_json::array();
     for (const std::string& finding : found) {
       if (asJson)
         list.push_back(findingJson(finding));
       else
-        std::cout << fmt::format("{}:{}\n", document.native(), finding);
+        std::cout << fmt::format("{}:{}\n", chart.document.native(), finding);
     }
-    json.push_back({{"file", document.native()}, {"findings", std::move(list)}});
+    json.push_back({{"file", chart.document.native()}, {"findings", std::move(list)}});
   }
   if (asJson)
     print({{"documents", std::move(json)}});

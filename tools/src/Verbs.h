@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "Documents.h"
 #include "Pictures.h"
 #include "Status.h"
 
@@ -20,8 +21,9 @@ Status verify(const Arguments& folders, bool asJson);
 /// Tells what chart folders hold.
 Status info(const Arguments& folders, bool asJson);
 /// Makes Vega chart, page and, if asked, pictures of each chart anew, and the gallery.
-Status render(const Arguments& folders, const PictureOptions& options);
+Status render(const Arguments& foldersOrDocuments, const DocumentOptions& documents,
+              const PictureOptions& pictures, bool asJson);
 /// Makes index.html of output folders anew.
-Status gallery(const Arguments& folders);
+Status gallery(const Arguments& folders, bool asJson);
 
 } // namespace tools

@@ -20,9 +20,9 @@ using tools::Status;
 constexpr const char* exitStatus = R"text(
 Exit status:
   0  all is well
-  1  a chart is not as it should be, or cannot be drawn
+  1  a chart is not as it should be: a file of it is missing, damaged or refused
   2  the command line is not understood, or names what is not there
-  3  the work could not be done: a file cannot be read or written, Node.js is missing
+  3  the work could not be done: a file cannot be written, Node.js is missing or ended
 
 "chartxml <verb> --help" tells more of a verb; "source <(chartxml completion bash)", or
 zsh, completes verbs and options.)text";
@@ -73,10 +73,23 @@ private:
   }
 
   void addRender() {
-    CLI::App& verb = add("render", "Draw charts anew: Vega chart, page, pictures, gallery",
-                         "chartxml render charts --svg --png",
-                         [this] { return tools::render(arguments_, pictures_); });
-    takeFolders(verb, "Chart folders, or output folders that hold some");
+    CLI::App& verb =
+        add("render", "Draw charts anew: Vega chart, page, pictures, gallery",
+            "chartxml render charts --svg --png\n"
+            "  chartxml render speeds.xml --data source0.csv --output drawn",
+            [this] { return tools::render(arguments_, documents_, pictures_, asJson_); });
+    verb.add_option("file", arguments_,
+                    "Chart folders, output folders that hold some, or documents: of each a chart "
+                    "folder of its name is made")
+        ->required()
+        ->check(CLI::ExistingPath);
+    verb.add_option("--data", documents_.data,
+                    "A CSV file that a document reads, by name that of a source; else those "
+                    "beside it. May be given again")
+        ->allow_extra_args(false)
+        ->check(CLI::ExistingFile);
+    verb.add_option("--output", documents_.output,
+                    "Make the chart folders of documents here, not beside them");
     verb.add_flag("--svg", pictures_.svg, "Draw chart.svg");
     verb.add_flag("--png", pictures_.png, "Draw chart.png");
     verb.add_flag("--pdf", pictures_.pdf, "Draw chart.pdf");
@@ -85,12 +98,15 @@ private:
         ->check(CLI::IsMember(render::themes()));
     verb.add_option("--node", pictures_.node, "The Node.js program to draw pictures with")
         ->check(CLI::ExistingFile);
+    offerJson(verb);
   }
 
   void addGallery() {
-    CLI::App& verb = add("gallery", "Make index.html of an output folder anew",
-                         "chartxml gallery charts", [this] { return tools::gallery(arguments_); });
+    CLI::App& verb =
+        add("gallery", "Make index.html of an output folder anew", "chartxml gallery charts",
+            [this] { return tools::gallery(arguments_, asJson_); });
     takeFolders(verb, "Output folders");
+    offerJson(verb);
   }
 
   void addValidate() {
@@ -130,11 +146,11 @@ private:
     verb.add_option("shell", shell_, "bash or zsh")
         ->required()
         ->check(CLI::IsMember({"bash", "zsh"}));
-    verb.group("");
   }
 
   CLI::App app_{"Pages, pictures and checks of charts.", "chartxml"};
   tools::Arguments arguments_;
+  tools::DocumentOptions documents_;
   tools::PictureOptions pictures_;
   std::string shell_;
   std::string examples_;
@@ -155,6 +171,8 @@ int main(int argc, char** argv) {
     return std::cout.flush() ? status : fail(tools::failed, "the output cannot be written");
   } catch (const tools::UsageError& error) {
     return fail(tools::usage, error.what());
+  } catch (const tools::ChartError& error) {
+    return fail(tools::findings, error.what());
   } catch (const ChartException& error) {
     return fail(tools::failed, error.what());
   } catch (const std::exception& error) {
