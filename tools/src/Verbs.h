@@ -21,7 +21,7 @@ Status verify(const Arguments& folders, bool asJson);
 /// Tells what chart folders hold.
 Status info(const Arguments& folders, bool asJson);
 /// Makes Vega chart, page and, if asked, pictures of each chart anew, and the gallery.
-Status render(const Arguments& foldersOrDocuments, const DocumentOptions& documents,
+Status render(const Arguments& arguments, const DocumentOptions& documents,
               const PictureOptions& pictures, bool asJson);
 /// Makes index.html of output folders anew.
 Status gallery(const Arguments& folders, bool asJson);
