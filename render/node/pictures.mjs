@@ -78,8 +78,8 @@ async function draw(folder, {svg, png, pdf}, wrote) {
   resetSVGDefIds();
   const view = new View(parse(spec), {renderer: 'none'});
   const drawn = await view.toSVG(magnification);
+  checkSvg(drawn);
   const picture = wholeSvg(drawn, spec);
-  checkSvg(picture);
   if (svg) write('chart.svg', wholeSvg(drawn, spec, fontsOfPage(folder)));
   if (png) {
     const {Resvg} = await import('@resvg/resvg-js');
