@@ -58,7 +58,7 @@ Parts partsOf(const fs::path& document, const DocumentOptions& options) {
     parts.emplace_back(name, file);
   }
   if (document.filename() != documentName || !options.data.empty()) return parts;
-  for (const char* name : {"datapackage.json", host::manifestName})
+  for (const char* name : {"datapackage.json", host::callsName, host::manifestName})
     if (const fs::path file = document.parent_path() / name; fs::exists(file))
       parts.emplace_back(name, file);
   return parts;

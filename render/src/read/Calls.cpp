@@ -23,6 +23,7 @@ Call callOf(std::string_view text) {
 
 Calls Calls::read(const std::filesystem::path& chartFolder) {
   Calls calls;
+  if (!is_regular_file(chartFolder / host::callsName)) return calls;
   std::ifstream stream(chartFolder / host::callsName);
   const auto list = nlohmann::json::parse(stream, nullptr, false);
   if (!list.is_object()) return calls;
