@@ -1,6 +1,7 @@
-// Shows and hides the groups of a legend, by its entries and by a list of boxes.
+// Shows and hides groups and elements, by the entries of their legend and by a list of boxes.
 
 import {literal, textsOf} from './texts.js';
+import {word} from './words.js';
 
 const mostBoxes = 100;
 
@@ -9,12 +10,46 @@ const legendsOf = (spec) => [...(spec.legends ?? []), ...(spec.marks?.[0]?.legen
 
 const isShown = (signal, value) => `indexof(${signal}, ${value}) < 0`;
 
+const scaleOf = (name, spec) => scalesOf(spec).find((candidate) => candidate.name === name);
+
 /** The variable whose categories a legend shows: its scales are named by it. */
 function variableOf(legend, spec) {
   const name = legend.stroke ?? legend.fill ?? legend.shape;
-  const scale = scalesOf(spec).find((candidate) => candidate.name === name);
+  const scale = scaleOf(name, spec);
   if (scale?.type !== 'ordinal' || !Array.isArray(scale.domain)) return null;
   return {field: name.replace(/^[^_]*_/, ''), values: scale.domain};
+}
+
+/** Whether pieces of a variable begin where others end: without these they would float. */
+const isStack = ({field}, data) => data.some(({values}) => {
+  const ends = new Set(values.map(({high}) => high));
+  return values.some((row) => field in row && row.low !== 0 && row.low !== row.high && ends.has(row.low));
+});
+
+/** The groups of a variable that can be hidden, and where its rows are. */
+function groupsOf(legend, spec) {
+  const variable = variableOf(legend, spec);
+  const data = variable ? spec.data.filter(({values}) => values?.some((row) => variable.field in row)) : [];
+  if (data.length === 0 || variable.values.length > mostBoxes) return null;
+  const isPie = spec.marks[0].marks?.some(({type}) => type === 'arc');
+  if (!isPie && isStack(variable, data)) return {isStack: true};
+  const hidden = `datum[${literal(variable.field)}]`;
+  return {...variable, targets: data.map((set) => ({set, hidden}))};
+}
+
+/** The elements that a legend calls by their names, each with data of its own. */
+function elementsOf(legend, spec) {
+  const variable = variableOf(legend, spec);
+  if (!/^named\d+$/.test(variable?.field)) return null;
+  const isOf = (id, {name}) => name === id || (name.startsWith(`${id}_`) && /^\d+$/.test(name.slice(id.length + 1)));
+  const targets = variable.values.flatMap((id) =>
+    spec.data.filter((set) => isOf(id, set)).map((set) => ({set, id, hidden: literal(id)})));
+  const shown = scaleOf(`label_${variable.field}`, spec).range.map((text) => [text].flat().join(' '));
+  const isDrawn = (id) => targets.some((target) => target.id === id);
+  return {
+    field: variable.field, targets,
+    values: variable.values.filter(isDrawn), texts: shown.filter((_, i) => isDrawn(variable.values[i])),
+  };
 }
 
 /** Legends draw a hidden entry faintly and take clicks. */
@@ -32,19 +67,24 @@ function dim(legend, name, signal) {
   }
 }
 
-/** Makes the groups of the legends hideable; returns a filter for each. */
+/** Makes groups and elements of the legends hideable; returns a filter for each legend. */
 export function prepareFilters(spec) {
   const filters = [];
   for (const legend of legendsOf(spec)) {
-    const variable = variableOf(legend, spec);
-    const data = variable && spec.data.filter(({values}) => values?.some((row) => variable.field in row));
-    if (!variable || data.length === 0 || variable.values.length > mostBoxes) continue;
+    const entries = elementsOf(legend, spec) ?? groupsOf(legend, spec);
+    if (!entries) continue;
+    const title = [legend.title ?? ''].flat().join(' ');
     const signal = `hidden_${filters.length}`;
     const name = `filter_${filters.length}_`;
-    filters.push({...variable, signal, name, title: [legend.title].flat().join(' ')});
+    if (entries.isStack) {
+      spec.usermeta.stacked = title;
+      continue;
+    }
+    if (entries.values.length === 0) continue;
+    filters.push({...entries, signal, name, title});
     spec.signals.push({name: signal, value: []});
-    const expr = isShown(signal, `datum[${literal(variable.field)}]`);
-    for (const set of data) set.transform = [{type: 'filter', expr}, ...(set.transform ?? [])];
+    for (const {set, hidden} of entries.targets)
+      set.transform = [{type: 'filter', expr: isShown(signal, hidden)}, ...(set.transform ?? [])];
     dim(legend, name, signal);
   }
   return filters;
@@ -62,7 +102,7 @@ function box(text, isChecked, change) {
 
 async function addFilter(filter, {view, spec, changed}, place) {
   const column = spec.usermeta.columns.find(({field}) => field === filter.field) ?? filter;
-  const texts = await textsOf(
+  const texts = filter.texts?.map((text) => [text]) ?? await textsOf(
     filter.values.map((value) => ({[filter.field]: value})), [column], spec.config);
   const toggle = async (value) => {
     const hidden = view.signal(filter.signal);
@@ -74,7 +114,7 @@ async function addFilter(filter, {view, spec, changed}, place) {
   const set = document.createElement('fieldset');
   const legend = document.createElement('legend');
   legend.textContent = filter.title;
-  set.append(legend);
+  if (filter.title) set.append(legend);
   const inputs = new Map();
   filter.values.forEach((value, i) => {
     const {label, input} = box(texts[i][0], true, () => toggle(value));
@@ -89,4 +129,9 @@ async function addFilter(filter, {view, spec, changed}, place) {
 
 export async function addFilters(page, place) {
   for (const filter of page.filters) await addFilter(filter, page, place);
+  if (page.spec.usermeta.stacked === undefined) return;
+  const reason = document.createElement('p');
+  reason.className = 'soft';
+  reason.textContent = word('Stack^1', page.spec.usermeta.stacked);
+  place.append(reason);
 }

@@ -77,6 +77,22 @@ test('series, place and values are told', async () => {
     await withProcedure(folder, async (page) => assert.equal((await walkOf(page))[series][0], text, folder));
 });
 
+test('a legend of named elements hides each of them', () =>
+  withProcedure('weather/0001-weather', async (page) => {
+    const lines = () => page.locator('#chart .mark-line.role-mark path[d^="M"]').count();
+    assert.equal(await lines(), 1);
+    await page.getByRole('checkbox', {name: 'Mean temperature'}).uncheck();
+    await until(page, `document.querySelectorAll('#chart .mark-line.role-mark path[d^="M"]').length === 0`);
+    await page.locator('.role-legend-label text', {hasText: 'Mean temperature'}).click();
+    await until(page, `document.querySelectorAll('#chart .mark-line.role-mark path[d^="M"]').length === 1`);
+  }));
+
+test('groups that stand on each other are not hidden, and the page says so', () =>
+  withProcedure('islands/0002-islands', async (page) => {
+    assert.equal(await page.locator('fieldset').count(), 0);
+    assert.equal(await page.textContent('#filters'), 'Species: groups that stand on each other cannot be hidden.');
+  }));
+
 test('a line shows in its tooltip the place that is nearest to the pointer', () =>
   withProcedure('light/0001-light', async (page) => {
     const rowsAt = async (share) => {
