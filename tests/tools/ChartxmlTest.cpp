@@ -241,7 +241,7 @@ TEST_F(Command, DrawsInAnotherThemeUntilItDrawsInThatOfTheTemplate) {
   const auto usual = files();
   ASSERT_EQ(chartxml("render charts --svg --theme print").status, 0);
   EXPECT_THAT(svg(),
-              testing::ContainsRegex("</desc><defs><pattern id=\"p[0-9a-z]+-chartxml-rising\""));
+              testing::ContainsRegex("</style><defs><pattern id=\"p[0-9a-z]+-chartxml-rising\""));
   EXPECT_THAT(svg(), HasSubstr("fill=\"#000000\""));
   ASSERT_EQ(chartxml("render charts --svg --theme presentation").status, 0);
   std::smatch size;

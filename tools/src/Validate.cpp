@@ -60,14 +60,19 @@ std::vector<std::string> dataFindings(const fs::path& folder) {
   return found;
 }
 
-std::vector<std::string> findingsOf(const ToValidate& chart, const schema::SchemaCheck& check) {
-  std::vector<std::string> found;
+std::vector<std::string> documentFindings(const std::filesystem::path& document,
+                                          const schema::SchemaCheck& check) {
   try {
-    found = check.findings(read(chart.document));
+    return check.findings(read(document));
   } catch (const host::DataError& error) { // "<file>: <reason>"
-    return {std::string(error.what()).substr(chart.document.native().size() + 1)};
+    return std::vector(1, std::string(error.what()).substr(document.native().size() + 1));
   }
-  return found.empty() && chart.hasData ? dataFindings(chart.document.parent_path()) : found;
+}
+
+std::vector<std::string> findingsOf(const ToValidate& chart, const schema::SchemaCheck& check) {
+  std::vector<std::string> found = documentFindings(chart.document, check);
+  if (found.empty() && chart.hasData) return dataFindings(chart.document.parent_path());
+  return found;
 }
 
 /// {"line": 3, "column": 12, "reason": "..."}; a finding about the whole document has no

@@ -310,8 +310,7 @@ private:
     const bool isFilled = std::ranges::find(filled, element.type()) != filled.end();
     element.hasPatterns = isFilled && !names("Color");
     element.hasColoredPatterns = isFilled && names("Color");
-    if (!isFilled && !names("Color"))
-      notes_.add("Patterns as colors^1", {node_.name()});
+    if (!isFilled && !names("Color")) notes_.add("Patterns as colors^1", {node_.name()});
   }
 
   /// Points and lines show a second grouping; others have nothing left to show it by.
