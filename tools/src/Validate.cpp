@@ -71,7 +71,7 @@ std::vector<std::string> documentFindings(const std::filesystem::path& document,
 
 std::vector<std::string> findingsOf(const ToValidate& chart, const schema::SchemaCheck& check) {
   std::vector<std::string> found = documentFindings(chart.document, check);
-  if (found.empty() && chart.hasData) return dataFindings(chart.document.parent_path());
+  if (found.empty() && chart.hasData) found = dataFindings(chart.document.parent_path());
   return found;
 }
 
