@@ -12,9 +12,10 @@ import {addWalk, prepareWalk} from './walk.js';
 import {word} from './words.js';
 import {addZoom, prepareZoom} from './zoom.js';
 
-const pristine = document.documentElement.cloneNode(true);
 const element = (id) => document.getElementById(id);
-element('still')?.remove(); // the picture for pages without this script
+// The picture for pages without this script: a copy of the page would load it.
+element('still')?.remove();
+const pristine = document.documentElement.cloneNode(true);
 
 async function drawPage() {
   const spec = JSON.parse(element('spec').textContent);

@@ -50,7 +50,7 @@ test('black and white is hatched in the page and in what it saves, light for eve
     const at = [(box.x - svg.x) * 2 + 8, (box.y - svg.y) * 2 + 8, 80, 80].map(Math.round);
     assertHatched(await pixelsOf(page, dataUrl(await saved(page, 'Save as PNG')), at));
     const text = readFileSync(await saved(page, 'Save as SVG'), 'utf8');
-    const [, own] = /<\/desc><defs><pattern id="([^"]+)chartxml-rising"/.exec(text);
+    const [, own] = /<\/style><defs><pattern id="([^"]+)chartxml-rising"/.exec(text);
     assert.ok(text.includes(` fill="url(#${own}chartxml-rising)"`));
     await assertAccessible(page);
   }, {colorScheme: 'dark'}));

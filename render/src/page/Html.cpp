@@ -33,8 +33,8 @@ figcaption, .soft { color: var(--soft); }
 [hidden] { display: none !important; }
 .later { visibility: hidden; animation: show 0s 1.5s forwards; }
 @keyframes show { to { visibility: visible; } }
-#still { max-width: 100%; transform: translateY(-99999px); animation: come 0s 1.5s forwards; }
-@keyframes come { to { transform: none; } }
+#still { max-width: 100%; animation: wait 1.5s; }
+@keyframes wait { from, to { display: none; } }
 .bad { border-left: .3rem solid #d55e00; padding: .3rem 1rem; }
 fieldset { display: flex; flex-wrap: wrap; gap: .25rem 1.25rem; margin: .75rem 0; border: 1px solid var(--line); border-radius: .3rem; }
 #actions { display: flex; flex-wrap: wrap; gap: .5rem; }
