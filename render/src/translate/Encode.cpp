@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "text/Expression.h"
+#include "translate/Beyond.h"
 #include "translate/Groups.h"
 #include "translate/Space.h"
 #include "translate/StyleCycle.h"
@@ -180,6 +181,7 @@ void addOnPaper(Json text, Json& marks) {
 }
 
 void addMark(const Element& element, Json mark, bool isSplit, Context& context) {
+  if (liesFarBeyond(context.chart)) mark["clip"] = true;
   const std::string data = context.inPanel(element.node->id());
   const std::vector<std::string> fields =
       isSplit ? splitFields(element) : std::vector<std::string>();
