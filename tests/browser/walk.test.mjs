@@ -6,8 +6,8 @@ import {pathToFileURL} from 'node:url';
 import {charts, until, withPage} from './support.mjs';
 
 const procedures = join(charts, '../procedures');
-/** Their data have rows that are alike. */
-const repeatsRows = /components|islands|mileage|penguins|planes/;
+/** Their data have rows that are alike, or a line through their points. */
+const repeatsRows = /components|islands|mileage|penguins|planes|regions|unemployment/;
 const mostSeries = 60;
 
 /** The texts of every stop that the arrow keys come to, a list for each series. */

@@ -48,9 +48,14 @@ std::size_t Bins::of(double value) const {
 
 Bins Bins::of(const Node& statistic, const Sample& places, Notes& notes) {
   const double range = places.high() - places.low();
-  const double bins = std::floor(positive(statistic, "bins", notes));
+  double bins = std::floor(positive(statistic, "bins", notes));
   double width = positive(statistic, "bin-width", notes);
-  if (width == 0 && bins >= 1 && bins <= mostBins && range > 0)
+  if (bins > mostBins) {
+    notes.add(
+        fmt::format("{}: bins=\"{}\" are more than {} bins", statistic.name(), bins, mostBins));
+    bins = 0;
+  }
+  if (width == 0 && bins >= 1 && range > 0)
     return {.start = places.low(), .width = range / bins, .count = static_cast<std::size_t>(bins)};
   if (width > 0 && range / width > mostBins) {
     notes.add("Too many bins^3",

@@ -99,19 +99,34 @@ std::size_t rowCountOf(const Element& element, const Chart& chart) {
   return chart.folder->tables.find(sourceOf(element))->second.rowCount;
 }
 
+/// The elements that leave out so many rows of so many.
+using ElementsOfCount =
+    std::map<std::pair<std::size_t, std::size_t>, std::vector<std::string_view>>;
+
 /// One note for all elements that leave out as many rows of as many.
+void noteRows(std::string_view why, const ElementsOfCount& elementsOfCount, Notes& notes) {
+  for (const auto& [count, elements] : elementsOfCount)
+    notes.add(fmt::format("rows left out for {}: {} of {} ({})", why, count.first, count.second,
+                          fmt::join(elements, ", ")));
+}
+
 void noteMissingRows(const Chart& chart, Notes& notes) {
-  std::map<std::pair<std::size_t, std::size_t>, std::vector<std::string_view>> elementsOfCount;
+  ElementsOfCount missing, weightless;
   for (const Element& element : chart.elements) {
     const std::size_t rows = rowCountOf(element, chart);
-    std::size_t left = 0;
-    for (std::size_t row = 0; row < rows; ++row)
+    Element unweighted = element;
+    unweighted.weight = nullptr;
+    std::size_t without = 0, left = 0;
+    for (std::size_t row = 0; row < rows; ++row) {
+      const bool hasWeight = element.weight == nullptr || !element.weight->isMissing(row);
+      without += hasWeight && unweighted.draws(row) ? 0 : 1;
       left += element.draws(row) ? 0 : 1;
-    if (left > 0) elementsOfCount[{left, rows}].push_back(element.node->name());
+    }
+    if (without > 0) missing[{without, rows}].push_back(element.node->name());
+    if (left > without) weightless[{left - without, rows}].push_back(element.node->name());
   }
-  for (const auto& [count, elements] : elementsOfCount)
-    notes.add("Missing values^3", {fmt::to_string(count.first), fmt::to_string(count.second),
-                                   fmt::format("{}", fmt::join(elements, ", "))});
+  noteRows("Missing values^3", missing, notes);
+  noteRows("Without weight^3", weightless, notes);
 }
 
 void readCoordinates(Chart& chart, Notes& notes) {

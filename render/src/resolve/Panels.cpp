@@ -1,7 +1,11 @@
 #include "resolve/Panels.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <set>
+
+#include <fmt/format.h>
 
 #include "compute/Bins.h"
 #include "compute/Items.h"
@@ -81,6 +85,22 @@ Element shownIn(const Panel& panel, Element element) {
   return element;
 }
 
+/// A curve has as many items as it has steps, all for the first row of its group.
+void noteFlatValues(const Element& element, const Rows& rows, const std::vector<Item>& items,
+                    Notes& notes) {
+  if (element.method != Method::distribution) return;
+  Rows drawn;
+  std::ranges::copy_if(rows, std::back_inserter(drawn),
+                       [&](std::size_t row) { return element.draws(row); });
+  std::set<std::size_t> curves;
+  for (const Item& item : items)
+    curves.insert(item.row);
+  const std::size_t groups = groupsOf(element, drawn).size();
+  if (groups > curves.size())
+    notes.add(fmt::format("{}: values that do not differ have no normal curve: {} of {}",
+                          element.node->name(), groups - curves.size(), groups));
+}
+
 } // namespace
 
 void makePanels(Chart& chart, Notes& notes) {
@@ -97,6 +117,7 @@ void makePanels(Chart& chart, Notes& notes) {
       const Rows rows = lacksBins ? Rows() : rowsOf(element, panel, chart);
       panel.elements.push_back(shownIn(panel, element));
       panel.items.push_back(itemsOf(panel.elements.back(), rows, own ? &*own : nullptr));
+      noteFlatValues(panel.elements.back(), rows, panel.items.back(), notes);
     }
   }
 }

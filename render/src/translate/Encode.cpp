@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "text/Expression.h"
+#include "translate/Beyond.h"
 #include "translate/Groups.h"
 #include "translate/Space.h"
 #include "translate/StyleCycle.h"
@@ -141,6 +142,7 @@ void addOnPaper(Json text, Json& marks) {
 }
 
 void addMark(const Element& element, Json mark, bool isSplit, Context& context) {
+  if (liesFarBeyond(context.chart)) mark["clip"] = true;
   const std::string data = context.inPanel(element.node->id());
   if (mark["encode"]["update"].contains("tooltip")) {
     Json walk = walkOf(element, context);

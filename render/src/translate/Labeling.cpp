@@ -8,6 +8,7 @@
 
 #include "compute/Sample.h"
 #include "text/Expression.h"
+#include "translate/Beyond.h"
 #include "translate/Encode.h"
 #include "translate/Filling.h"
 #include "translate/Groups.h"
@@ -174,6 +175,7 @@ void addLabels(const Element& element, Context& context) {
             {"from", {{"data", context.inPanel(element.node->id())}}},
             {"interactive", false},
             {"encode", {{"update", std::move(update)}}}};
+  if (liesFarBeyond(context.chart)) mark["clip"] = true;
   if (isOnPattern) return addOnPaper(std::move(mark), context.parts.marks);
   context.parts.marks.push_back(std::move(mark));
 }
@@ -187,11 +189,12 @@ void addOutlierLabels(const Element& element, const char* part, Context& context
   update["align"] = {{"value", "left"}};
   update["dx"] = {{"value", 7}};
   update["dy"] = {{"value", firstLineOf(element)}};
-  context.parts.marks.push_back(
-      {{"type", "text"},
-       {"from", {{"data", fmt::format("{}_{}", context.inPanel(element.node->id()), part)}}},
-       {"interactive", false},
-       {"encode", {{"update", std::move(update)}}}});
+  Json mark{{"type", "text"},
+            {"from", {{"data", fmt::format("{}_{}", context.inPanel(element.node->id()), part)}}},
+            {"interactive", false},
+            {"encode", {{"update", std::move(update)}}}};
+  if (liesFarBeyond(context.chart)) mark["clip"] = true;
+  context.parts.marks.push_back(std::move(mark));
 }
 
 void addLabelsAlone(const Element& element, Context& context) {

@@ -34,6 +34,18 @@ Entries panelEntries(const Context& context) {
   return entries;
 }
 
+/// Whether the panel tells its value already.
+bool isOfPanel(const Variable& variable, const Context& context) {
+  const Facets& facets = context.chart.facets;
+  if (facets.isMatrix || !facets.isSplit()) return false;
+  const Panel& panel = context.panel();
+  return std::ranges::any_of(
+      std::array{&facets.columns[panel.column], &facets.rows[panel.row]},
+      [&](const FacetCell* cell) {
+        return std::ranges::find(*cell, &variable, &FacetValue::variable) != cell->end();
+      });
+}
+
 /// The name of an element whose variables do not tell it from others.
 bool needsName(const Element& element) {
   const std::string_view name = element.node->attribute("name");
@@ -175,7 +187,8 @@ std::vector<std::string> seriesEntries(const Element& element, Context& context)
   Entries entries = panelEntries(context);
   if (needsName(element)) entries.push_back(entry("", literal(element.node->attribute("name"))));
   for (const Variable* variable : seriesVariables(element))
-    if (variable->categorical) entries.push_back(rowEntry(*variable, context));
+    if (variable->categorical && !isOfPanel(*variable, context))
+      entries.push_back(rowEntry(*variable, context));
   return entries;
 }
 

@@ -136,9 +136,32 @@ TEST_F(ElementsTest, AHistogramCountsValuesFromTheLowerEndOfEachBin) {
   };
   for (const auto& [parameters, counts] : cases)
     EXPECT_EQ(drawn(bins(parameters), values, {"from", "to", "high"}), counts) << parameters;
-  drawn(bins(R"(<parameter name="bin-width" value="wide"/>)"), values, {});
+  const std::pair<std::string_view, std::string_view> refused[] = {
+      {R"(name="bin-width" value="wide")", R"(bin-width="wide" is not a positive number)"},
+      {R"(name="bin-width" value="0.001")", R"(bin-width="0.001" makes more than 1000 bins)"},
+      {R"(name="bins" value="1000000")", R"(bins="1000000" are more than 1000 bins)"},
+  };
+  for (const auto& [parameter, note] : refused) {
+    EXPECT_EQ(
+        drawn(bins(fmt::format("<parameter {}/>", parameter)), values, {"from", "to", "high"}),
+        cases[0].counts);
+    EXPECT_EQ(spec_["usermeta"]["notes"], json({fmt::format("statistic: {}", note)}));
+  }
+}
+
+TEST_F(ElementsTest, WhatIsLeftOutForItsValuesOrWeightsIsToldApart) {
+  constexpr std::string_view table = "A,B,Group\n1,1,a\n,0,a\n3,0,b\n4,-2,b\n5,,b\n";
+  const std::string curve =
+      element("line", R"(<x variable="v1"/>)" + std::string(grouped) +
+                          statistic("distribution", R"(<parameter name="type" value="normal"/>)"));
+  drawn(curve, table, {},
+        R"(<variable id="v4" sourceName="Group" source="source0" categorical="true"/>
+           <variable id="w" sourceName="B" source="source0"><meta weight="true"/></variable>)");
   EXPECT_EQ(spec_["usermeta"]["notes"],
-            json({"statistic: bin-width=\"wide\" is not a positive number"}));
+            json({"e: values that do not differ have no normal curve: 1 of 1",
+                  "there are no values to draw along x", "there are no values to draw along y",
+                  "rows left out for a missing value: 2 of 5 (e)",
+                  "rows left out for a weight of zero or less: 2 of 5 (e)"}));
 }
 
 TEST_F(ElementsTest, ANormalCurveHasTheAreaOfItsHistogram) {

@@ -167,19 +167,29 @@ TEST(NamedLegendTest, ValuesBeyondTheEndsOfTheDomainAreNoted) {
                            element("b", "interval", "", "32");
   const std::string domain =
       R"(<domain id="d" categorical="false"><interval min="5" max="15"/></domain>)";
-  const auto spec = [&](std::string_view clip) {
+  const auto spec = [&](std::string_view clip, std::string_view beyond) {
     std::string chart = document(plot, domain);
     chart.insert(chart.find("<frame id=") + 6, fmt::format(" clip=\"{}\"", clip));
     return TestFolder()
         .write("chart.xml", chart)
-        .write("source0.csv", "A,B,Group\n1,10,a\n2,20,b\n3,15,a\n")
+        .write("source0.csv", fmt::format("A,B,Group\n1,10,a\n2,{},b\n3,15,a\n", beyond))
         .spec();
   };
-  for (const auto& [clip, fate] :
-       {std::pair("false", "drawn outside the axes"), std::pair("true", "cut off")}) {
-    const json drawn = spec(clip);
+  const struct {
+    const char *clip, *beyond, *fate;
+    bool isClipped;
+  } cases[] = {{"false", "15.1", "drawn outside the axes", false},
+               {"false", "15.9", "drawn outside the axes", false},
+               {"false", "16.1", "cut off", true},
+               {"false", "4.9", "drawn outside the axes", false},
+               {"false", "4.7", "cut off", true},
+               {"true", "15.1", "cut off", true}};
+  for (const auto& [clip, beyond, fate, isClipped] : cases) {
+    const json drawn = spec(clip, beyond);
     const std::string told = "values beyond the ends that the chart gives y: 1, ";
     EXPECT_EQ(drawn["usermeta"]["notes"], json({"p: " + told + fate, "b: " + told + fate}));
+    for (const json& mark : drawn["marks"][0]["marks"])
+      EXPECT_EQ(mark["clip"], isClipped) << beyond;
     EXPECT_EQ(drawn["data"][2]["values"][0]["low"], 5) << "bars begin where the scale does";
   }
 }
