@@ -51,8 +51,8 @@ Bins Bins::of(const Node& statistic, const Sample& places, Notes& notes) {
   double bins = std::floor(positive(statistic, "bins", notes));
   double width = positive(statistic, "bin-width", notes);
   if (bins > mostBins) {
-    notes.add(
-        fmt::format("{}: bins=\"{}\" are more than {} bins", statistic.name(), bins, mostBins));
+    notes.add("Bins beyond the most^3",
+              {statistic.name(), fmt::to_string(bins), fmt::to_string(mostBins)});
     bins = 0;
   }
   if (width == 0 && bins >= 1 && range > 0)

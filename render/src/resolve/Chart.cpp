@@ -104,10 +104,10 @@ using ElementsOfCount =
     std::map<std::pair<std::size_t, std::size_t>, std::vector<std::string_view>>;
 
 /// One note for all elements that leave out as many rows of as many.
-void noteRows(std::string_view why, const ElementsOfCount& elementsOfCount, Notes& notes) {
+void noteRows(std::string_view key, const ElementsOfCount& elementsOfCount, Notes& notes) {
   for (const auto& [count, elements] : elementsOfCount)
-    notes.add(fmt::format("rows left out for {}: {} of {} ({})", why, count.first, count.second,
-                          fmt::join(elements, ", ")));
+    notes.add(key, {fmt::to_string(count.first), fmt::to_string(count.second),
+                    fmt::format("{}", fmt::join(elements, ", "))});
 }
 
 void noteMissingRows(const Chart& chart, Notes& notes) {

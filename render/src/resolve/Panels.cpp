@@ -97,8 +97,8 @@ void noteFlatValues(const Element& element, const Rows& rows, const std::vector<
     curves.insert(item.row);
   const std::size_t groups = groupsOf(element, drawn).size();
   if (groups > curves.size())
-    notes.add(fmt::format("{}: values that do not differ have no normal curve: {} of {}",
-                          element.node->name(), groups - curves.size(), groups));
+    notes.add("No normal curve^3", {element.node->name(), fmt::to_string(groups - curves.size()),
+                                    fmt::to_string(groups)});
 }
 
 } // namespace

@@ -39,11 +39,11 @@ bool isOfPanel(const Variable& variable, const Context& context) {
   const Facets& facets = context.chart.facets;
   if (facets.isMatrix || !facets.isSplit()) return false;
   const Panel& panel = context.panel();
-  return std::ranges::any_of(
-      std::array{&facets.columns[panel.column], &facets.rows[panel.row]},
-      [&](const FacetCell* cell) {
-        return std::ranges::find(*cell, &variable, &FacetValue::variable) != cell->end();
-      });
+  return std::ranges::any_of(std::array{&facets.columns[panel.column], &facets.rows[panel.row]},
+                             [&](const FacetCell* cell) {
+                               return std::ranges::find(*cell, &variable, &FacetValue::variable) !=
+                                      cell->end();
+                             });
 }
 
 /// The name of an element whose variables do not tell it from others.
