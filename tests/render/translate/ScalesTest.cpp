@@ -85,7 +85,7 @@ TEST_F(ScalesTest, ALabelOfANumberStandsInItsPlaceAtTicksInTooltipsAndInTheTable
 
 TEST_F(ScalesTest, LabelsOfCategoriesLieAsTheyFitAndWhatHasNoRoomIsToldOf) {
   const struct {
-    int count;
+    std::size_t count;
     const char* asked;
     json angle, overlap;
     std::size_t every;
@@ -96,7 +96,7 @@ TEST_F(ScalesTest, LabelsOfCategoriesLieAsTheyFitAndWhatHasNoRoomIsToldOf) {
                {40, "-30", -30, false, 2}};
   for (const auto& [count, asked, angle, overlap, every] : cases) {
     std::string table = "A,B,Group\n";
-    for (int i = 0; i < count; ++i)
+    for (std::size_t i = 0; i < count; ++i)
       table += fmt::format("1,1,a category with a long name {:03}\n", i);
     const std::string plot = fmt::format(R"(<dimension role="x"><axis><majorTicks labelAngle="{}"/>
       </axis></dimension><element type="point" id="e"><x variable="v3"/><y variable="v2"/></element>)",
