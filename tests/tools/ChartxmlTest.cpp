@@ -245,7 +245,7 @@ TEST_F(Command, DrawsInAnotherThemeUntilItDrawsInThatOfTheTemplate) {
   EXPECT_THAT(svg(), HasSubstr("fill=\"#000000\""));
   ASSERT_EQ(chartxml("render charts --svg --theme presentation").status, 0);
   std::smatch size;
-  const std::string large = svg();
+  const std::string large = svg().substr(0, 400); // the letters of the picture come after
   ASSERT_TRUE(
       std::regex_search(large, size, std::regex(R"re(width="(\S+)" .*viewBox="0 0 (\S+))re")));
   EXPECT_DOUBLE_EQ(std::stod(size[1]), 1.75 * std::stod(size[2]));

@@ -1,11 +1,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <regex>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
@@ -75,22 +78,38 @@ struct Rule {
   std::string weight, font, range;
 };
 
-std::vector<Rule> rulesOf(const std::string& css) {
-  const std::regex rule("@font-face\\{font-family:'Liberation Sans';font-weight:(\\w+);src:url\\("
-                        "data:font/woff;base64,([^)]*)\\);unicode-range:([^}]*)\\}\n");
+/// Takes a text off the front that begins after `before` and ends with `end`. Regular
+/// expressions of the standard library recurse for each letter of a font.
+std::string take(std::string_view& rest, std::string_view before, char end) {
+  EXPECT_EQ(rest.substr(0, before.size()), before);
+  rest.remove_prefix(std::min(before.size(), rest.size()));
+  const std::size_t length = std::min(rest.find(end), rest.size());
+  std::string text(rest.substr(0, length));
+  rest.remove_prefix(length);
+  return text;
+}
+
+std::string decoded(const std::string& base64) {
+  base64_decode_ctx context;
+  base64_decode_init(&context);
+  std::string bytes(BASE64_DECODE_LENGTH(base64.size()), '\0');
+  std::size_t size = bytes.size();
+  base64_decode_update(&context, &size, reinterpret_cast<std::uint8_t*>(bytes.data()),
+                       base64.size(), base64.data());
+  bytes.resize(size);
+  return bytes;
+}
+
+std::vector<Rule> rulesOf(std::string_view css) {
   std::vector<Rule> rules;
-  for (std::sregex_iterator at(css.begin(), css.end(), rule); at != std::sregex_iterator(); ++at) {
-    base64_decode_ctx context;
-    base64_decode_init(&context);
-    const std::string text = (*at)[2];
-    std::string font(BASE64_DECODE_LENGTH(text.size()), '\0');
-    std::size_t size = font.size();
-    base64_decode_update(&context, &size, reinterpret_cast<std::uint8_t*>(font.data()), text.size(),
-                         text.data());
-    font.resize(size);
-    rules.push_back({(*at)[1], font, (*at)[3]});
+  while (!css.empty()) {
+    Rule rule;
+    rule.weight = take(css, "@font-face{font-family:'Liberation Sans';font-weight:", ';');
+    rule.font = decoded(take(css, ";src:url(data:font/woff;base64,", ')'));
+    rule.range = take(css, ");unicode-range:", '}');
+    EXPECT_EQ(take(css, "}\n", '@'), "");
+    rules.push_back(std::move(rule));
   }
-  EXPECT_EQ(std::regex_replace(css, rule, ""), "");
   return rules;
 }
 
