@@ -6,6 +6,6 @@ namespace host {
 
 /// Refuses what is no regular file: who reads a pipe may wait forever. Throws DataError,
 /// "<file>: <reason>".
-void requireRegularFile(const std::filesystem::path& file);
+void requireRegularFile(const std::filesystem::path& path);
 
 } // namespace host

@@ -226,9 +226,9 @@ void findSides(std::vector<Label>& labels, const Context& context) {
   const Crowd marks = marksOf(context);
   const Cost cost(marks, context.layout);
   Crowd placed;
-  for (std::size_t i = 0; i < labels.size(); ++i) {
-    findSide(labels[i], Crowd::nobody, placed, cost, context.layout);
-    placed.add(labels[i].area());
+  for (Label& label : labels) {
+    findSide(label, Crowd::nobody, placed, cost, context.layout);
+    placed.add(label.area());
   }
   for (int round = 0; round < rounds; ++round)
     for (std::size_t i = 0; i < labels.size(); ++i) {
