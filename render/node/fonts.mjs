@@ -16,12 +16,10 @@ const filesOf = (families) => families.flatMap(({regular, bold}) => [regular, bo
 
 export const fontFiles = () => filesOf(fonts);
 
-const missing = fonts
+/** The families that are not installed. */
+export const missingFamilies = fonts
   .filter(({regular, bold}) => !existsSync(regular) || !existsSync(bold))
   .map(({family}) => family);
-
-/** The families that are not installed. */
-export const missingFamilies = () => missing;
 
 const isInSmallFonts = (character) => character === '\n' || familyOf(character) !== undefined;
 
@@ -34,7 +32,7 @@ export function fontsOf(svg) {
   const characters = [...new Set(svg.replaceAll(/<[^>]*>/g, ''))];
   const needed = characters.every(isInSmallFonts) ? fonts.filter(({isLarge}) => !isLarge) : fonts;
   return {
-    loadSystemFonts: missingFamilies().length > 0,
+    loadSystemFonts: missingFamilies.length > 0,
     fontFiles: filesOf(needed).filter((file) => existsSync(file)),
     defaultFontFamily: 'DejaVu Sans',
     sansSerifFamily: 'DejaVu Sans',

@@ -13,7 +13,7 @@ import {basename, join} from 'node:path';
 import {setImmediate} from 'node:timers/promises';
 import {isMainThread} from 'node:worker_threads';
 import {parse, resetSVGDefIds, textMetrics, View} from 'vega';
-import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from '../page/pictureTexts.js';
+import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg, withLetters} from '../page/pictureTexts.js';
 import {nameFaces} from './faces.mjs';
 import {fontsOf, missingFamilies} from './fonts.mjs';
 import {checkSize, checkSvg} from './limits.mjs';
@@ -80,7 +80,7 @@ async function draw(folder, {svg, png, pdf}, wrote) {
   const drawn = await view.toSVG(magnification);
   checkSvg(drawn);
   const picture = wholeSvg(drawn, spec);
-  if (svg) write('chart.svg', wholeSvg(drawn, spec, fontsOfPage(folder)));
+  if (svg) write('chart.svg', withLetters(picture, fontsOfPage(folder)));
   if (png) {
     const {Resvg} = await import('@resvg/resvg-js');
     const named = nameFaces(anchorClippedGroups(picture));
@@ -118,10 +118,9 @@ async function drawInTurn(tasks, begun, ended) {
 const tell = (event) => writeSync(1, `${JSON.stringify(event)}\n`);
 
 async function drawAll() {
-  const missing = missingFamilies();
   const {folders, ...formats} = JSON.parse(readFileSync(0, 'utf8'));
-  if ((formats.svg || formats.png) && missing.length > 0)
-    console.error(`chartxml: fonts that are not installed: ${missing.join(', ')}; other fonts take their place in pictures, or characters are missing`);
+  if ((formats.svg || formats.png) && missingFamilies.length > 0)
+    console.error(`chartxml: fonts that are not installed: ${missingFamilies.join(', ')}; other fonts take their place in pictures, or characters are missing`);
   const showLine = (text) => process.stderr.isTTY && process.stderr.write(`\r\x1B[K${text}`);
   const tasks = folders.map((folder) => ({folder, formats}));
   let done = 0;

@@ -17,15 +17,18 @@ export const textsOfPicture = (spec) => ({
 export const magnificationOf = (spec) => spec.usermeta?.theme?.magnification ?? 1;
 
 /**
- * Vega's SVG of a chart with its texts, its patterns and its letters, which are rules of
- * CSS, as the first elements, and with ids of its own.
+ * Vega's SVG of a chart with its texts and its patterns as the first elements, and with ids
+ * of its own.
  */
-export function wholeSvg(svg, spec, fonts = '') {
+export function wholeSvg(svg, spec) {
   const {title, description} = textsOfPicture(spec);
   const texts = `<title>${escape(title)}</title><desc>${escape(description)}</desc>${patternsOf(spec)}`;
-  const own = withOwnIds(svg.replace(/<svg[^>]*>/, (open) => open + texts));
-  return fonts ? own.replace('</desc>', `</desc><style>${fonts}</style>`) : own;
+  return withOwnIds(svg.replace(/<svg[^>]*>/, (open) => open + texts));
 }
+
+/** A whole SVG with its letters, which are rules of CSS; there may be none. */
+export const withLetters = (svg, fonts) =>
+  fonts ? svg.replace('</desc>', `</desc><style>${fonts}</style>`) : svg;
 
 const crcTable = Uint32Array.from({length: 256}, (_, byte) => {
   let code = byte;

@@ -2,7 +2,7 @@ import {View} from 'vega';
 import {csvOf} from './csv.js';
 import {expressions} from './expressions.js';
 import {fontsOfPage} from './fonts.js';
-import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg} from './pictureTexts.js';
+import {magnificationOf, pngWithTexts, textsOfPicture, wholeSvg, withLetters} from './pictureTexts.js';
 import {word} from './words.js';
 
 const pngScale = 2;
@@ -18,7 +18,7 @@ function asTheme({runtime, view, filters, zoom}) {
 }
 
 const svg = async (page) =>
-  wholeSvg(await asTheme(page).toSVG(magnificationOf(page.spec)), page.spec, fontsOfPage());
+  withLetters(wholeSvg(await asTheme(page).toSVG(magnificationOf(page.spec)), page.spec), fontsOfPage());
 
 /** From the SVG, since Vega's own drawing of pixels knows no patterns. */
 async function png(page) {

@@ -118,9 +118,10 @@ void noteMissingRows(const Chart& chart, Notes& notes) {
     unweighted.weight = nullptr;
     std::size_t without = 0, left = 0;
     for (std::size_t row = 0; row < rows; ++row) {
+      if (element.draws(row)) continue;
       const bool hasWeight = element.weight == nullptr || !element.weight->isMissing(row);
       without += hasWeight && unweighted.draws(row) ? 0 : 1;
-      left += element.draws(row) ? 0 : 1;
+      ++left;
     }
     if (without > 0) missing[{without, rows}].push_back(element.node->name());
     if (left > without) weightless[{left - without, rows}].push_back(element.node->name());

@@ -110,23 +110,33 @@ Json linesOf(const Run& run) {
   return lines.size() > 1 ? lines : Json(category.label);
 }
 
-/// The room that the labels of a level need.
-double heightOf(const std::vector<Run>& runs) {
+/// The labels of one level of columns and the room that they need.
+struct Level {
+  std::vector<Run> runs;
+  std::vector<Json> lines{}; ///< of each run
   double height = lineHeight;
-  for (const Run& run : runs)
-    if (const Json lines = linesOf(run); lines.is_array())
-      height = std::max(height, lineHeight + lineDistance * static_cast<double>(lines.size() - 1));
-  return height;
+};
+
+Level levelOf(std::size_t level, const Context& context) {
+  Level labels{.runs = runsOf(context.chart.facets.columns, level, context.layout.left,
+                              context.layout.panelWidth)};
+  for (const Run& run : labels.runs) {
+    const Json& lines = labels.lines.emplace_back(linesOf(run));
+    const double more = lines.is_array() ? static_cast<double>(lines.size() - 1) : 0;
+    labels.height = std::max(labels.height, lineHeight + lineDistance * more);
+  }
+  return labels;
 }
 
-void labelLevel(std::size_t level, const std::vector<Run>& runs, double y, Context& context) {
+void addLevel(std::size_t level, const Level& labels, double y, Context& context) {
   angleOf(level + 1, 0, context);
-  for (const Run& run : runs) {
+  for (std::size_t i = 0; i < labels.runs.size(); ++i) {
+    const Run& run = labels.runs[i];
     Text text = labelOf(run);
-    text.text = linesOf(run);
+    text.text = labels.lines[i];
     text.y = y;
     if (hasCells(level + 1, context.chart))
-      addStrip({run.start(), y - heightOf(runs) / 2, run.length, heightOf(runs)}, context);
+      addStrip({run.start(), y - labels.height / 2, run.length, labels.height}, context);
     addText(text, context);
   }
 }
@@ -134,17 +144,15 @@ void labelLevel(std::size_t level, const std::vector<Run>& runs, double y, Conte
 void labelColumns(Context& context) {
   const std::vector<FacetCell>& columns = context.chart.facets.columns;
   const bool alongAxis = context.chart.facets.areAlongAxis;
-  std::vector<std::vector<Run>> levels;
+  std::vector<Level> levels;
   double distance = alongAxis ? axisRoom(context) : 0; // from the plot to the title
-  for (std::size_t level = 0; level < depthOf(columns); ++level) {
-    levels.push_back(runsOf(columns, level, context.layout.left, context.layout.panelWidth));
-    distance += heightOf(levels.back());
-  }
+  for (std::size_t level = 0; level < depthOf(columns); ++level)
+    distance += levels.emplace_back(levelOf(level, context)).height;
   const double ofTitle = distance;
   for (std::size_t level = 0; level < levels.size(); ++level) {
-    const double middle = distance - heightOf(levels[level]) / 2;
-    labelLevel(level, levels[level], alongAxis ? context.layout.height + middle : -middle, context);
-    distance -= heightOf(levels[level]);
+    const double middle = distance - levels[level].height / 2;
+    addLevel(level, levels[level], alongAxis ? context.layout.height + middle : -middle, context);
+    distance -= levels[level].height;
   }
   const Layout& layout = context.layout;
   addText(
